@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Goal.h"
+
+#include <QList>
+#include <QStringList>
+
+/// What the person has set up. A store holds one such record.
+class AppSettings {
+public:
+    using Goals = QList<std::shared_ptr<Goal>>;
+
+    AppSettings() = default;
+    AppSettings(const AppSettings&) = delete;
+    AppSettings& operator=(const AppSettings&) = delete;
+    ~AppSettings() = default;
+
+    /// The goals that a new record starts with: built once per process and shared by every new record.
+    [[nodiscard]] static const Goals& defaultGoals();
+
+    QProperty<Goals> daysPerWeekGoals{defaultGoals()};
+    /// Names of the Wi-Fi networks that stand for the office, as they were found or typed.
+    QProperty<QStringList> inOfficeSsids;
+    /// The first-run welcome has not been completed.
+    QProperty<bool> firstTime{true};
+    QProperty<bool> wifiTrackingEnabled{false};
+    QProperty<bool> vacationDaysCountAsInOffice{false};
+    QProperty<bool> notificationsEnabled{true};
+    QProperty<qint64> checkEveryInMinutes{30};
+};
