@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MarkedText.h"
+
+struct AttendanceStatistics;
+
+/// The stretch of time that a progress tracker speaks of.
+enum class PeriodWord { Month, Quarter };
+
+/// "12 days in the office this **quarter**"
+[[nodiscard]] MarkedText headlineText(qint64 inOffice, PeriodWord period);
+
+/// "**3 more days** to reach goal **Team days**", or the goal's value where it has no description ("2.50/5").
+/// A goal that is reached needs 0 days. Empty when there is no target goal.
+[[nodiscard]] MarkedText goalText(const AttendanceStatistics& statistics);
+
+/// "You've reached 2.33 average days in office per week"
+[[nodiscard]] QString averageText(double average);
+
+/// "64 workdays"
+[[nodiscard]] QString workdaysText(qint64 workdays);
+
+/// "2.50": two decimals, as every number of days per week is shown.
+[[nodiscard]] QString twoDecimals(double value);
+
+/// The value of a goal as it is named where it has no description, such as "2.50/5".
+[[nodiscard]] QString goalValueText(double value);
