@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "JsonLists.h"
+
+#include "StoreError.h"
+
+#include <nlohmann/json.hpp>
+
+using namespace Qt::StringLiterals;
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+Json encodedDay(const Day& day)
+{
+    return {{"id", day.id}, {"state", rawValue(day.state).data()}, {"isWorkday", day.isWorkday}};
+}
+
+QString textOf(const Json& json)
+{
+    return QString::fromStdString(json.get_ref<const std::string&>());
+}
+
+Day decodedDay(const Json& json)
+{
+    const Json& id = json.at("id");
+    if (!id.is_number_integer() || id > std::numeric_limits<qint64>::max())
+        throw StoreError(u"the number of a day is no whole number"_s);
+    const QString raw = textOf(json.at("state"));
+    const auto state = dayStateFromRawValue(raw);
+    if (!state)
+        throw StoreError(u"\"%1\" is no state of a day"_s.arg(raw));
+    return {.id = id.get<qint64>(), .state = *state, .isWorkday = json.at("isWorkday").get_ref<const bool&>()};
+}
+
+// The library reports text that is no JSON, a missing key and a wrong type by exceptions of its own.
+template <class Item> QList<Item> decodedList(const std::string& text, Item (*decodedItem)(const Json&))
+{
+    try {
+        const Json json = Json::parse(text);
+        if (!json.is_array())
+            throw StoreError(u"it is no list"_s);
+        QList<Item> items;
+        items.reserve(static_cast<qsizetype>(json.size()));
+        for (const Json& item : json)
+            items.append(decodedItem(item));
+        return items;
+    } catch (const Json::exception& error) {
+        throw StoreError(QString::fromUtf8(error.what()));
+    }
+}
+
+} // namespace
+
+std::string encodedDays(const QList<Day>& days)
+{
+    Json list = Json::array();
+    for (const Day& day : days)
+        list.push_back(encodedDay(day));
+    return list.dump();
+}
+
+QList<Day> decodedDays(const std::string& json)
+{
+    return decodedList<Day>(json, decodedDay);
+}
+
+std::string encodedStrings(const QStringList& strings)
+{
+    Json list = Json::array();
+    for (const QString& string : strings)
+        list.push_back(string.toStdString());
+    return list.dump();
+}
+
+QStringList decodedStrings(const std::string& json)
+{
+    return decodedList<QString>(json, textOf);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ModelContainer.h"
+
+#include "ModelContext.h"
+#include "Schema.h"
+#include "StoreError.h"
+#include "StoreFile.h"
+
+#include <QFile>
+
+#include <SQLiteCpp/Database.h>
+
+namespace {
+
+// A save on the click path waits no longer than this for another program; it is tried again with the next one.
+constexpr int saveLockTimeout = 10;
+
+} // namespace
+
+ModelContainer::ModelContainer(ModelConfiguration configuration)
+    : m_configuration(std::move(configuration))
+{
+    try {
+        open();
+    } catch (const SQLite::Exception& error) {
+        throw StoreError(descriptionOf(error));
+    }
+}
+
+ModelContainer::~ModelContainer() = default;
+
+void ModelContainer::open()
+{
+    if (!QFile::exists(m_configuration.path))
+        createStoreFile(m_configuration.path);
+    m_database = std::make_unique<SQLite::Database>(m_configuration.path.toStdString(), SQLite::OPEN_READWRITE,
+                                                    m_configuration.lockTimeout);
+    verifyStore(*m_database);
+    m_database->exec("PRAGMA synchronous = FULL");
+    m_database->setBusyTimeout(saveLockTimeout);
+    m_context = std::make_unique<ModelContext>(*m_database);
+    // Goals and settings are few and needed at once; reading them here makes damage a failure of the opening.
+    static_cast<void>(m_context->fetchSettings());
+}

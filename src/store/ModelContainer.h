@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class ModelContext;
+
+namespace SQLite {
+class Database;
+}
+
+struct ModelConfiguration {
+    QString name;
+    /// The store file.
+    QString path;
+    /// How long opening waits for another program that holds the store, in milliseconds.
+    int lockTimeout = 5000;
+};
+
+/// An open data store.
+class ModelContainer {
+public:
+    /// Opens the store, or creates it where there is none. Throws a StoreError that says what is wrong; a file that is
+    /// there is then unchanged.
+    explicit ModelContainer(ModelConfiguration configuration);
+    ~ModelContainer();
+    ModelContainer(const ModelContainer&) = delete;
+    ModelContainer& operator=(const ModelContainer&) = delete;
+
+    [[nodiscard]] const ModelConfiguration& configuration() const { return m_configuration; }
+    /// The one context through which all records are read and written.
+    [[nodiscard]] ModelContext& mainContext() { return *m_context; }
+
+private:
+    void open();
+
+    ModelConfiguration m_configuration;
+    std::unique_ptr<SQLite::Database> m_database;
+    std::unique_ptr<ModelContext> m_context;
+};

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ModelContext.h"
+
+#include "RecordTable.h"
+#include "Schema.h"
+
+#include <QLoggingCategory>
+
+#include <SQLiteCpp/Transaction.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logStore, "pellory.store", QtInfoMsg)
+
+// Views know the store's own error alone.
+template <class Fetch> auto withStoreErrors(Fetch fetch)
+{
+    try {
+        return fetch();
+    } catch (const SQLite::Exception& error) {
+        throw StoreError(descriptionOf(error));
+    }
+}
+
+template <class Mapping> auto fetchAll(RecordTable<Mapping>& table)
+{
+    return withStoreErrors([&] { return table.fetch({{}, {}, [](const auto&) { return true; }}); });
+}
+
+} // namespace
+
+struct ModelContext::Tables {
+    RecordTable<MonthMapping> months;
+    RecordTable<GoalMapping> goals;
+    RecordTable<SettingsMapping> settings;
+};
+
+ModelContext::ModelContext(SQLite::Database& database)
+    : m_database(database)
+{
+    const auto changed = [this] { scheduleSave(); };
+    m_tables.reset(new Tables{{database, MonthMapping(), changed},
+                              {database, GoalMapping(), changed},
+                              {database, SettingsMapping{[this] { return fetchGoals(); }}, changed}});
+}
+
+ModelContext::~ModelContext()
+{
+    save();
+}
+
+QList<std::shared_ptr<Month>> ModelContext::fetchMonths()
+{
+    return fetchAll(m_tables->months);
+}
+
+QList<std::shared_ptr<Goal>> ModelContext::fetchGoals()
+{
+    return fetchAll(m_tables->goals);
+}
+
+QList<std::shared_ptr<AppSettings>> ModelContext::fetchSettings()
+{
+    return fetchAll(m_tables->settings);
+}
+
+QList<std::shared_ptr<Month>> ModelContext::fetchMonths(int year, int month)
+{
+    const auto matches = [=](const Month& candidate) { return candidate.year == year && candidate.month == month; };
+    return withStoreErrors([&] {
+        return m_tables->months.fetch({" WHERE year = ? AND month = ?", {year, month}, matches});
+    });
+}
+
+void ModelContext::insert(const std::shared_ptr<Month>& month)
+{
+    m_tables->months.insert(month);
+}
+
+void ModelContext::insert(const std::shared_ptr<Goal>& goal)
+{
+    m_tables->goals.insert(goal);
+}
+
+void ModelContext::insert(const std::shared_ptr<AppSettings>& settings)
+{
+    m_tables->settings.insert(settings);
+    insertNewGoals();
+}
+
+bool ModelContext::save()
+{
+    m_saveScheduled = false;
+    if (!hasChanges())
+        return true;
+    try {
+        writeChanges();
+        return true;
+    } catch (const SQLite::Exception& error) {
+        qCCritical(logStore).noquote() << "Could not save:"_L1 << descriptionOf(error);
+        return false;
+    }
+}
+
+bool ModelContext::hasChanges() const
+{
+    return m_tables->months.hasChanges() || m_tables->goals.hasChanges() || m_tables->settings.hasChanges();
+}
+
+void ModelContext::scheduleSave()
+{
+    if (m_saveScheduled)
+        return;
+    m_saveScheduled = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            // An explicit save in the same turn has done it, or has failed and is not to fail twice.
+            if (m_saveScheduled)
+                save();
+        },
+        Qt::QueuedConnection);
+}
+
+void ModelContext::insertNewGoals()
+{
+    for (const auto& settings : m_tables->settings.changedRecords()) {
+        for (const auto& goal : settings->daysPerWeekGoals.value())
+            m_tables->goals.insert(goal);
+    }
+}
+
+void ModelContext::writeChanges()
+{
+    insertNewGoals();
+    SQLite::Transaction transaction(m_database, SQLite::TransactionBehavior::IMMEDIATE);
+    m_tables->months.write();
+    m_tables->goals.write();
+    m_tables->settings.write();
+    transaction.commit();
+    m_tables->months.written();
+    m_tables->goals.written();
+    m_tables->settings.written();
+    m_saveScheduled = false; // inserting the goals of a changed list has asked for a save again
+}

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Schema.h"
+
+#include "RecordMapping.h"
+#include "StoreError.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int applicationId = 0x50656c6c; // "Pell"
+constexpr int storeVersion = 1;
+
+constexpr const char* monthIndexSql = "CREATE INDEX month_by_period ON month (year, month)";
+
+const TableLayout* const tables[]{&MonthMapping::layout, &GoalMapping::layout, &SettingsMapping::layout};
+
+int pragma(SQLite::Database& database, const char* name)
+{
+    return database.execAndGet(std::string("PRAGMA ") + name).getInt();
+}
+
+void verifyMarks(SQLite::Database& database)
+{
+    if (pragma(database, "application_id") != applicationId)
+        throw StoreError(u"The file is not a data store of Pellory."_s);
+    const int version = pragma(database, "user_version");
+    if (version > storeVersion)
+        throw StoreError(u"The data store was written by a newer version of Pellory (format %1, this version knows "
+                         "format %2). Install that version to open it."_s.arg(version)
+                             .arg(storeVersion));
+    if (version < storeVersion)
+        throw StoreError(u"The data store has the unknown format %1."_s.arg(version));
+}
+
+void verifyHas(SQLite::Database& database, const std::string& createSql, const char* name)
+{
+    SQLite::Statement query(database, "SELECT sql FROM sqlite_schema WHERE name = ?");
+    query.bind(1, name);
+    if (!query.executeStep())
+        throw StoreError(u"The data store lacks \"%1\"."_s.arg(QLatin1StringView(name)));
+    if (query.getColumn(0).getString() != createSql)
+        throw StoreError(u"\"%1\" in the data store has another form than expected."_s.arg(QLatin1StringView(name)));
+}
+
+void verifySchema(SQLite::Database& database)
+{
+    for (const TableLayout* table : tables)
+        verifyHas(database, table->createSql(), table->name);
+    verifyHas(database, monthIndexSql, "month_by_period");
+}
+
+void verifyPages(SQLite::Database& database)
+{
+    const std::string finding = database.execAndGet("PRAGMA integrity_check(1)").getString();
+    if (finding != "ok")
+        throw StoreError(u"The data store is damaged: %1"_s.arg(QString::fromStdString(finding)));
+}
+
+template <class Mapping> void verifyRecords(SQLite::Database& database)
+{
+    SQLite::Statement rows(database, Mapping::layout.selectSql());
+    while (rows.executeStep()) {
+        try {
+            static_cast<void>(readRow(rows, Mapping::layout));
+        } catch (const StoreError& error) {
+            throw StoreError(u"The data store is damaged: record %1 of \"%2\" cannot be read, %3."_s
+                                 .arg(rows.getColumn(0).getInt64())
+                                 .arg(QLatin1StringView(Mapping::layout.name), error.description()));
+        }
+    }
+}
+
+} // namespace
+
+void createSchema(SQLite::Database& database)
+{
+    SQLite::Transaction transaction(database);
+    database.exec("PRAGMA application_id = " + std::to_string(applicationId));
+    database.exec("PRAGMA user_version = " + std::to_string(storeVersion));
+    for (const TableLayout* table : tables)
+        database.exec(table->createSql());
+    database.exec(monthIndexSql);
+    transaction.commit();
+}
+
+void verifyStore(SQLite::Database& database)
+{
+    verifyMarks(database);
+    verifySchema(database);
+    verifyPages(database);
+    verifyRecords<MonthMapping>(database);
+    verifyRecords<GoalMapping>(database);
+    verifyRecords<SettingsMapping>(database);
+}
+
+QString descriptionOf(const SQLite::Exception& error)
+{
+    const QString detail = QString::fromUtf8(error.what());
+    switch (error.getErrorCode()) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return u"The data store is in use by another program. Close that program and start Pellory again."_s;
+    case SQLITE_NOTADB:
+        return u"The file is not a data store of Pellory (%1)."_s.arg(detail);
+    case SQLITE_CORRUPT:
+        return u"The data store is damaged (%1)."_s.arg(detail);
+    case SQLITE_FULL:
+        return u"The disk is full (%1)."_s.arg(detail);
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+        return u"The data store or its folder cannot be written (%1)."_s.arg(detail);
+    default:
+        return u"The data store cannot be used (%1)."_s.arg(detail);
+    }
+}
