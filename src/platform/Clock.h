@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+
+/// Tells the time, and when a new day has begun.
+class Clock : public QObject {
+    Q_OBJECT
+
+public:
+    /// The local date and time.
+    [[nodiscard]] virtual QDateTime now() const = 0;
+    [[nodiscard]] QDate today() const { return now().date(); }
+
+Q_SIGNALS:
+    /// today() may be another day than it was: midnight has passed, or the clock was set.
+    void dayChanged();
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PortalAppearance.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto service = u"org.freedesktop.portal.Desktop"_s;
+const auto path = u"/org/freedesktop/portal/desktop"_s;
+const auto settingsInterface = u"org.freedesktop.portal.Settings"_s;
+const auto appearanceGroup = u"org.freedesktop.appearance"_s;
+const auto colorSchemeKey = u"color-scheme"_s;
+
+} // namespace
+
+void PortalAppearance::start()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    // The match on group and key keeps every other setting of the desktop from waking this process.
+    bus.connect(service, path, settingsInterface, u"SettingChanged"_s, {appearanceGroup, colorSchemeKey}, u"ssv"_s,
+                this, SLOT(handleSettingChanged(QString, QString, QDBusVariant)));
+
+    auto read = QDBusMessage::createMethodCall(service, path, settingsInterface, u"Read"_s);
+    read << appearanceGroup << colorSchemeKey;
+    auto* call = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, &PortalAppearance::handleAnswer);
+}
+
+void PortalAppearance::handleAnswer(QDBusPendingCallWatcher* call)
+{
+    call->deleteLater();
+    const QDBusPendingReply<QDBusVariant> reply = *call;
+    if (reply.isValid())
+        report(reply.value().variant());
+}
+
+void PortalAppearance::handleSettingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+{
+    if (group == appearanceGroup && key == colorSchemeKey)
+        report(value.variant());
+}
+
+void PortalAppearance::report(const QVariant& value)
+{
+    // "Read" wraps its answer in one variant more than the signal does.
+    const QVariant scheme = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    bool isNumber = false;
+    const bool isDark = scheme.toUInt(&isNumber) == 1;
+    if (isNumber)
+        Q_EMIT colorSchemeReported(isDark ? ColorScheme::Dark : ColorScheme::Light);
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SystemClock.h"
+
+#include <QLoggingCategory>
+#include <QSocketNotifier>
+
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+namespace {
+
+Q_LOGGING_CATEGORY(logClock, "pellory.clock", QtInfoMsg)
+
+} // namespace
+
+SystemClock::SystemClock()
+    : m_timer(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC))
+{
+    if (m_timer < 0) {
+        qCWarning(logClock, "No timer for midnight: %s", qUtf8Printable(qt_error_string()));
+        return;
+    }
+    m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::wake);
+    sleepUntilMidnight();
+}
+
+SystemClock::~SystemClock()
+{
+    m_notifier.reset();
+    if (m_timer >= 0)
+        close(m_timer);
+}
+
+QDateTime SystemClock::now() const
+{
+    return QDateTime::currentDateTime();
+}
+
+void SystemClock::sleepUntilMidnight()
+{
+    // An absolute time on this clock also comes true after a suspend, and CANCEL_ON_SET ends the sleep when somebody
+    // sets the clock.
+    const QDateTime midnight = today().addDays(1).startOfDay();
+    itimerspec until{};
+    until.it_value.tv_sec = midnight.toSecsSinceEpoch();
+    timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &until, nullptr);
+}
+
+void SystemClock::wake()
+{
+    // The read fails with ECANCELED when the clock was set: either way the day may be another one now.
+    quint64 expirations = 0;
+    static_cast<void>(read(m_timer, &expirations, sizeof expirations));
+    sleepUntilMidnight();
+    Q_EMIT dayChanged();
+}
