@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QString;
+
+/// The one door to every modal message and question, so that a test can answer in a person's place.
+class Alerts {
+public:
+    Alerts() = default;
+    Alerts(const Alerts&) = delete;
+    Alerts& operator=(const Alerts&) = delete;
+    virtual ~Alerts() = default;
+
+    /// Shows a message about a failure and returns when it is dismissed.
+    virtual void showCritical(const QString& message, const QString& informativeText) = 0;
+    /// Asks a question with two answers; true only when the first button was pressed.
+    [[nodiscard]] virtual bool confirmWarning(const QString& message, const QString& informativeText,
+                                              const QString& firstButton, const QString& secondButton) = 0;
+};

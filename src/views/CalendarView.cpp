@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CalendarView.h"
+
+#include "Clock.h"
+#include "CommandClickableButton.h"
+#include "Fonts.h"
+#include "Month.h"
+#include "StatisticsTexts.h"
+#include "StatusPicker.h"
+#include "Theme.h"
+#include "ViewParts.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int columns = 7;
+// The last row holds two cells. The 38th cell of a month is never needed: the longest month that starts latest ends in
+// the 37th.
+constexpr qsizetype drawnCells = 37;
+constexpr int firstCellRow = 3;
+constexpr qreal highlightRadius = 12.0;
+constexpr float highlightOpacity = 0.1F;
+
+} // namespace
+
+CalendarView::CalendarView(const ViewParts& parts, bool highlighted, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_editor(parts.context)
+    , m_highlighted(highlighted)
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setHorizontalSpacing(2);
+    grid->setVerticalSpacing(0);
+    addHeader(*grid);
+    addWeekdays(*grid);
+    addCells(*grid);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(&parts.clock, &Clock::dayChanged, this, &CalendarView::refresh);
+}
+
+void CalendarView::addHeader(QGridLayout& grid)
+{
+    m_name = new QLabel;
+    m_name->setFont(fonts::title(font()));
+    m_name->setAlignment(Qt::AlignCenter);
+    m_workdays = new QLabel;
+    m_workdays->setFont(fonts::subheadline(font()));
+    m_workdays->setForegroundRole(QPalette::PlaceholderText);
+    m_workdays->setAlignment(Qt::AlignCenter);
+    m_workdays->setContentsMargins(0, 0, 0, 10);
+    grid.addWidget(m_name, 0, 0, 1, columns);
+    grid.addWidget(m_workdays, 1, 0, 1, columns);
+}
+
+void CalendarView::addWeekdays(QGridLayout& grid)
+{
+    static constexpr const char* letters[columns]{
+        QT_TR_NOOP("S"), QT_TR_NOOP("M"), QT_TR_NOOP("T"), QT_TR_NOOP("W"),
+        QT_TR_NOOP("T"), QT_TR_NOOP("F"), QT_TR_NOOP("S"),
+    };
+    for (int column = 0; column < columns; ++column) {
+        auto* letter = new QLabel(tr(letters[column]));
+        letter->setFont(fonts::scaled(font(), 1.05, QFont::Medium));
+        letter->setForegroundRole(QPalette::PlaceholderText);
+        letter->setAlignment(Qt::AlignCenter);
+        letter->setContentsMargins(0, 0, 0, 6);
+        grid.addWidget(letter, 2, column);
+    }
+}
+
+void CalendarView::addCells(QGridLayout& grid)
+{
+    m_cells.reserve(drawnCells);
+    for (qsizetype index = 0; index < drawnCells; ++index) {
+        m_cells.push_back(makeCell(index));
+        grid.addWidget(m_cells.back(), firstCellRow + static_cast<int>(index) / columns,
+                       static_cast<int>(index) % columns, Qt::AlignCenter);
+    }
+}
+
+CommandClickableButton* CalendarView::makeCell(qsizetype index)
+{
+    const auto operation = [this, index](Operation change) {
+        return [this, index, change] { (m_editor.*change)(*m_month, index); };
+    };
+    auto* cell = new CommandClickableButton({operation(&DayEditor::cycleDayState), operation(&DayEditor::resetDayState),
+                                             operation(&DayEditor::toggleWillBeInOffice),
+                                             operation(&DayEditor::toggleVacationDay)},
+                                            m_parts.viewSettings, this);
+    QSizePolicy policy = cell->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    cell->setSizePolicy(policy);
+    cell->setFocusPolicy(Qt::ClickFocus);
+    cell->setVisible(false);
+    cell->installEventFilter(this);
+    connect(cell, &CommandClickableButton::menuRequested, this,
+            [this, index](const QPoint& position) { showPicker(index, position); });
+    return cell;
+}
+
+void CalendarView::showPicker(qsizetype index, const QPoint& position)
+{
+    // The month is kept alive, and the one that was clicked is marked even if another is shown by then.
+    QMenu* menu = makeStatusPicker(
+        this, [month = m_month, index](DayState state) { DayEditor::setDayState(*month, index, state); });
+    menu->popup(position);
+}
+
+void CalendarView::setMonth(const std::shared_ptr<Month>& month)
+{
+    m_month = month;
+    m_followers.clear();
+    m_followers.push_back(month->days.addNotifier([this] { refresh(); }));
+    m_followers.push_back(month->name.addNotifier([this] { refresh(); }));
+    for (CommandClickableButton* cell : m_cells)
+        cell->resetHover();
+    refresh();
+    const QDate today = m_parts.clock.today();
+    const bool isThisMonth = today.year() == month->year && today.month() == month->month;
+    setTabStop(m_cells[static_cast<std::size_t>(*month->indexOf(isThisMonth ? today.day() : 1))]);
+}
+
+void CalendarView::focusDay(int dayOfMonth)
+{
+    const auto index = m_month->indexOf(std::min<int>(dayOfMonth, m_month->daysInMonth));
+    m_cells[static_cast<std::size_t>(*index)]->setFocus(Qt::TabFocusReason);
+}
+
+QString CalendarView::title(QDate today) const
+{
+    if (m_month->year == today.year())
+        return m_month->name;
+    return u"%1 %2"_s.arg(m_month->name.value(), QString::number(m_month->year));
+}
+
+void CalendarView::refresh()
+{
+    if (!m_month)
+        return;
+    const QDate today = m_parts.clock.today();
+    m_name->setText(title(today));
+    m_workdays->setText(workdaysText(m_month->workdayCount()));
+    for (qsizetype index = 0; index < drawnCells; ++index)
+        refreshCell(index, today);
+}
+
+void CalendarView::refreshCell(qsizetype index, QDate today)
+{
+    const Day& day = m_month->days.value().at(index);
+    CommandClickableButton& cell = *m_cells[static_cast<std::size_t>(index)];
+    cell.setVisible(day.isInMonth());
+    if (!day.isInMonth())
+        return;
+    const QDate date = m_month->dateOf(day.id);
+    cell.setText(QString::number(day.id));
+    cell.setTint(dayColor(themeFor(palette()), day));
+    cell.setTooltipText(description(day.state));
+    cell.setRinged(date == today);
+    cell.setAccessibleName(
+        u"%1, %2"_s.arg(QLocale().toString(date, tr("dddd d MMMM yyyy", "date of a day")), description(day.state)));
+}
+
+int CalendarView::focusedDay() const
+{
+    const auto focused = std::ranges::find_if(m_cells, [](const auto* cell) { return cell->hasFocus(); });
+    if (focused == m_cells.end())
+        return 0;
+    return static_cast<int>(m_month->days.value().at(focused - m_cells.begin()).id);
+}
+
+void CalendarView::moveFocus(int days)
+{
+    const int from = focusedDay();
+    if (from == 0)
+        return;
+    const qint64 target = from + days;
+    if (target >= 1 && target <= m_month->daysInMonth)
+        focusDay(static_cast<int>(target));
+    else
+        Q_EMIT dayRequested(m_month->dateOf(target));
+}
+
+void CalendarView::setTabStop(CommandClickableButton* cell)
+{
+    if (m_tabStop != nullptr)
+        m_tabStop->setFocusPolicy(Qt::ClickFocus);
+    m_tabStop = cell;
+    m_tabStop->setFocusPolicy(Qt::StrongFocus);
+}
+
+void CalendarView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        refresh();
+    QWidget::changeEvent(event);
+}
+
+void CalendarView::keyPressEvent(QKeyEvent* event)
+{
+    const int forward = layoutDirection() == Qt::LeftToRight ? 1 : -1;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return moveFocus(-forward);
+    case Qt::Key_Right:
+        return moveFocus(forward);
+    case Qt::Key_Up:
+        return moveFocus(-columns);
+    case Qt::Key_Down:
+        return moveFocus(columns);
+    case Qt::Key_Home:
+        return focusDay(1);
+    case Qt::Key_End:
+        return focusDay(m_month->daysInMonth);
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void CalendarView::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!m_highlighted)
+        return;
+    QColor color = themeFor(palette()).unknown;
+    color.setAlphaF(highlightOpacity);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(rect(), highlightRadius, highlightRadius);
+}
+
+bool CalendarView::eventFilter(QObject* watched, QEvent* event)
+{
+    // The Tab key enters the grid where it was left, and leaves it from any day.
+    if (event->type() == QEvent::FocusIn)
+        setTabStop(static_cast<CommandClickableButton*>(watched));
+    return QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DayEditor.h"
+
+#include <QDate>
+#include <QProperty>
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class CommandClickableButton;
+class Month;
+class QGridLayout;
+class QLabel;
+struct ViewParts;
+
+/// One month as a grid of days, and the one place where a person marks days by hand. The arrow keys move between days.
+class CalendarView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CalendarView(const ViewParts& parts, bool highlighted = false, QWidget* parent = nullptr);
+
+    void setMonth(const std::shared_ptr<Month>& month);
+    [[nodiscard]] Month* month() const { return m_month.get(); }
+    /// Moves the keyboard focus to a day of the month; past the end it takes the last day.
+    void focusDay(int dayOfMonth);
+    /// The day that has the keyboard focus, 0 where none has.
+    [[nodiscard]] int focusedDay() const;
+
+Q_SIGNALS:
+    /// An arrow key led out of this month.
+    void dayRequested(QDate date);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Operation = void (DayEditor::*)(Month&, qsizetype);
+
+    void addHeader(QGridLayout& grid);
+    void addWeekdays(QGridLayout& grid);
+    void addCells(QGridLayout& grid);
+    [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
+    void showPicker(qsizetype index, const QPoint& position);
+    void refresh();
+    void refreshCell(qsizetype index, QDate today);
+    void moveFocus(int days);
+    void setTabStop(CommandClickableButton* cell);
+    [[nodiscard]] QString title(QDate today) const;
+
+    const ViewParts& m_parts;
+    DayEditor m_editor;
+    bool m_highlighted;
+    std::shared_ptr<Month> m_month;
+    std::vector<QPropertyNotifier> m_followers;
+    QLabel* m_name = nullptr;
+    QLabel* m_workdays = nullptr;
+    std::vector<CommandClickableButton*> m_cells;
+    CommandClickableButton* m_tabStop = nullptr;
+};

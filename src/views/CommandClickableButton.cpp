@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandClickableButton.h"
+
+#include "Fonts.h"
+#include "HoverLabel.h"
+#include "Theme.h"
+#include "ViewSettings.h"
+
+#include <QContextMenuEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr QSize smallestFace(35, 26);
+constexpr int radius = 8;
+constexpr int roomForRings = 5;
+constexpr qreal todayRingOutset = 2.5;
+constexpr qreal focusRingOutset = 4.0;
+
+const HoverLabel::Style labelStyle{.padding = {10, 4, 10, 4}, .radius = 6.0, .backgroundOpacity = 0.9};
+
+void drawRing(QPainter& painter, const QRectF& face, qreal outset, const QPen& pen)
+{
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(face.marginsAdded({outset, outset, outset, outset}), radius + outset, radius + outset);
+}
+
+} // namespace
+
+CommandClickableButton::CommandClickableButton(Actions actions, const ViewSettings& viewSettings, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_actions(std::move(actions))
+    , m_viewSettings(viewSettings)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFont(fonts::body(font()));
+    // What an assistive technology presses; mouse and keys carry modifiers and run the actions themselves.
+    connect(this, &QAbstractButton::clicked, this, [this] { run(Qt::NoModifier); });
+}
+
+CommandClickableButton::~CommandClickableButton()
+{
+    delete m_label;
+}
+
+void CommandClickableButton::setTint(const QColor& tint)
+{
+    if (m_tint == tint)
+        return;
+    m_tint = tint;
+    update();
+}
+
+void CommandClickableButton::setTooltipText(const std::optional<QString>& text)
+{
+    m_tooltipText = text;
+    if (m_label && text)
+        m_label->setText(*text);
+}
+
+void CommandClickableButton::setRinged(bool ringed)
+{
+    if (m_ringed == ringed)
+        return;
+    m_ringed = ringed;
+    update();
+}
+
+void CommandClickableButton::resetHover()
+{
+    setShowTooltip(false);
+}
+
+QRect CommandClickableButton::face() const
+{
+    return rect().marginsRemoved(QMargins() + roomForRings);
+}
+
+QSize CommandClickableButton::sizeHint() const
+{
+    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("30"));
+    return text.grownBy({8, 3, 8, 3}).expandedTo(smallestFace).grownBy(QMargins() + roomForRings);
+}
+
+bool CommandClickableButton::hitButton(const QPoint& position) const
+{
+    return face().contains(position);
+}
+
+void CommandClickableButton::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool fromKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    Q_EMIT menuRequested(fromKeyboard ? mapToGlobal(face().bottomLeft()) : event->globalPos());
+}
+
+void CommandClickableButton::enterEvent(QEnterEvent* event)
+{
+    QAbstractButton::enterEvent(event);
+    hover(true);
+}
+
+void CommandClickableButton::leaveEvent(QEvent* event)
+{
+    QAbstractButton::leaveEvent(event);
+    hover(false);
+}
+
+void CommandClickableButton::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QAbstractButton::focusInEvent(event);
+}
+
+void CommandClickableButton::hideEvent(QHideEvent* event)
+{
+    resetHover();
+    QAbstractButton::hideEvent(event);
+}
+
+void CommandClickableButton::keyPressEvent(QKeyEvent* event)
+{
+    // The other keys belong to the grid.
+    if (event->key() != Qt::Key_Space) {
+        event->ignore();
+        return;
+    }
+    if (!event->isAutoRepeat()) {
+        m_heldAtKeyPress = event->modifiers();
+        m_focusVisible.show();
+        setDown(true);
+    }
+}
+
+void CommandClickableButton::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !isDown()) {
+        event->ignore();
+        return;
+    }
+    setDown(false);
+    run(m_heldAtKeyPress);
+}
+
+void CommandClickableButton::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !hitButton(event->position().toPoint())) {
+        event->ignore();
+        return;
+    }
+    setDown(true);
+}
+
+void CommandClickableButton::mouseMoveEvent(QMouseEvent* event)
+{
+    // A press that has left is a drag, and stays one when it comes back.
+    if (isDown() && !hitButton(event->position().toPoint()))
+        setDown(false);
+}
+
+void CommandClickableButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !isDown()) {
+        event->ignore();
+        return;
+    }
+    setDown(false);
+    if (hitButton(event->position().toPoint()))
+        run(event->modifiers());
+}
+
+void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
+{
+    const Theme& theme = themeFor(palette());
+    const QRectF area = face();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isDown() ? m_tint.darker(115) : m_tint);
+    painter.drawRoundedRect(area, radius, radius);
+    painter.setPen(readableTextOn(m_tint));
+    painter.drawText(area, Qt::AlignCenter, text());
+    if (m_ringed)
+        drawRing(painter, area, todayRingOutset, {theme.text, 1.75});
+    if (hasFocus() && m_focusVisible)
+        drawRing(painter, area, focusRingOutset, {theme.accent, 2.0});
+}
+
+void CommandClickableButton::run(Qt::KeyboardModifiers held)
+{
+    switch (clickModifier(held)) {
+    case ClickModifier::Command:
+        return m_actions.commandAction();
+    case ClickModifier::Option:
+        return m_actions.optionAction();
+    case ClickModifier::Shift:
+        return m_actions.shiftAction();
+    case ClickModifier::None:
+        return m_actions.action();
+    }
+}
+
+void CommandClickableButton::hover(bool inside)
+{
+    if (m_viewSettings.showStatusLabelOnHover)
+        setShowTooltip(inside);
+}
+
+void CommandClickableButton::setShowTooltip(bool show)
+{
+    m_showTooltip = show;
+    if (show && m_tooltipText && !m_label) {
+        m_label = new HoverLabel(this, face(), labelStyle);
+        m_label->setText(*m_tooltipText);
+    } else if (!show && m_label) {
+        m_label->dismiss();
+        m_label.clear();
+    }
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFont>
+
+/// The sizes of text, each in proportion to the font that the person has set for the desktop.
+namespace fonts {
+
+[[nodiscard]] inline QFont scaled(QFont font, double factor, QFont::Weight weight = QFont::Normal)
+{
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setWeight(weight);
+    return font;
+}
+
+[[nodiscard]] inline QFont title(const QFont& base)
+{
+    return scaled(base, 1.75, QFont::Bold);
+}
+
+[[nodiscard]] inline QFont headline(const QFont& base)
+{
+    return scaled(base, 1.25);
+}
+
+[[nodiscard]] inline QFont body(const QFont& base)
+{
+    return scaled(base, 1.05);
+}
+
+[[nodiscard]] inline QFont subheadline(const QFont& base)
+{
+    return scaled(base, 0.95);
+}
+
+[[nodiscard]] inline QFont caption(const QFont& base)
+{
+    return scaled(base, 0.9);
+}
+
+} // namespace fonts

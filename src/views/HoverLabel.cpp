@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "HoverLabel.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPropertyAnimation>
+
+namespace {
+
+constexpr int fadeMilliseconds = 120;
+
+} // namespace
+
+HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
+    : QWidget(anchor->window())
+    , m_anchor(anchor)
+    , m_area(area)
+    , m_style(style)
+    , m_fade(new QPropertyAnimation(this, "opacity", this))
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFont(fonts::caption(anchor->window()->font()));
+    m_fade->setDuration(fadeMilliseconds);
+    // A scrolled page moves an ancestor of the anchor, not the anchor itself.
+    for (QWidget* moving = anchor; moving != nullptr && moving != window(); moving = moving->parentWidget())
+        moving->installEventFilter(this);
+    window()->installEventFilter(this);
+}
+
+void HoverLabel::setText(const QString& text)
+{
+    m_text = text;
+    place();
+    raise();
+    show();
+    fadeTo(1.0);
+    update();
+}
+
+void HoverLabel::dismiss()
+{
+    connect(m_fade, &QPropertyAnimation::finished, this, &QObject::deleteLater);
+    fadeTo(0.0);
+}
+
+QSize HoverLabel::sizeHint() const
+{
+    return fontMetrics().size(Qt::TextSingleLine, m_text).grownBy(m_style.padding);
+}
+
+void HoverLabel::setOpacity(qreal opacity)
+{
+    m_opacity = opacity;
+    update();
+}
+
+bool HoverLabel::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        place();
+    return false;
+}
+
+void HoverLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QColor background = themeFor(palette()).hoverLabel;
+    background.setAlphaF(static_cast<float>(m_style.backgroundOpacity));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(m_opacity);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(background);
+    painter.drawRoundedRect(rect(), m_style.radius, m_style.radius);
+    painter.setPen(Qt::white);
+    painter.drawText(rect(), Qt::AlignCenter, m_text);
+}
+
+void HoverLabel::fadeTo(qreal opacity)
+{
+    m_fade->stop();
+    m_fade->setStartValue(m_opacity);
+    m_fade->setEndValue(opacity);
+    m_fade->start();
+}
+
+void HoverLabel::place()
+{
+    const QRect anchor(m_anchor->mapTo(window(), m_area.topLeft()), m_area.size());
+    setGeometry(hoverLabelRect(sizeHint(), anchor, window()->rect()));
+}
+
+QRect hoverLabelRect(QSize label, const QRect& anchor, const QRect& window)
+{
+    constexpr int gap = 4;
+    QRect place(QPoint(), label);
+    place.moveCenter(anchor.center());
+    place.moveBottom(anchor.top() - gap);
+    if (place.top() < window.top())
+        place.moveTop(anchor.bottom() + gap);
+    place.moveBottom(qMin(place.bottom(), window.bottom()));
+    place.moveRight(qMin(place.right(), window.right()));
+    place.moveLeft(qMax(place.left(), window.left()));
+    return place;
+}

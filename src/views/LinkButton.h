@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+
+/// A button that is only words and a symbol, in the accent colour.
+class LinkButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    enum class SymbolSide { Leading, Trailing };
+
+    LinkButton(const QString& text, const QString& symbol, SymbolSide side, QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_symbol;
+    SymbolSide m_side;
+};

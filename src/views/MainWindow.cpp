@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MainWindow.h"
+
+#include "MonthView.h"
+#include "QuarterView.h"
+#include "SegmentedTabs.h"
+#include "Theme.h"
+#include "ViewParts.h"
+#include "ViewSettings.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize firstSize(534, 860);
+
+// The stored number of the first tab.
+constexpr int firstTab = 1;
+
+class Header : public QWidget {
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        const Theme& theme = themeFor(palette());
+        QPainter painter(this);
+        painter.fillRect(rect(), theme.card);
+        painter.fillRect(0, height() - 1, width(), 1, theme.border);
+    }
+};
+
+} // namespace
+
+MainWindow::MainWindow(const ViewParts& parts)
+    : m_parts(parts)
+    , m_tabs(new SegmentedTabs)
+    , m_pages(new QStackedWidget)
+{
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(makeHeader());
+    column->addWidget(m_pages);
+    setCentralWidget(content);
+    resize(firstSize);
+
+    m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
+    showTab(m_tabs->currentIndex());
+    connect(m_tabs, &QTabBar::currentChanged, this, &MainWindow::showTab);
+}
+
+QWidget* MainWindow::makeHeader()
+{
+    m_tabs->setObjectName("tabs"_L1);
+    m_tabs->setAccessibleName(tr("View"));
+    m_tabs->addTab(tr("Month"));
+    m_tabs->addTab(tr("Quarter"));
+    auto* header = new Header;
+    auto* row = new QHBoxLayout(header);
+    row->setContentsMargins(16, 8, 16, 9);
+    row->addStretch();
+    row->addWidget(m_tabs);
+    row->addStretch();
+    return header;
+}
+
+void MainWindow::showTab(int index)
+{
+    m_parts.viewSettings.selectedTab = index + firstTab;
+    QWidget*& page = m_built[index];
+    if (page == nullptr) {
+        page = makePage(index);
+        m_pages->addWidget(page);
+    }
+    m_pages->setCurrentWidget(page);
+}
+
+QWidget* MainWindow::makePage(int index)
+{
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    if (index == 0)
+        scroll->setWidget(new MonthView(m_parts));
+    else
+        scroll->setWidget(new QuarterView(m_parts));
+    // The keys go to the days, and the view passes on those that it has no use for.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    return scroll;
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::Paint && !m_painted) {
+        m_painted = true;
+        // The children are drawn in the same turn of the event loop.
+        QMetaObject::invokeMethod(this, &MainWindow::painted, Qt::QueuedConnection);
+    }
+    return handled;
+}

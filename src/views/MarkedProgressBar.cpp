@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MarkedProgressBar.h"
+
+#include "Fonts.h"
+#include "HoverLabel.h"
+#include "StatisticsTexts.h"
+#include "Theme.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <chrono>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto tooltipDelay = 300ms;
+constexpr qreal barRadius = 7.0;
+constexpr int overhang = static_cast<int>(ProgressBarGeometry::captionOverhang);
+constexpr int defaultBarWidth = 375;
+
+const HoverLabel::Style tooltipStyle{.padding = {6, 6, 6, 6}, .radius = 4.0, .backgroundOpacity = 1.0};
+
+QFont labelFont(const QWidget& widget)
+{
+    return fonts::scaled(widget.font(), 0.95, QFont::DemiBold);
+}
+
+} // namespace
+
+MarkedProgressBar::MarkedProgressBar(QWidget* parent)
+    : QWidget(parent)
+{
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_hoverDelay.setSingleShot(true);
+    m_hoverDelay.setInterval(tooltipDelay);
+    connect(&m_hoverDelay, &QTimer::timeout, this, [this] {
+        m_tooltip = new HoverLabel(this, barRect(), tooltipStyle);
+        m_tooltip->setText(tooltipText());
+    });
+}
+
+MarkedProgressBar::~MarkedProgressBar()
+{
+    delete m_tooltip;
+}
+
+void MarkedProgressBar::setContents(const Contents& contents)
+{
+    m_contents = contents;
+    setAccessibleName(accessibleText());
+    if (m_tooltip)
+        m_tooltip->setText(tooltipText());
+    updateGeometry();
+    update();
+}
+
+QColor MarkedProgressBar::colorOf(const ProgressMarker& marker) const
+{
+    if (marker.position <= m_contents.progress)
+        return m_contents.reachedMarkerColor;
+    if (marker.position <= m_contents.progressPrediction)
+        return m_contents.predictedMarkerColor;
+    return m_contents.markerColor;
+}
+
+QString MarkedProgressBar::tooltipText() const
+{
+    return averageText(m_contents.label.value_or(m_contents.progress));
+}
+
+QString MarkedProgressBar::accessibleText() const
+{
+    QStringList parts{tooltipText()};
+    for (const ProgressMarker& marker : m_contents.markers) {
+        const QString text =
+            marker.position <= m_contents.progress ? tr("%1: reached") : tr("%1: not reached", "goal on the bar");
+        parts.append(text.arg(marker.description));
+    }
+    return parts.join(u"; "_s);
+}
+
+QRect MarkedProgressBar::barRect() const
+{
+    return {overhang, 0, width() - 2 * overhang, static_cast<int>(m_contents.barHeight)};
+}
+
+QSize MarkedProgressBar::sizeHint() const
+{
+    return {defaultBarWidth + 2 * overhang, static_cast<int>(std::ceil(geometryFor(defaultBarWidth).height))};
+}
+
+ProgressBarGeometry MarkedProgressBar::geometryFor(qreal barWidth) const
+{
+    const QFontMetricsF captions(m_contents.markerFont);
+    ProgressBarMeasures measures{.width = barWidth,
+                                 .barHeight = m_contents.barHeight,
+                                 .progress = m_contents.progress,
+                                 .prediction = m_contents.progressPrediction,
+                                 .labelWidth = 0.0,
+                                 .markerLineWidth = m_contents.markerLineWidth,
+                                 .markerLineHeight = m_contents.markerLineHeight,
+                                 .captionHeight = captions.height(),
+                                 .markers = {}};
+    if (m_contents.label)
+        measures.labelWidth = QFontMetricsF(labelFont(*this)).horizontalAdvance(twoDecimals(*m_contents.label));
+    for (const ProgressMarker& marker : m_contents.markers)
+        measures.markers.append({marker.position, std::ceil(captions.horizontalAdvance(marker.description))});
+    return progressBarGeometry(measures);
+}
+
+void MarkedProgressBar::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    hover(false);
+}
+
+void MarkedProgressBar::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    hover(false);
+}
+
+void MarkedProgressBar::mouseMoveEvent(QMouseEvent* event)
+{
+    QWidget::mouseMoveEvent(event);
+    hover(barRect().contains(event->position().toPoint()));
+}
+
+void MarkedProgressBar::hover(bool inside)
+{
+    if (m_hovering == inside)
+        return;
+    m_hovering = inside;
+    if (m_hovering) {
+        m_hoverDelay.start();
+        return;
+    }
+    m_hoverDelay.stop();
+    if (m_tooltip)
+        m_tooltip->dismiss();
+    m_tooltip.clear();
+}
+
+void MarkedProgressBar::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(barRect().topLeft());
+    const ProgressBarGeometry geometry = geometryFor(barRect().width());
+    paintBar(painter, geometry);
+    if (m_contents.label)
+        paintLabel(painter, geometry);
+    paintMarkers(painter, geometry);
+}
+
+void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& geometry) const
+{
+    QPainterPath outline;
+    outline.addRoundedRect(geometry.bar, barRadius, barRadius);
+    // A fill begins with the bar and ends as round as the bar does, however short it is.
+    const auto fill = [&](const QRectF& rect, const QColor& color) {
+        QPainterPath part;
+        part.addRoundedRect(rect.adjusted(-2 * barRadius, 0, 0, 0), barRadius, barRadius);
+        painter.fillPath(part.intersected(outline), color);
+    };
+    painter.fillPath(outline, m_contents.backgroundColor);
+    if (m_contents.progressPrediction > m_contents.progress)
+        fill(geometry.prediction, m_contents.progressPredictionColor);
+    if (m_contents.progress > 0.0)
+        fill(geometry.progress, m_contents.progressColor);
+}
+
+void MarkedProgressBar::paintLabel(QPainter& painter, const ProgressBarGeometry& geometry) const
+{
+    // Where the number stands over more than one fill, each part of it is drawn to be read on what is behind it.
+    const QRectF predicted = geometry.prediction.adjusted(geometry.progress.width(), 0, 0, 0);
+    const QRectF empty = geometry.bar.adjusted(qMax(geometry.progress.width(), geometry.prediction.width()), 0, 0, 0);
+    const std::pair<QRectF, QColor> grounds[]{{geometry.progress, m_contents.progressColor},
+                                              {predicted, m_contents.progressPredictionColor},
+                                              {empty, m_contents.backgroundColor}};
+    painter.setFont(labelFont(*this));
+    for (const auto& [ground, color] : grounds) {
+        if (ground.width() <= 0.0)
+            continue;
+        painter.setClipRect(ground);
+        painter.setPen(readableTextOn(color));
+        painter.drawText(geometry.label, Qt::AlignCenter | Qt::TextDontClip, twoDecimals(*m_contents.label));
+    }
+    painter.setClipping(false);
+}
+
+void MarkedProgressBar::paintMarkers(QPainter& painter, const ProgressBarGeometry& geometry) const
+{
+    painter.setFont(m_contents.markerFont);
+    for (qsizetype i = 0; i < geometry.markers.size(); ++i) {
+        const auto& [line, caption] = geometry.markers.at(i);
+        const ProgressMarker& marker = m_contents.markers.at(i);
+        painter.fillRect(line, colorOf(marker));
+        painter.setPen(colorOf(marker));
+        painter.drawText(
+            caption, Qt::AlignCenter,
+            painter.fontMetrics().elidedText(marker.description, Qt::ElideRight, static_cast<int>(caption.width())));
+    }
+}

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ProgressBarGeometry.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <optional>
+
+class HoverLabel;
+
+struct ProgressMarker {
+    /// A fraction of the bar's width, 0 to 1.
+    double position = 0.0;
+    QString description;
+};
+
+/// A horizontal bar with two fills, the progress reached and the progress predicted, and markers with captions below.
+/// It computes nothing: every number is handed to it.
+class MarkedProgressBar : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Contents {
+        /// Fractions of the bar's width, 0 to 1.
+        double progress = 0.0;
+        double progressPrediction = 0.0;
+        /// The number shown on the bar; without one the tooltip tells the progress.
+        std::optional<double> label;
+        QList<ProgressMarker> markers;
+        qreal barHeight = 24.0;
+        QColor progressColor;
+        QColor progressPredictionColor;
+        QColor backgroundColor;
+        /// Of the line and the caption of a marker that is reached, that is predicted to be, and any other.
+        QColor reachedMarkerColor;
+        QColor predictedMarkerColor;
+        QColor markerColor;
+        qreal markerLineWidth = 2.0;
+        qreal markerLineHeight = 9.0;
+        QFont markerFont;
+    };
+
+    explicit MarkedProgressBar(QWidget* parent = nullptr);
+    ~MarkedProgressBar() override;
+
+    void setContents(const Contents& contents);
+    [[nodiscard]] const Contents& contents() const { return m_contents; }
+    [[nodiscard]] QColor colorOf(const ProgressMarker& marker) const;
+    [[nodiscard]] QString tooltipText() const;
+    [[nodiscard]] bool showTooltip() const { return !m_tooltip.isNull(); }
+    /// The bar without the room that its captions may need on both sides.
+    [[nodiscard]] QRect barRect() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] ProgressBarGeometry geometryFor(qreal barWidth) const;
+    [[nodiscard]] QString accessibleText() const;
+    void hover(bool inside);
+    void paintBar(QPainter& painter, const ProgressBarGeometry& geometry) const;
+    void paintLabel(QPainter& painter, const ProgressBarGeometry& geometry) const;
+    void paintMarkers(QPainter& painter, const ProgressBarGeometry& geometry) const;
+
+    Contents m_contents;
+    QTimer m_hoverDelay;
+    QPointer<HoverLabel> m_tooltip;
+    bool m_hovering = false;
+};

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MessageBoxAlerts.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& message, const QString& informativeText)
+{
+    box.setWindowTitle(QApplication::applicationDisplayName());
+    box.setIcon(icon);
+    // A path in the text may hold what would be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(message);
+    box.setInformativeText(informativeText);
+}
+
+} // namespace
+
+void MessageBoxAlerts::showCritical(const QString& message, const QString& informativeText)
+{
+    QMessageBox box;
+    prepare(box, QMessageBox::Critical, message, informativeText);
+    box.exec();
+}
+
+bool MessageBoxAlerts::confirmWarning(const QString& message, const QString& informativeText,
+                                      const QString& firstButton, const QString& secondButton)
+{
+    QMessageBox box;
+    prepare(box, QMessageBox::Warning, message, informativeText);
+    const QPushButton* first = box.addButton(firstButton, QMessageBox::DestructiveRole);
+    QPushButton* second = box.addButton(secondButton, QMessageBox::RejectRole);
+    // Return and Escape must not destroy anything.
+    box.setDefaultButton(second);
+    box.setEscapeButton(second);
+    box.exec();
+    return box.clickedButton() == first;
+}

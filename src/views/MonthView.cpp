@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MonthView.h"
+
+#include "CalendarView.h"
+#include "Clock.h"
+#include "Month.h"
+#include "MonthCard.h"
+#include "NavigationRow.h"
+#include "ProgressWidgetView.h"
+#include "QuarterMonths.h"
+#include "StoreError.h"
+#include "ViewParts.h"
+#include "ViewSettings.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+MonthView::MonthView(const ViewParts& parts, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_quarter(new Card)
+    , m_quarterTracker(new ProgressWidgetView(parts, PeriodWord::Quarter))
+    , m_navigation(new NavigationRow(tr("Last Month"), tr("Next Month")))
+    , m_month(new MonthCard(parts))
+    , m_error(new QLabel(tr("Error loading month!")))
+{
+    build();
+    connect(m_navigation, &NavigationRow::previousRequested, this, [this] { turnTo(m_period.previous()); });
+    connect(m_navigation, &NavigationRow::nextRequested, this, [this] { turnTo(m_period.next()); });
+    connect(&m_month->calendar(), &CalendarView::dayRequested, this, &MonthView::showDay);
+    m_follower = parts.viewSettings.showQuarterStats.addNotifier([this] { refresh(); });
+    const QDate today = parts.clock.today();
+    showMonth({today.year(), today.month()});
+}
+
+void MonthView::build()
+{
+    m_error->setObjectName("error"_L1);
+    m_error->setAlignment(Qt::AlignCenter);
+    m_month->setNavigation(m_navigation);
+    m_quarter->setFixedWidth(Card::contentWidth);
+    auto* quarterColumn = new QVBoxLayout(m_quarter);
+    quarterColumn->setContentsMargins(0, 16, 0, 20);
+    quarterColumn->addWidget(m_quarterTracker, 0, Qt::AlignHCenter);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 20, 24, 20);
+    column->setSpacing(16);
+    column->addWidget(m_error);
+    column->addWidget(m_quarter, 0, Qt::AlignHCenter);
+    column->addWidget(m_month, 0, Qt::AlignHCenter);
+    column->addStretch();
+}
+
+void MonthView::showMonth(const YearMonth& period)
+{
+    m_period = period;
+    refresh();
+}
+
+void MonthView::turnTo(const std::optional<YearMonth>& period)
+{
+    if (!period)
+        return;
+    // Whoever works with the keyboard stays on the same day of the month.
+    const int day = m_month->calendar().focusedDay();
+    showMonth(*period);
+    if (day > 0)
+        m_month->calendar().focusDay(day);
+}
+
+void MonthView::showDay(QDate date)
+{
+    if (date.year() < firstYear || date.year() > lastYear)
+        return;
+    showMonth({date.year(), date.month()});
+    m_month->calendar().focusDay(date.day());
+}
+
+void MonthView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        return turnTo(m_period.previous());
+    case Qt::Key_PageDown:
+        return turnTo(m_period.next());
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void MonthView::refresh()
+{
+    bool loaded = true;
+    try {
+        const auto months = quarterMonths(m_parts.context, m_period.quarter());
+        m_quarterTracker->setMonths(months);
+        m_month->setMonth(months.at((m_period.month - 1) % 3));
+        m_navigation->setAvailable(m_period.previous().has_value(), m_period.next().has_value());
+    } catch (const StoreError&) {
+        loaded = false;
+    }
+    m_error->setVisible(!loaded);
+    m_month->setVisible(loaded);
+    m_quarter->setVisible(loaded && m_parts.viewSettings.showQuarterStats);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Period.h"
+
+#include <QProperty>
+#include <QWidget>
+
+class Card;
+class MonthCard;
+class NavigationRow;
+class ProgressWidgetView;
+class QDate;
+class QLabel;
+struct ViewParts;
+
+/// One month and how its quarter stands. Starts at today.
+class MonthView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MonthView(const ViewParts& parts, QWidget* parent = nullptr);
+
+    void showMonth(const YearMonth& period);
+    [[nodiscard]] YearMonth period() const { return m_period; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void build();
+    void turnTo(const std::optional<YearMonth>& period);
+    void showDay(QDate date);
+    void refresh();
+
+    const ViewParts& m_parts;
+    YearMonth m_period;
+    Card* m_quarter;
+    ProgressWidgetView* m_quarterTracker;
+    NavigationRow* m_navigation;
+    MonthCard* m_month;
+    QLabel* m_error;
+    QPropertyNotifier m_follower;
+};

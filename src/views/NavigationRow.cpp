@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "NavigationRow.h"
+
+#include "LinkButton.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+NavigationRow::NavigationRow(const QString& previousText, const QString& nextText, QWidget* parent)
+    : QWidget(parent)
+    , m_previous(new LinkButton(previousText, u"lessthan"_s, LinkButton::SymbolSide::Leading))
+    , m_next(new LinkButton(nextText, u"greaterthan"_s, LinkButton::SymbolSide::Trailing))
+{
+    m_previous->setObjectName("previous"_L1);
+    m_next->setObjectName("next"_L1);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins({});
+    row->addWidget(m_previous);
+    row->addStretch();
+    row->addWidget(m_next);
+    connect(m_previous, &QAbstractButton::clicked, this, &NavigationRow::previousRequested);
+    connect(m_next, &QAbstractButton::clicked, this, &NavigationRow::nextRequested);
+}
+
+void NavigationRow::setAvailable(bool previous, bool next)
+{
+    m_previous->setEnabled(previous);
+    m_next->setEnabled(next);
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ProgressWidgetView.h"
+
+#include "AppSettings.h"
+#include "AttendanceStatistics.h"
+#include "Fonts.h"
+#include "MarkedTextLabel.h"
+#include "Month.h"
+#include "Theme.h"
+#include "ViewParts.h"
+#include "ViewSettings.h"
+
+#include <QEvent>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int columnWidth = 375;
+constexpr int overhang = static_cast<int>(ProgressBarGeometry::captionOverhang);
+
+QString captionOf(const ValuedGoal& goal)
+{
+    return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
+}
+
+} // namespace
+
+ProgressWidgetView::ProgressWidgetView(const ViewParts& parts, PeriodWord period, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_period(period)
+    , m_headline(new MarkedTextLabel)
+    , m_goal(new MarkedTextLabel)
+    , m_bar(new MarkedProgressBar)
+{
+    m_headline->setObjectName("headline"_L1);
+    m_headline->setFont(fonts::headline(font()));
+    m_headline->setContentsMargins({});
+    m_goal->setObjectName("goal"_L1);
+    m_goal->setFont(fonts::body(font()));
+    m_goal->setPlainRole(QPalette::PlaceholderText);
+
+    auto* words = new QVBoxLayout;
+    words->setContentsMargins(overhang, 0, overhang, 4);
+    words->setSpacing(4);
+    words->addWidget(m_headline);
+    words->addWidget(m_goal);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addLayout(words);
+    column->addWidget(m_bar);
+    setFixedWidth(columnWidth + 2 * overhang);
+    m_follower = m_shown.addNotifier([this] { refresh(); });
+}
+
+void ProgressWidgetView::setMonths(const QList<std::shared_ptr<Month>>& months)
+{
+    m_months = months;
+    m_shown.setBinding([this] { return current(); });
+}
+
+void ProgressWidgetView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && !m_months.isEmpty())
+        setMonths(m_months);
+    QWidget::changeEvent(event);
+}
+
+ProgressWidgetView::Shown ProgressWidgetView::current() const
+{
+    QList<const Month*> months;
+    for (const auto& month : m_months)
+        months.append(month.get());
+    const AttendanceStatistics statistics =
+        attendanceStatistics(months, m_parts.settings.daysPerWeekGoals, m_parts.settings.vacationDaysCountAsInOffice,
+                             m_parts.viewSettings.showWillBeInOfficeStats);
+    const BarFractions fractions = barFractions(statistics);
+    const Theme& theme = themeFor(palette());
+
+    MarkedProgressBar::Contents bar{.progress = fractions.progress,
+                                    .progressPrediction = fractions.prediction,
+                                    .label = shownAverage(statistics),
+                                    .markers = {},
+                                    .progressColor = theme.progress,
+                                    .progressPredictionColor = theme.prediction,
+                                    .backgroundColor = theme.progressTrack,
+                                    .reachedMarkerColor = theme.progressText,
+                                    .predictedMarkerColor = theme.predictionText,
+                                    .markerColor = theme.dimText,
+                                    .markerFont = fonts::subheadline(font())};
+    for (qsizetype i = 0; i < fractions.markers.size(); ++i)
+        bar.markers.append({fractions.markers.at(i), captionOf(statistics.validGoals.at(i))});
+    return {headlineText(statistics.inOffice, m_period), goalText(statistics), bar,
+            m_parts.viewSettings.showProgressBars};
+}
+
+void ProgressWidgetView::refresh()
+{
+    const Shown& shown = m_shown.value();
+    m_headline->setMarkedText(shown.headline);
+    m_goal->setMarkedText(shown.goal);
+    m_goal->setVisible(!shown.goal.isEmpty());
+    m_bar->setContents(shown.bar);
+    m_bar->setVisible(shown.hasBar);
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MarkedProgressBar.h"
+#include "StatisticsTexts.h"
+
+#include <QProperty>
+
+#include <memory>
+
+class MarkedTextLabel;
+class Month;
+struct ViewParts;
+
+/// The progress tracker: how far the person stands in a period, in words and on a bar. It follows every record and
+/// setting that it shows.
+class ProgressWidgetView : public QWidget {
+    Q_OBJECT
+
+public:
+    ProgressWidgetView(const ViewParts& parts, PeriodWord period, QWidget* parent = nullptr);
+
+    void setMonths(const QList<std::shared_ptr<Month>>& months);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct Shown {
+        MarkedText headline;
+        MarkedText goal;
+        MarkedProgressBar::Contents bar;
+        bool hasBar = false;
+    };
+
+    [[nodiscard]] Shown current() const;
+    void refresh();
+
+    const ViewParts& m_parts;
+    PeriodWord m_period;
+    QList<std::shared_ptr<Month>> m_months;
+    MarkedTextLabel* m_headline;
+    MarkedTextLabel* m_goal;
+    MarkedProgressBar* m_bar;
+    /// Bound to everything that current() reads.
+    QProperty<Shown> m_shown;
+    QPropertyNotifier m_follower;
+};

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Card.h"
+#include "Period.h"
+
+#include <QProperty>
+
+#include <memory>
+
+class Month;
+class NavigationRow;
+class ProgressWidgetView;
+class QLabel;
+struct ViewParts;
+
+/// How a quarter stands, with the way to its neighbours. The quarter shown is the owner's: it is asked to move.
+class QuarterStatsView : public Card {
+    Q_OBJECT
+
+public:
+    QuarterStatsView(const ViewParts& parts, bool showNavigation, QWidget* parent = nullptr);
+
+    void setQuarter(const YearQuarter& quarter, const QList<std::shared_ptr<Month>>& months);
+
+Q_SIGNALS:
+    void quarterRequested(const YearQuarter& quarter);
+
+private:
+    void refresh();
+    void request(const std::optional<YearQuarter>& quarter);
+
+    const ViewParts& m_parts;
+    YearQuarter m_quarter;
+    QList<std::shared_ptr<Month>> m_months;
+    NavigationRow* m_navigation;
+    QLabel* m_title;
+    QLabel* m_workdays;
+    ProgressWidgetView* m_tracker;
+    QPropertyNotifier m_follower;
+};

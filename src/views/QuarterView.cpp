@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "QuarterView.h"
+
+#include "CalendarView.h"
+#include "Clock.h"
+#include "MonthCard.h"
+#include "QuarterMonths.h"
+#include "QuarterStatsView.h"
+#include "StoreError.h"
+#include "ViewParts.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int margin = 24;
+constexpr int spacing = 16;
+constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
+
+} // namespace
+
+QuarterView::QuarterView(const ViewParts& parts, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_stats(new QuarterStatsView(parts, true))
+    , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
+    , m_error(new QLabel(tr("Error loading month!")))
+{
+    m_error->setObjectName("error"_L1);
+    m_error->setAlignment(Qt::AlignCenter);
+    m_row->setSpacing(spacing);
+    for (MonthCard*& card : m_months) {
+        card = new MonthCard(parts);
+        m_row->addWidget(card, 0, Qt::AlignHCenter);
+        connect(&card->calendar(), &CalendarView::dayRequested, this, &QuarterView::showDay);
+    }
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, 20, margin, 20);
+    column->setSpacing(spacing);
+    column->addWidget(m_error);
+    column->addWidget(m_stats, 0, Qt::AlignHCenter);
+    column->addLayout(m_row);
+    column->addStretch();
+
+    connect(m_stats, &QuarterStatsView::quarterRequested, this, &QuarterView::turnTo);
+    const QDate today = parts.clock.today();
+    showQuarter(YearMonth{today.year(), today.month()}.quarter());
+}
+
+void QuarterView::showQuarter(const YearQuarter& quarter)
+{
+    m_quarter = quarter;
+    refresh();
+}
+
+void QuarterView::turnTo(const std::optional<YearQuarter>& quarter)
+{
+    if (!quarter)
+        return;
+    const auto focused = std::ranges::find_if(m_months, [](auto* card) { return card->calendar().focusedDay() > 0; });
+    const int day = focused == m_months.end() ? 0 : (*focused)->calendar().focusedDay();
+    showQuarter(*quarter);
+    if (day > 0)
+        (*focused)->calendar().focusDay(day);
+}
+
+void QuarterView::showDay(QDate date)
+{
+    if (date.year() < firstYear || date.year() > lastYear)
+        return;
+    const YearQuarter wanted = YearMonth{date.year(), date.month()}.quarter();
+    if (wanted != m_quarter)
+        showQuarter(wanted);
+    m_months.at(static_cast<std::size_t>((date.month() - 1) % 3))->calendar().focusDay(date.day());
+}
+
+void QuarterView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        return turnTo(m_quarter.previous());
+    case Qt::Key_PageDown:
+        return turnTo(m_quarter.next());
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void QuarterView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_row->setDirection(width() >= widthForRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+void QuarterView::refresh()
+{
+    bool loaded = true;
+    try {
+        const auto months = quarterMonths(m_parts.context, m_quarter);
+        m_stats->setQuarter(m_quarter, months);
+        for (std::size_t i = 0; i < m_months.size(); ++i)
+            m_months.at(i)->setMonth(months.at(static_cast<qsizetype>(i)));
+    } catch (const StoreError&) {
+        loaded = false;
+    }
+    m_error->setVisible(!loaded);
+    m_stats->setVisible(loaded);
+    for (MonthCard* card : m_months)
+        card->setVisible(loaded);
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Period.h"
+
+#include <QWidget>
+
+#include <array>
+
+class MonthCard;
+class QBoxLayout;
+class QDate;
+class QLabel;
+class QuarterStatsView;
+struct ViewParts;
+
+/// The three months of a quarter and how it stands. Starts at today. Months stand side by side where there is room.
+class QuarterView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit QuarterView(const ViewParts& parts, QWidget* parent = nullptr);
+
+    void showQuarter(const YearQuarter& quarter);
+    [[nodiscard]] YearQuarter quarter() const { return m_quarter; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void turnTo(const std::optional<YearQuarter>& quarter);
+    void showDay(QDate date);
+    void refresh();
+
+    const ViewParts& m_parts;
+    YearQuarter m_quarter;
+    QuarterStatsView* m_stats;
+    std::array<MonthCard*, 3> m_months{};
+    QBoxLayout* m_row;
+    QLabel* m_error;
+};

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SegmentedTabs.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr qreal radius = 7.0;
+constexpr int gap = 3;
+
+} // namespace
+
+SegmentedTabs::SegmentedTabs(QWidget* parent)
+    : QTabBar(parent)
+{
+    setFont(fonts::body(font()));
+    setDrawBase(false);
+    setExpanding(false);
+    setUsesScrollButtons(false);
+    setElideMode(Qt::ElideNone);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize SegmentedTabs::tabSizeHint(int /*index*/) const
+{
+    QSize widest;
+    const QFontMetrics metrics(fonts::scaled(font(), 1.0, QFont::DemiBold));
+    for (int i = 0; i < count(); ++i)
+        widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)));
+    return widest.grownBy({22, 8, 22, 8});
+}
+
+void SegmentedTabs::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QTabBar::focusInEvent(event);
+}
+
+void SegmentedTabs::keyPressEvent(QKeyEvent* event)
+{
+    m_focusVisible.show();
+    QTabBar::keyPressEvent(event);
+}
+
+void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
+{
+    const Theme& theme = themeFor(palette());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.trough);
+    painter.drawRoundedRect(rect(), radius + gap, radius + gap);
+    for (int i = 0; i < count(); ++i) {
+        const QRectF segment = QRectF(tabRect(i)).marginsRemoved(QMarginsF(gap, gap, gap, gap));
+        const bool isCurrent = i == currentIndex();
+        if (isCurrent) {
+            painter.setPen(hasFocus() && m_focusVisible ? QPen(theme.accent, 2.0) : QPen(theme.border, 1.0));
+            painter.setBrush(theme.chosen);
+            painter.drawRoundedRect(segment, radius, radius);
+        }
+        painter.setPen(isCurrent ? theme.text : theme.dimText);
+        painter.setFont(fonts::scaled(font(), 1.0, isCurrent ? QFont::DemiBold : QFont::Normal));
+        painter.drawText(segment, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
+    }
+}

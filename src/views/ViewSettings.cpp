@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ViewSettings.h"
+
+using namespace Qt::StringLiterals;
+
+ViewSettings::ViewSettings(QSettings& settings)
+    : m_settings(settings)
+{
+    persist(showProgressBars, u"calendarViewShowProgressBars"_s);
+    persist(showQuarterStats, u"calendarViewShowQuarterStats"_s);
+    persist(showMonthStats, u"calendarViewShowMonthStats"_s);
+    persist(showWillBeInOfficeStats, u"calendarViewShowWillBeInOfficeStats"_s);
+    persist(showStatusLabelOnHover, u"calendarViewShowStatusLabelOnHover"_s);
+    persist(selectedTab, u"contentViewSelectedTab"_s);
+}
+
+template <class Value> void ViewSettings::persist(QProperty<Value>& field, const QString& key)
+{
+    field = m_settings.value(key, field.value()).template value<Value>();
+    m_followers.push_back(field.addNotifier([this, &field, key] { m_settings.setValue(key, field.value()); }));
+}

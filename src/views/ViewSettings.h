@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProperty>
+#include <QSettings>
+
+#include <vector>
+
+/// What the person has switched on in the calendar views. Each field reads its stored key at the start and stores every
+/// change at once.
+class ViewSettings {
+public:
+    explicit ViewSettings(QSettings& settings);
+
+    QProperty<bool> showProgressBars{true};
+    QProperty<bool> showQuarterStats{true};
+    QProperty<bool> showMonthStats{true};
+    QProperty<bool> showWillBeInOfficeStats{true};
+    QProperty<bool> showStatusLabelOnHover{true};
+    /// 1 is the month, 2 the quarter.
+    QProperty<int> selectedTab{1};
+
+private:
+    template <class Value> void persist(QProperty<Value>& field, const QString& key);
+
+    QSettings& m_settings;
+    std::vector<QPropertyNotifier> m_followers;
+};
