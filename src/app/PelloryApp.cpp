@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PelloryApp.h"
+
+#include "Alerts.h"
+#include "AppSettings.h"
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "StoreError.h"
+#include "StoreFile.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logApp, "pellory.app", QtInfoMsg)
+
+constexpr qint64 secondsPerMinute = 60;
+
+QString translated(const char* key)
+{
+    return QCoreApplication::translate("PelloryApp", key);
+}
+
+} // namespace
+
+PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts)
+    : m_alerts(alerts)
+    , m_folder(dataFolder + "/Pellory"_L1)
+    , m_storeFile(m_folder + "/Pellory.store"_L1)
+{
+    qCDebug(logApp, "fileURL swift data location: %s", qUtf8Printable(m_storeFile));
+    createFolder();
+    openStore();
+    findOrCreateSettings();
+    qCDebug(logApp, "Checking if in office every %lld seconds", m_settings->checkEveryInMinutes * secondsPerMinute);
+}
+
+PelloryApp::~PelloryApp() = default;
+
+void PelloryApp::createFolder()
+{
+    namespace fs = std::filesystem;
+    const fs::path folder = m_folder.toStdString();
+    std::error_code error;
+    fs::create_directories(folder.parent_path(), error);
+    const bool created = !error && fs::create_directory(folder, error);
+    if (created)
+        fs::permissions(folder, fs::perms::owner_all, error);
+    if (!error)
+        return;
+    const QString reason = QString::fromStdString(error.message());
+    m_alerts.showCritical(translated("Cannot start Pellory Tracker"),
+                          translated("Could not create app directory: %1").arg(reason));
+    throw FatalStop(u"Could not create directory at %1 for Pellory SwiftData app store. %2"_s.arg(m_folder, reason));
+}
+
+void PelloryApp::openStore()
+{
+    const QFileInfo file(m_storeFile);
+    if (file.exists() && !file.isReadable()) {
+        const QString reason =
+            translated("Cannot read app swift data store. You do not have read permissions on %1.").arg(m_storeFile);
+        m_alerts.showCritical(translated("Fatal Error"),
+                              reason + translated(" Fix the permissions and restart the app."));
+        throw FatalStop(reason + u" Fix the permissions and re-start app."_s);
+    }
+    QString failure;
+    if (tryToOpen(failure))
+        return;
+    offerToDelete();
+    if (tryToOpen(failure))
+        return;
+    m_alerts.showCritical(translated("Fatal Error"),
+                          translated("Could not load data store at %1. %2").arg(m_storeFile, failure));
+    throw FatalStop(u"Could not load data store, giving up.: %1: %2"_s.arg(m_storeFile, failure));
+}
+
+bool PelloryApp::tryToOpen(QString& failure)
+{
+    try {
+        m_container = std::make_unique<ModelContainer>(ModelConfiguration{u"Example"_s, m_storeFile});
+        return true;
+    } catch (const StoreError& error) {
+        failure = error.description();
+        qCCritical(logApp, "%s", qUtf8Printable(failure));
+        return false;
+    }
+}
+
+void PelloryApp::offerToDelete()
+{
+    const bool isDelete = m_alerts.confirmWarning(
+        translated("Delete File?"),
+        translated(
+            "Could not load the app's data store. It's probably corrupted. Do you want reset all the app's data? "
+            "You will lose all data. This action cannot be undone."),
+        translated("Delete"), translated("Cancel"));
+    if (!isDelete)
+        return;
+    try {
+        removeStoreFile(m_storeFile);
+    } catch (const StoreError& error) {
+        const QString reason = translated("Could not remove app data store: %1").arg(error.description());
+        m_alerts.showCritical(translated("Fatal Error"), reason);
+        throw FatalStop(reason);
+    }
+}
+
+void PelloryApp::findOrCreateSettings()
+{
+    ModelContext& context = m_container->mainContext();
+    const auto stored = context.fetchSettings();
+    if (!stored.isEmpty()) {
+        m_settings = stored.first();
+        return;
+    }
+    m_settings = std::make_shared<AppSettings>();
+    context.insert(m_settings);
+}
