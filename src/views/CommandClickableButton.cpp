@@ -90,8 +90,7 @@ bool CommandClickableButton::hitButton(const QPoint& position) const
 
 void CommandClickableButton::contextMenuEvent(QContextMenuEvent* event)
 {
-    const bool fromKeyboard = event->reason() == QContextMenuEvent::Keyboard;
-    Q_EMIT menuRequested(fromKeyboard ? mapToGlobal(face().bottomLeft()) : event->globalPos());
+    requestMenu(event->reason() == QContextMenuEvent::Keyboard ? menuCorner() : event->globalPos());
 }
 
 void CommandClickableButton::enterEvent(QEnterEvent* event)
@@ -120,6 +119,11 @@ void CommandClickableButton::hideEvent(QHideEvent* event)
 
 void CommandClickableButton::keyPressEvent(QKeyEvent* event)
 {
+    // The Menu key comes as an event of its own, this one does not.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        requestMenu(menuCorner());
+        return;
+    }
     // The other keys belong to the grid.
     if (event->key() != Qt::Key_Space) {
         event->ignore();
@@ -198,6 +202,17 @@ void CommandClickableButton::run(Qt::KeyboardModifiers held)
     case ClickModifier::None:
         return m_actions.action();
     }
+}
+
+QPoint CommandClickableButton::menuCorner() const
+{
+    return mapToGlobal(face().bottomLeft());
+}
+
+void CommandClickableButton::requestMenu(const QPoint& globalPosition)
+{
+    hover(false); // the pointer is the menu's now
+    Q_EMIT menuRequested(globalPosition);
 }
 
 void CommandClickableButton::hover(bool inside)

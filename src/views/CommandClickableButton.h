@@ -65,6 +65,9 @@ protected:
 
 private:
     void run(Qt::KeyboardModifiers held);
+    /// Where a menu opens that was asked for with the keyboard.
+    [[nodiscard]] QPoint menuCorner() const;
+    void requestMenu(const QPoint& globalPosition);
     void hover(bool inside);
     void setShowTooltip(bool show);
 

@@ -35,6 +35,12 @@ QSize LinkButton::sizeHint() const
     return QSize(words.width() + gap + symbolSize, qMax(words.height(), symbolSize)).grownBy(padding);
 }
 
+void LinkButton::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QAbstractButton::focusInEvent(event);
+}
+
 void LinkButton::paintEvent(QPaintEvent* /*event*/)
 {
     const Theme& theme = themeFor(palette());
@@ -50,7 +56,7 @@ void LinkButton::paintEvent(QPaintEvent* /*event*/)
         painter.setBrush(isDown() ? theme.border : theme.page);
         painter.drawRoundedRect(rect(), radius, radius);
     }
-    if (hasFocus()) {
+    if (hasFocus() && m_focusVisible) {
         painter.setPen(QPen(theme.accent, 2.0));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);

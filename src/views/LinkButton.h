@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "FocusVisible.h"
+
 #include <QAbstractButton>
 
 /// A button that is only words and a symbol, in the accent colour.
@@ -15,9 +17,11 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QString m_symbol;
     SymbolSide m_side;
+    FocusVisible m_focusVisible;
 };

@@ -8,8 +8,10 @@
 #include "ViewParts.h"
 #include "ViewSettings.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -56,6 +58,7 @@ MainWindow::MainWindow(const ViewParts& parts)
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
     connect(m_tabs, &QTabBar::currentChanged, this, &MainWindow::showTab);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
 }
 
 QWidget* MainWindow::makeHeader()
@@ -76,7 +79,10 @@ QWidget* MainWindow::makeHeader()
 void MainWindow::showTab(int index)
 {
     m_parts.viewSettings.selectedTab = index + firstTab;
-    QWidget*& page = m_built[index];
+    // A page that goes must not hand the focus, and with it a ring, to whatever comes first on the other.
+    if (m_pages->isAncestorOf(focusWidget()))
+        m_tabs->setFocus(Qt::OtherFocusReason);
+    QScrollArea*& page = m_built.at(static_cast<std::size_t>(index));
     if (page == nullptr) {
         page = makePage(index);
         m_pages->addWidget(page);
@@ -84,7 +90,7 @@ void MainWindow::showTab(int index)
     m_pages->setCurrentWidget(page);
 }
 
-QWidget* MainWindow::makePage(int index)
+QScrollArea* MainWindow::makePage(int index)
 {
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
@@ -96,6 +102,24 @@ QWidget* MainWindow::makePage(int index)
     // The keys go to the days, and the view passes on those that it has no use for.
     scroll->setFocusPolicy(Qt::NoFocus);
     return scroll;
+}
+
+void MainWindow::keepInSight(QWidget* focused)
+{
+    auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
+    // A page that moved under a pressed button would turn the click into a drag.
+    if (page->isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
+        page->ensureWidgetVisible(focused);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    // The keys that turn the pages of the calendar mean the same wherever the focus is.
+    auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
+        QApplication::sendEvent(page->widget(), event);
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 bool MainWindow::event(QEvent* event)

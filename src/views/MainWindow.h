@@ -3,6 +3,9 @@
 
 #include <QMainWindow>
 
+#include <array>
+
+class QScrollArea;
 class QStackedWidget;
 class QTabBar;
 struct ViewParts;
@@ -20,15 +23,17 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     [[nodiscard]] QWidget* makeHeader();
     void showTab(int index);
-    [[nodiscard]] QWidget* makePage(int index);
+    [[nodiscard]] QScrollArea* makePage(int index);
+    void keepInSight(QWidget* focused);
 
     const ViewParts& m_parts;
     QTabBar* m_tabs;
     QStackedWidget* m_pages;
-    QWidget* m_built[2]{};
+    std::array<QScrollArea*, 2> m_built{};
     bool m_painted = false;
 };

@@ -9,20 +9,42 @@
 
 namespace {
 
+constexpr qreal captionFrame = 80.0;
 constexpr qreal captionGap = 8.0;
 constexpr qreal labelInset = 25.0;
 constexpr qreal labelMargin = 8.0;
 constexpr qreal firstRow = 2.0;
 constexpr qreal rowPitch = 20.0;
 
-// As wide as its text and centred under its marker, but moved in where it would pass the end of the overhang.
-Span wantedCaption(const ProgressBarMeasures& measures, const ProgressBarMeasures::Marker& marker)
+// Centred under its marker, but moved in where it would pass the end of the overhang.
+Span wantedCaption(const ProgressBarMeasures& measures, const ProgressBarMeasures::Marker& marker, qreal widest)
 {
     const qreal least = -ProgressBarGeometry::captionOverhang;
     const qreal most = measures.width + ProgressBarGeometry::captionOverhang;
-    const qreal width = std::min(marker.captionWidth, most - least);
+    const qreal width = std::min(marker.captionWidth, widest);
     const qreal left = std::clamp(marker.position * measures.width - width / 2, least, most - width);
     return {left, left + width};
+}
+
+QList<Span> wantedCaptions(const ProgressBarMeasures& measures, qreal widest)
+{
+    QList<Span> wanted;
+    for (const auto& marker : measures.markers)
+        wanted.append(wantedCaption(measures, marker, widest));
+    return wanted;
+}
+
+bool isComplete(const QList<PlacedCaption>& placed, const QList<Span>& wanted)
+{
+    return std::ranges::equal(placed, wanted, {}, &PlacedCaption::span);
+}
+
+// Captions are as wide as their texts. Where they crowd each other, each keeps to the frame under its own marker.
+QList<PlacedCaption> captionsFor(const ProgressBarMeasures& measures)
+{
+    const QList<Span> whole = wantedCaptions(measures, measures.width + 2 * ProgressBarGeometry::captionOverhang);
+    const QList<PlacedCaption> placed = placeCaptions(whole);
+    return isComplete(placed, whole) ? placed : placeCaptions(wantedCaptions(measures, captionFrame));
 }
 
 // The number stands just inside the end of the progress; while that is too short to hold it, just behind its end.
@@ -46,11 +68,7 @@ ProgressBarGeometry progressBarGeometry(const ProgressBarMeasures& measures)
     geometry.label = labelRect(measures);
     geometry.height = measures.barHeight;
 
-    QList<Span> wanted;
-    for (const auto& marker : measures.markers)
-        wanted.append(wantedCaption(measures, marker));
-    const QList<PlacedCaption> captions = placeCaptions(wanted);
-
+    const QList<PlacedCaption> captions = captionsFor(measures);
     const qreal lineBottom = measures.barHeight + measures.markerLineHeight;
     for (qsizetype i = 0; i < captions.size(); ++i) {
         const QRectF line(measures.markers.at(i).position * measures.width - measures.markerLineWidth / 2,
