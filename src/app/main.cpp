@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Accessibility.h"
 #include "MainWindow.h"
 #include "MessageBoxAlerts.h"
 #include "ModelContainer.h"
@@ -45,6 +46,7 @@ void followColorScheme(Appearance& appearance, QSettings& settings)
 
 int run()
 {
+    installAccessibleRoles();
     QSettings settings;
     wearLastScheme(settings);
     MessageBoxAlerts alerts;

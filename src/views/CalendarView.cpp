@@ -152,6 +152,7 @@ void CalendarView::refresh()
         return;
     const QDate today = m_parts.clock.today();
     m_name->setText(title(today));
+    setAccessibleName(m_name->text());
     m_workdays->setText(workdaysText(m_month->workdayCount()));
     for (qsizetype index = 0; index < drawnCells; ++index)
         refreshCell(index, today);

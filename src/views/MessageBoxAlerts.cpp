@@ -2,10 +2,13 @@
 #include "MessageBoxAlerts.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace {
+
+constexpr int textWidth = 440;
 
 void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& message, const QString& informativeText)
 {
@@ -15,6 +18,9 @@ void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& message, c
     box.setTextFormat(Qt::PlainText);
     box.setText(message);
     box.setInformativeText(informativeText);
+    // Left to itself the box is as narrow as its shortest text.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(textWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 } // namespace
