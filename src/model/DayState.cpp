@@ -11,7 +11,7 @@ namespace {
 
 struct DayStateText {
     QLatin1StringView raw;
-    const char* description;
+    const char* description = nullptr;
 };
 
 // Indexed by the enumerator.
