@@ -10,13 +10,6 @@
 
 #include <SQLiteCpp/Database.h>
 
-namespace {
-
-// A save on the click path waits no longer than this for another program; it is tried again with the next one.
-constexpr int saveLockTimeout = 10;
-
-} // namespace
-
 ModelContainer::ModelContainer(ModelConfiguration configuration)
     : m_configuration(std::move(configuration))
 {
@@ -33,10 +26,9 @@ void ModelContainer::open()
 {
     if (!QFile::exists(m_configuration.path))
         createStoreFile(m_configuration.path);
-    m_database = std::make_unique<SQLite::Database>(m_configuration.path.toStdString(), SQLite::OPEN_READWRITE,
-                                                    m_configuration.lockTimeout);
+    m_database = std::make_unique<SQLite::Database>(
+        connectToStore(m_configuration.path.toStdString(), m_configuration.lockTimeout));
     verifyStore(*m_database);
-    m_database->exec("PRAGMA synchronous = FULL");
     m_database->setBusyTimeout(saveLockTimeout);
     m_context = std::make_unique<ModelContext>(*m_database);
     // Goals and settings are few and needed at once; reading them here makes damage a failure of the opening.

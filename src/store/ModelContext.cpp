@@ -7,6 +7,7 @@
 #include <QLoggingCategory>
 
 #include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -96,6 +97,7 @@ bool ModelContext::save()
     if (!hasChanges())
         return true;
     try {
+        reconnectIfReadOnly();
         writeChanges();
         return true;
     } catch (const SQLite::Exception& error) {
@@ -130,6 +132,18 @@ void ModelContext::insertNewGoals()
         for (const auto& goal : settings->daysPerWeekGoals.value())
             m_tables->goals.insert(goal);
     }
+}
+
+// A file that could not be written when it was opened stays read-only to its connection, even when it has become
+// writable since.
+void ModelContext::reconnectIfReadOnly()
+{
+    if (sqlite3_db_readonly(m_database.getHandle(), "main") == 0)
+        return;
+    m_tables->months.release();
+    m_tables->goals.release();
+    m_tables->settings.release();
+    m_database = connectToStore(m_database.getFilename(), saveLockTimeout);
 }
 
 void ModelContext::writeChanges()

@@ -46,6 +46,7 @@ private:
     void scheduleSave();
     void insertNewGoals();
     void writeChanges();
+    void reconnectIfReadOnly();
 
     SQLite::Database& m_database;
     std::unique_ptr<Tables> m_tables;

@@ -86,6 +86,9 @@ public:
         m_dirty.clear();
     }
 
+    /// Lets go of the connection, so that it can be replaced.
+    void release() { m_update.reset(); }
+
 private:
     struct Entry {
         RecordPtr record;
@@ -128,7 +131,8 @@ private:
     {
         if (!m_update)
             m_update.emplace(m_database, Mapping::layout.updateSql());
-        m_update->reset();
+        // What the last run failed with is of no interest to this one.
+        m_update->tryReset();
         bindRow(*m_update, Mapping::row(*entry.record));
         m_update->bind(static_cast<int>(Mapping::layout.columns.size()) + 2, *entry.key);
         m_update->exec();

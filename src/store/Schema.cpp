@@ -78,6 +78,13 @@ template <class Mapping> void verifyRecords(SQLite::Database& database)
 
 } // namespace
 
+SQLite::Database connectToStore(const std::string& path, int lockTimeout)
+{
+    SQLite::Database database(path, SQLite::OPEN_READWRITE, lockTimeout);
+    database.exec("PRAGMA synchronous = FULL");
+    return database;
+}
+
 void createSchema(SQLite::Database& database)
 {
     SQLite::Transaction transaction(database);

@@ -88,6 +88,8 @@ void HoverLabel::fadeTo(qreal opacity)
 
 void HoverLabel::place()
 {
+    if (!m_anchor)
+        return;
     const QRect anchor(m_anchor->mapTo(window(), m_area.topLeft()), m_area.size());
     setGeometry(hoverLabelRect(sizeHint(), anchor, window()->rect()));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QPropertyAnimation;
@@ -39,7 +40,7 @@ private:
     void fadeTo(qreal opacity);
     void place();
 
-    QWidget* m_anchor;
+    QPointer<QWidget> m_anchor;
     QRect m_area;
     Style m_style;
     QString m_text;
