@@ -24,7 +24,7 @@ void PortalAppearance::start()
     QDBusConnection bus = QDBusConnection::sessionBus();
     // The match on group and key keeps every other setting of the desktop from waking this process.
     bus.connect(service, path, settingsInterface, u"SettingChanged"_s, {appearanceGroup, colorSchemeKey}, u"ssv"_s,
-                this, SLOT(handleSettingChanged(QString, QString, QDBusVariant)));
+                this, SLOT(handleSettingChanged(QDBusMessage)));
 
     auto read = QDBusMessage::createMethodCall(service, path, settingsInterface, u"Read"_s);
     read << appearanceGroup << colorSchemeKey;
@@ -37,19 +37,20 @@ void PortalAppearance::handleAnswer(QDBusPendingCallWatcher* call)
     call->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *call;
     if (reply.isValid())
-        report(reply.value().variant());
+        report(QVariant::fromValue(reply.value()));
 }
 
-void PortalAppearance::handleSettingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+void PortalAppearance::handleSettingChanged(const QDBusMessage& signal)
 {
-    if (group == appearanceGroup && key == colorSchemeKey)
-        report(value.variant());
+    report(signal.arguments().at(2));
 }
 
 void PortalAppearance::report(const QVariant& value)
 {
     // "Read" wraps its answer in one variant more than the signal does.
-    const QVariant scheme = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    QVariant scheme = value;
+    while (scheme.metaType() == QMetaType::fromType<QDBusVariant>())
+        scheme = scheme.value<QDBusVariant>().variant();
     bool isNumber = false;
     const bool isDark = scheme.toUInt(&isNumber) == 1;
     if (isNumber)

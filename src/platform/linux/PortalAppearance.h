@@ -3,8 +3,8 @@
 
 #include "Appearance.h"
 
+class QDBusMessage;
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 /// The colour scheme as the desktop portal tells it (org.freedesktop.appearance, color-scheme: 1 is dark, 2 is light, 0
 /// is no preference, which is what GNOME says for light).
@@ -19,5 +19,5 @@ private:
     void report(const QVariant& value);
 
 private Q_SLOTS:
-    void handleSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void handleSettingChanged(const QDBusMessage& signal);
 };
