@@ -73,7 +73,7 @@ void CalendarView::addWeekdays(QGridLayout& grid)
     };
     for (int column = 0; column < columns; ++column) {
         auto* letter = new QLabel(tr(letters[column]));
-        letter->setFont(fonts::scaled(font(), 1.05, QFont::Medium));
+        letter->setFont(fonts::body(font(), QFont::Medium));
         letter->setForegroundRole(QPalette::PlaceholderText);
         letter->setAlignment(Qt::AlignCenter);
         letter->setContentsMargins(0, 0, 0, 6);

@@ -27,7 +27,7 @@ const HoverLabel::Style tooltipStyle{.padding = {6, 6, 6, 6}, .radius = 4.0, .ba
 
 QFont labelFont(const QWidget& widget)
 {
-    return fonts::scaled(widget.font(), 0.95, QFont::DemiBold);
+    return fonts::body(widget.font(), QFont::Bold);
 }
 
 } // namespace

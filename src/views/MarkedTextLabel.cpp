@@ -1,26 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MarkedTextLabel.h"
 
+#include <QEvent>
 #include <QPainter>
-#include <QTextLayout>
 
 #include <cmath>
 #include <limits>
+
+namespace {
+
+QSize roundedUp(const QSizeF& size)
+{
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+} // namespace
 
 void MarkedTextLabel::setMarkedText(const MarkedText& text)
 {
     if (text == m_text)
         return;
     m_text = text;
+    m_width = notLaidOut;
     setText(toPlainText(text));
     updateGeometry();
 }
 
+void MarkedTextLabel::setPlainRole(QPalette::ColorRole role)
+{
+    m_plainRole = role;
+    update();
+}
+
 QSize MarkedTextLabel::sizeHint() const
 {
-    QTextLayout layout;
-    const QSizeF size = layOut(layout, std::numeric_limits<int>::max());
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+    return roundedUp(layOut(std::numeric_limits<int>::max()));
 }
 
 QSize MarkedTextLabel::minimumSizeHint() const
@@ -30,20 +44,45 @@ QSize MarkedTextLabel::minimumSizeHint() const
 
 int MarkedTextLabel::heightForWidth(int width) const
 {
-    QTextLayout layout;
-    return static_cast<int>(std::ceil(layOut(layout, width).height()));
+    return roundedUp(layOut(width)).height();
+}
+
+void MarkedTextLabel::changeEvent(QEvent* event)
+{
+    // The font, the direction and the colours are part of the layout.
+    m_width = notLaidOut;
+    QLabel::changeEvent(event);
 }
 
 void MarkedTextLabel::paintEvent(QPaintEvent* /*event*/)
 {
-    QTextLayout layout;
-    layOut(layout, width());
+    layOut(width());
     QPainter painter(this);
     painter.setPen(palette().color(m_plainRole));
-    layout.draw(&painter, {});
+    m_layout.draw(&painter, {});
 }
 
-QSizeF MarkedTextLabel::layOut(QTextLayout& layout, qreal width) const
+QSizeF MarkedTextLabel::layOut(qreal width) const
+{
+    // A line that holds the whole text holds it at every width in between, and starts at the same left edge.
+    const bool isOneLine = m_layout.lineCount() == 1 && m_size.width() <= width && width <= m_width;
+    if (width == m_width || (isOneLine && layoutDirection() == Qt::LeftToRight))
+        return m_size;
+    if (m_width == notLaidOut)
+        prepareLayout();
+    m_width = width;
+    m_size = {};
+    m_layout.beginLayout();
+    for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0.0, m_size.height()});
+        m_size = {qMax(m_size.width(), line.naturalTextWidth()), m_size.height() + line.height()};
+    }
+    m_layout.endLayout();
+    return m_size;
+}
+
+void MarkedTextLabel::prepareLayout() const
 {
     QList<QTextLayout::FormatRange> formats;
     int start = 0;
@@ -60,18 +99,8 @@ QSizeF MarkedTextLabel::layOut(QTextLayout& layout, qreal width) const
     QTextOption option(Qt::AlignLeading);
     option.setTextDirection(layoutDirection());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setText(text());
-    layout.setFont(font());
-    layout.setFormats(formats);
-    layout.setTextOption(option);
-
-    QSizeF size;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        line.setPosition({0.0, size.height()});
-        size = {qMax(size.width(), line.naturalTextWidth()), size.height() + line.height()};
-    }
-    layout.endLayout();
-    return size;
+    m_layout.setText(text());
+    m_layout.setFont(font());
+    m_layout.setFormats(formats);
+    m_layout.setTextOption(option);
 }

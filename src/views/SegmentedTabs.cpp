@@ -11,6 +11,13 @@ namespace {
 constexpr qreal radius = 7.0;
 constexpr int gap = 3;
 
+QFont chosenFont(const QWidget& tabs)
+{
+    QFont font = tabs.font();
+    font.setWeight(QFont::Bold);
+    return font;
+}
+
 } // namespace
 
 SegmentedTabs::SegmentedTabs(QWidget* parent)
@@ -27,7 +34,7 @@ SegmentedTabs::SegmentedTabs(QWidget* parent)
 QSize SegmentedTabs::tabSizeHint(int /*index*/) const
 {
     QSize widest;
-    const QFontMetrics metrics(fonts::scaled(font(), 1.0, QFont::DemiBold));
+    const QFontMetrics metrics(chosenFont(*this));
     for (int i = 0; i < count(); ++i)
         widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)));
     return widest.grownBy({22, 8, 22, 8});
@@ -62,7 +69,7 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
             painter.drawRoundedRect(segment, radius, radius);
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
-        painter.setFont(fonts::scaled(font(), 1.0, isCurrent ? QFont::DemiBold : QFont::Normal));
+        painter.setFont(isCurrent ? chosenFont(*this) : font());
         painter.drawText(segment, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
     }
 }
