@@ -59,6 +59,11 @@ void QuarterView::showQuarter(const YearQuarter& quarter)
     refresh();
 }
 
+QSize QuarterView::minimumSizeHint() const
+{
+    return {Card::contentWidth + 2 * margin, QWidget::minimumSizeHint().height()};
+}
+
 void QuarterView::turnTo(const std::optional<YearQuarter>& quarter)
 {
     if (!quarter)

@@ -24,6 +24,9 @@ public:
     void showQuarter(const YearQuarter& quarter);
     [[nodiscard]] YearQuarter quarter() const { return m_quarter; }
 
+    /// As narrow as one month, also while three stand side by side: else they would never go back below each other.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
