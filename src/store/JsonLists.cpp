@@ -20,16 +20,23 @@ QString textOf(const Json& json)
     return QString::fromStdString(json.get_ref<const std::string&>());
 }
 
+qint64 numberOf(const Json& json)
+{
+    // The library keeps a number of 0 and more as an unsigned one, and would wrap it.
+    const bool isTooLarge = json.is_number_unsigned() && json.get<quint64>() > std::numeric_limits<qint64>::max();
+    if (!json.is_number_integer() || isTooLarge)
+        throw StoreError(u"the number of a day is no whole number"_s);
+    return json.get<qint64>();
+}
+
 Day decodedDay(const Json& json)
 {
-    const Json& id = json.at("id");
-    if (!id.is_number_integer() || id > std::numeric_limits<qint64>::max())
-        throw StoreError(u"the number of a day is no whole number"_s);
+    const qint64 id = numberOf(json.at("id"));
     const QString raw = textOf(json.at("state"));
     const auto state = dayStateFromRawValue(raw);
     if (!state)
         throw StoreError(u"\"%1\" is no state of a day"_s.arg(raw));
-    return {.id = id.get<qint64>(), .state = *state, .isWorkday = json.at("isWorkday").get_ref<const bool&>()};
+    return {.id = id, .state = *state, .isWorkday = json.at("isWorkday").get_ref<const bool&>()};
 }
 
 // The library reports text that is no JSON, a missing key and a wrong type by exceptions of its own.
