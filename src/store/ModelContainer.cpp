@@ -29,6 +29,8 @@ void ModelContainer::open()
     m_database = std::make_unique<SQLite::Database>(
         connectToStore(m_configuration.path.toStdString(), m_configuration.lockTimeout));
     verifyStore(*m_database);
+    // The whole file has passed through the page cache, and little of it is needed soon.
+    m_database->exec("PRAGMA shrink_memory");
     m_database->setBusyTimeout(saveLockTimeout);
     m_context = std::make_unique<ModelContext>(*m_database);
     // Goals and settings are few and needed at once; reading them here makes damage a failure of the opening.
