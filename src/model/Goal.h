@@ -26,7 +26,7 @@ public:
     /// The number in `wantedDaysPerWeek`, as goalNumber() reads it.
     [[nodiscard]] std::optional<double> value() const;
 
-    QProperty<QUuid> id;
+    const QUuid id;
     /// Days per week as decimal text. A new goal has two decimals ("3.00"); while it is edited it may hold anything.
     QProperty<QString> wantedDaysPerWeek;
     QProperty<QString> desc;

@@ -77,7 +77,7 @@ std::optional<qsizetype> Month::indexOf(int dayOfMonth) const
 {
     const auto& cells = days.value();
     const auto found = std::ranges::find(cells, dayOfMonth, &Day::id);
-    return found == cells.end() ? std::nullopt : std::optional(found - cells.begin());
+    return found == cells.end() || !found->isInMonth() ? std::nullopt : std::optional(found - cells.begin());
 }
 
 QDate Month::dateOf(qint64 dayId) const

@@ -40,7 +40,7 @@ public:
 
     [[nodiscard]] qint64 inOfficeCount(bool vacationDaysCountAsInOffice) const;
     [[nodiscard]] qint64 workdayCount() const;
-    /// The grid index of a day of the month, if the month has that day.
+    /// The grid index of a day of the month, 1 to 31, if the month has that day.
     [[nodiscard]] std::optional<qsizetype> indexOf(int dayOfMonth) const;
     /// The date of a cell. Numbers of 0 and less count back from the first of the month.
     [[nodiscard]] QDate dateOf(qint64 dayId) const;

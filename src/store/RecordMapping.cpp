@@ -102,7 +102,7 @@ Followers MonthMapping::follow(Month& month, const std::function<void()>& change
 
 Row GoalMapping::row(const Goal& goal)
 {
-    return {goal.id.value().toString(QUuid::WithoutBraces).toStdString(), goal.wantedDaysPerWeek.value().toStdString(),
+    return {goal.id.toString(QUuid::WithoutBraces).toStdString(), goal.wantedDaysPerWeek.value().toStdString(),
             goal.desc.value().toStdString()};
 }
 
@@ -113,14 +113,14 @@ std::shared_ptr<Goal> GoalMapping::record(const Row& row)
 
 Followers GoalMapping::follow(Goal& goal, const std::function<void()>& changed)
 {
-    return followAll(changed, goal.id, goal.wantedDaysPerWeek, goal.desc);
+    return followAll(changed, goal.wantedDaysPerWeek, goal.desc);
 }
 
 Row SettingsMapping::row(const AppSettings& settings)
 {
     QStringList goalIds;
     for (const auto& goal : settings.daysPerWeekGoals.value())
-        goalIds.append(goal->id.value().toString(QUuid::WithoutBraces));
+        goalIds.append(goal->id.toString(QUuid::WithoutBraces));
     return {encodedStrings(goalIds),
             encodedStrings(settings.inOfficeSsids),
             std::int64_t{settings.firstTime},

@@ -4,6 +4,8 @@
 #include "RecordMapping.h"
 #include "StoreError.h"
 
+#include <QFileInfo>
+
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
@@ -46,6 +48,14 @@ void verifyHas(SQLite::Database& database, const std::string& createSql, const c
         throw StoreError(u"The data store lacks \"%1\"."_s.arg(QLatin1StringView(name)));
     if (query.getColumn(0).getString() != createSql)
         throw StoreError(u"\"%1\" in the data store has another form than expected."_s.arg(QLatin1StringView(name)));
+}
+
+// SQLite takes a file whose header names an unknown version of its format for one that may only be read.
+void verifyWritable(SQLite::Database& database)
+{
+    const bool isReadOnly = sqlite3_db_readonly(database.getHandle(), "main") == 1;
+    if (isReadOnly && QFileInfo(QString::fromStdString(database.getFilename())).isWritable())
+        throw StoreError(u"The data store is damaged: its header does not allow writing."_s);
 }
 
 void verifySchema(SQLite::Database& database)
@@ -99,6 +109,7 @@ void createSchema(SQLite::Database& database)
 void verifyStore(SQLite::Database& database)
 {
     verifyMarks(database);
+    verifyWritable(database);
     verifySchema(database);
     verifyPages(database);
     verifyRecords<MonthMapping>(database);
