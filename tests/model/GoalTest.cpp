@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AppSettings.h"
+#include "Testing.h"
+
+TEST(Goal, isMadeFromADecimalNumberInItsRangeWhateverTheLocale)
+{
+    const auto locale = scopedLocale(QLocale(QLocale::German));
+    const std::pair<QString, QString> rows[]{
+        {u"3"_s, u"3.00"_s},     {u"0.1"_s, u"0.10"_s},   {u"7"_s, u"7.00"_s},  {u"2.5"_s, u"2.50"_s},
+        {u"2.004"_s, u"2.00"_s}, {u"2.006"_s, u"2.01"_s}, {u"+3"_s, u"3.00"_s}, {u"6.999"_s, u"7.00"_s},
+        {u"003"_s, u"3.00"_s},   {u".5"_s, u"0.50"_s},    {u"3."_s, u"3.00"_s}, {u"10e-1"_s, u"1.00"_s},
+    };
+    for (const auto& [text, stored] : rows) {
+        SCOPED_TRACE(text.toStdString());
+        const auto goal = Goal::create(text, u" ** "_s);
+        ASSERT_TRUE(goal);
+        EXPECT_EQ(goal->wantedDaysPerWeek, stored);
+        EXPECT_EQ(goal->desc, u" ** "_s);
+        EXPECT_EQ(goal->value(), stored.toDouble());
+        EXPECT_NE(goal->id, Goal::create(text, {})->id);
+    }
+}
+
+TEST(Goal, isNotMadeFromOtherText)
+{
+    for (const auto& text : {u"0"_s, u"0.0999"_s, u"7.001"_s, u"7.5"_s, u"-1"_s, u"1e1"_s, u"1e15"_s}) {
+        EXPECT_FALSE(Goal::create(text, {})) << text.toStdString();
+        EXPECT_TRUE(goalNumber(text)) << text.toStdString();
+    }
+    for (const auto& text :
+         {u"abc"_s, u""_s,    u" 3"_s,     u"3 "_s,  u"\t3"_s,   u"\v3"_s,    u"3\n"_s,    u"3\u00a0"_s,
+          u"3,5"_s, u"3x"_s,  u"0x3"_s,    u"+-3"_s, u"++3"_s,   u"+"_s,      u"inf"_s,    u"-inf"_s,
+          u"nan"_s, u"3\0"_s, u"\u0663"_s, u"3/5"_s, u"1e300"_s, u"-1e300"_s, u"1e-400"_s, QString(400, u'9')}) {
+        EXPECT_FALSE(Goal::create(text, {})) << text.toStdString();
+        EXPECT_EQ(goalNumber(text), std::nullopt) << text.toStdString();
+    }
+}
+
+TEST(AppSettings, startWithTheDefaultsAndShareTheirGoals)
+{
+    const AppSettings settings;
+    EXPECT_TRUE(settings.inOfficeSsids.value().isEmpty());
+    EXPECT_TRUE(settings.firstTime && settings.notificationsEnabled);
+    EXPECT_FALSE(settings.wifiTrackingEnabled || settings.vacationDaysCountAsInOffice);
+    EXPECT_EQ(settings.checkEveryInMinutes, 30);
+    QStringList goals;
+    for (const auto& goal : settings.daysPerWeekGoals.value())
+        goals.append(goal->wantedDaysPerWeek.value() + u' ' + goal->desc.value());
+    EXPECT_EQ(goals, (QStringList{u"2.00 not fired"_s, u"3.00 no probation"_s, u"4.00 ideal"_s}));
+    EXPECT_EQ(settings.daysPerWeekGoals.value(), AppSettings().daysPerWeekGoals.value());
+}

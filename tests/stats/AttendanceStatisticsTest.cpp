@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AttendanceStatistics.h"
+#include "Marking.h"
+#include "StatisticsTexts.h"
+#include "Testing.h"
+
+#include <limits>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+
+void markDays(Month& month, int first, int count, DayState state)
+{
+    for (int day = first; day < first + count; ++day)
+        mark(month, day, state);
+}
+
+AppSettings::Goals goalsWith(const QStringList& texts)
+{
+    AppSettings::Goals goals;
+    for (const QString& text : texts)
+        goals.append(std::make_shared<Goal>(QUuid(), text, QString()));
+    return goals;
+}
+
+} // namespace
+
+// In 2026 February has 20 workdays, April 22 and May 21.
+TEST(AttendanceStatistics, countAndAverage)
+{
+    const struct {
+        int month, inOffice, onVacation, planned;
+        bool vacationCounts, plannedShown;
+        double average, prediction;
+    } rows[]{{4, 10, 2, 0, false, true, 10 / 22.0 * 5, 10 / 22.0 * 5},
+             {4, 10, 2, 3, true, true, 12 / 22.0 * 5, 15 / 22.0 * 5},
+             {2, 10, 0, 3, false, true, 2.5, 3.25},
+             {2, 10, 0, 3, false, false, 2.5, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        Month month(2026, row.month);
+        markDays(month, 1, row.inOffice, DayState::IN_OFFICE);
+        markDays(month, 21, row.onVacation, DayState::VACATION_DAY);
+        markDays(month, 25, row.planned, DayState::WILL_BE_IN_OFFICE);
+        const auto statistics = attendanceStatistics({&month}, {}, row.vacationCounts, row.plannedShown);
+        EXPECT_DOUBLE_EQ(statistics.average, row.average);
+        EXPECT_DOUBLE_EQ(statistics.prediction, row.prediction);
+        EXPECT_EQ(shownAverage(statistics), statistics.average);
+    }
+}
+
+TEST(AttendanceStatistics, addUpMonthsWithTheirFillerCells)
+{
+    Month january(2026, 1), february(2026, 2), march(2026, 3);
+    mark(january, 0, DayState::IN_OFFICE);
+    mark(january, -1, DayState::WILL_BE_IN_OFFICE);
+    mark(february, 2, DayState::IN_OFFICE);
+    mark(march, 31, DayState::WILL_BE_IN_OFFICE);
+    const auto statistics = attendanceStatistics({&january, &february, &march}, {}, false, true);
+    EXPECT_EQ(statistics.workdays, 64);
+    EXPECT_EQ(statistics.inOffice, 2);
+    EXPECT_EQ(statistics.planned, 2);
+}
+
+TEST(AttendanceStatistics, targetIsTheNextGoalOrElseTheLast)
+{
+    const struct {
+        int month, inOffice;
+        QStringList goals;
+        qsizetype target; // the place in the list, -1 for none
+        double highest;
+        QString line;
+    } rows[]{
+        {2, 10, {u"2"_s, u"3"_s, u"abc"_s}, 1, 3, u"**2 more days** to reach **3.00/5**"_s},
+        {2, 14, {u"3"_s, u"2"_s}, 1, 3, u"**0 more days** to reach **2.00/5**"_s},
+        {5, 9, {u"3"_s}, 0, 3, u"**4 more days** to reach **3.00/5**"_s},
+        {2, 4, {u"4"_s, u"3.00"_s, u"3"_s}, 1, 4, u"**8 more days** to reach **3.00/5**"_s},
+        {2, 10, {u"4"_s, u"2.5"_s, u"3"_s}, 2, 4, u"**2 more days** to reach **3.00/5**"_s},
+        {2, 20, {u"-1e300"_s, u"-1"_s}, 1, -1, u"**0 more days** to reach **-1.00/5**"_s},
+        {2, 0, {u"1e15"_s}, 0, 1e15, u"**4000000000000000 more days** to reach **1000000000000000.00/5**"_s},
+        {2, 3, {u"1e300"_s, u""_s, u" 3"_s, u"inf"_s, u"nan"_s}, -1, 0, {}},
+        {2, 3, {}, -1, 0, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.goals.join(u';').toStdString());
+        const auto goals = goalsWith(row.goals);
+        Month month(2026, row.month);
+        markDays(month, 1, row.inOffice, DayState::IN_OFFICE);
+        const auto statistics = attendanceStatistics({&month}, goals, false, true);
+        EXPECT_EQ(statistics.targetGoal ? goals.indexOf(statistics.targetGoal->goal) : -1, row.target);
+        EXPECT_EQ(statistics.highestGoalValue, row.highest);
+        EXPECT_EQ(toMarkdown(goalText(statistics)), row.line);
+    }
+}
+
+TEST(AttendanceStatistics, periodWithoutWorkdaysIsShownAsNothingReached)
+{
+    for (const DayState state : {DayState::UNKNOWN, DayState::IN_OFFICE}) {
+        const Month month({2026, 3, {}, 31, {{.id = 1, .state = state}}});
+        const auto statistics = attendanceStatistics({&month}, goalsWith({u"3"_s}), false, true);
+        EXPECT_EQ(averageText(shownAverage(statistics)), u"You've reached 0.00 average days in office per week"_s);
+        EXPECT_EQ(statistics.remainingDays, -month.inOfficeCount(false));
+    }
+}
+
+TEST(AttendanceStatistics, standOnABarThatEndsAtTheHighestGoal)
+{
+    const struct {
+        double average = 0, prediction = 0;
+        QStringList goals;
+        QList<double> fractions; // progress, prediction, markers
+    } rows[]{{2.5, 3.25, {u"2"_s, u"abc"_s, u"3"_s}, {2.5 / 3, 1, 2 / 3.0, 1}},
+             {1, 2, {u"-1"_s, u"4"_s, u"0"_s}, {0.25, 0.5, 0, 1, 0}},
+             {noNumber, noNumber, {u"2"_s}, {0, 0, 1}},
+             {infinity, infinity, {u"2"_s}, {1, 1, 1}},
+             {2.5, 0, {}, {1, 0}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        auto statistics = attendanceStatistics({}, goalsWith(row.goals), false, true);
+        statistics.average = row.average;
+        statistics.prediction = row.prediction;
+        const auto fractions = barFractions(statistics);
+        EXPECT_THAT((QList{fractions.progress, fractions.prediction} + fractions.markers),
+                    testing::Pointwise(testing::DoubleEq(), row.fractions));
+    }
+}
+
+TEST(AttendanceStatisticsDeathTest, neededDaysAreRoundedUpOrStopTheProgram)
+{
+    EXPECT_EQ(neededDays(3, 21), 13);
+    EXPECT_EQ(neededDays(3, 20), 12);
+    EXPECT_EQ(neededDays(2, 21), 9);
+    EXPECT_EQ(neededDays(-4, 21), -16);
+    for (const double value : {1e300, -1e300, 0x1p63, noNumber})
+        EXPECT_DEATH(static_cast<void>(neededDays(value, 5)), "more days than can be counted") << value;
+}

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Row.h"
+#include "StoreFile.h"
+#include "StoreTest.h"
+
+#include <QDir>
+
+#include <SQLiteCpp/Statement.h>
+
+#include <thread>
+
+using testing::HasSubstr;
+
+class ModelContainerTest : public StoreTest {};
+
+TEST_F(ModelContainerTest, saysWhyAStoreIsRefusedAndLeavesItAlone)
+{
+    const std::pair<const char*, const char*> rows[]{
+        {"PRAGMA application_id = 1", "not a data store of Pellory"},
+        {"PRAGMA user_version = 2", "newer version"},
+        {"PRAGMA user_version = 0", "unknown format"},
+        {"DROP TABLE month", "lacks \"month\""},
+        {"DROP TABLE goal", "lacks \"goal\""},
+        {"DROP TABLE app_settings", "lacks \"app_settings\""},
+        {"DROP INDEX month_by_period", "lacks \"month_by_period\""},
+        {"ALTER TABLE goal ADD COLUMN more TEXT", "\"goal\" in the data store has another form"},
+        {"UPDATE month SET days = '[]' WHERE pk = 2", "damaged: record 2 of \"month\""},
+        {"UPDATE month SET year = 2027 WHERE pk = 1", "damaged: record 1 of \"month\""},
+        {"UPDATE goal SET description = '' WHERE pk = 1", "damaged: record 1 of \"goal\""},
+        {"UPDATE app_settings SET first_time = 0", "damaged: record 1 of \"app_settings\""},
+        {"UPDATE app_settings SET checksum = checksum + 1", "checksum"},
+        {"DELETE FROM goal WHERE pk = 1", "is missing"},
+    };
+    putSample();
+    const QByteArray sound = bytes();
+    for (const auto& [sql, telling] : rows) {
+        SCOPED_TRACE(sql);
+        setBytes(sound);
+        connection().exec(sql);
+        const QByteArray damaged = bytes();
+        EXPECT_THAT(refusal(), HasSubstr(telling));
+        EXPECT_TRUE(bytes() == damaged);
+    }
+}
+
+TEST_F(ModelContainerTest, refusesWhatIsNoStoreOrDamagedAsAFile)
+{
+    putSample();
+    const QByteArray sound = bytes();
+    QList<QByteArray> files{QByteArray(5000, 'x'), QByteArray(8192, '\0'), sound.chopped(1), sound.chopped(4096)};
+    for (const qsizetype size : {0, 1, 99, 100, 511, 1024, 4095, 4096, 4097, 8192})
+        files.append(sound.first(size));
+    files.append(QByteArray(sound).replace(18, 1, "\3")); // a format that SQLite would only read
+    // The entry of the second month in the index: year, month and key after the types of the three.
+    const auto entry = QByteArray::fromHex("0402010107ea0202");
+    ASSERT_TRUE(sound.contains(entry));
+    files.append(QByteArray(sound).replace(entry, QByteArray::fromHex("0402010107ea0302")));
+    for (const QByteArray& file : files) {
+        SCOPED_TRACE(file.size());
+        setBytes(file);
+        EXPECT_THAT(refusal(), testing::AnyOf(HasSubstr("not a data store"), HasSubstr("damaged")));
+        EXPECT_TRUE(bytes() == file);
+    }
+}
+
+TEST_F(ModelContainerTest, noFlippedBitChangesARecord)
+{
+    putSample();
+    const QByteArray sound = bytes();
+    const QStringList expected = stored();
+    int refusals = 0;
+    for (qsizetype bit = 0; bit < sound.size() * 8; bit += bit < 800 ? 1 : 149) { // every bit of the header
+        SCOPED_TRACE(bit);
+        QByteArray damaged = sound;
+        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
+        setBytes(damaged);
+        try {
+            EXPECT_EQ(stored(), expected);
+        } catch (const StoreError&) {
+            ++refusals;
+        }
+        EXPECT_TRUE(bytes() == damaged);
+    }
+    EXPECT_GT(refusals, 300);
+}
+
+TEST_F(ModelContainerTest, refusesADayListThatIsNoneThoughItsChecksumIsRight)
+{
+    putSample();
+    for (const std::string& days : {encodedDays(Month(2026, 2).days.value().first(37)), std::string("no JSON")}) {
+        const auto database = connection();
+        SQLite::Statement month(database, "UPDATE month SET days = ?, checksum = ? WHERE pk = 2");
+        month.bind(1, days);
+        month.bind(2, checksum({2026, 2, "February", 28, days}));
+        ASSERT_EQ(month.exec(), 1);
+        EXPECT_THROW(static_cast<void>(stored()), StoreError) << days;
+    }
+}
+
+TEST_F(ModelContainerTest, findsOneDamagedRecordAmongAHundredYears)
+{
+    auto container = open();
+    for (int number = 0; number < 1200; ++number)
+        container->mainContext().insert(std::make_shared<Month>(1980 + number / 12, 1 + number % 12));
+    container = nullptr;
+    EXPECT_EQ(stored().size(), 1200);
+    connection().exec("UPDATE month SET days = replace(days, '7,\"state\":\"UNK', '7,\"state\":\"UNX') WHERE pk = 600");
+    EXPECT_THAT(refusal(), HasSubstr("record 600 of \"month\""));
+}
+
+TEST_F(ModelContainerTest, waitsForAnotherProgramAndThenGivesUp)
+{
+    putSample();
+    auto other = connection();
+    other.exec("BEGIN EXCLUSIVE");
+    EXPECT_THAT(refusal(50), HasSubstr("in use by another program"));
+    const std::jthread release([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        other.exec("COMMIT");
+    });
+    EXPECT_EQ(refusal(60'000), "");
+}
+
+class StoreFileTest : OrdinaryUser, public StoreTest {
+protected:
+    [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
+};
+
+TEST_F(StoreFileTest, removalTakesTheStoreWithItsSideFilesAndNothingElse)
+{
+    putSample();
+    for (const auto& suffix : {u"-journal"_s, u"-wal"_s, u"-shm"_s, u"-journal2"_s, u".bak"_s})
+        EXPECT_TRUE(QFile(path + suffix).open(QFile::WriteOnly));
+    removeStoreFile(path);
+    EXPECT_EQ(files(), (QStringList{u"Pellory.store-journal2"_s, u"Pellory.store.bak"_s}));
+    removeStoreFile(path);
+    EXPECT_TRUE(stored().isEmpty());
+}
+
+TEST_F(StoreFileTest, isMadeForItsOwnerAloneAndStaysInAClosedFolder)
+{
+    setFolderWritable(false);
+    EXPECT_THAT(refusal(), HasSubstr("cannot be created"));
+    setFolderWritable(true);
+    EXPECT_TRUE(stored().isEmpty());
+    EXPECT_EQ(int(QFile::permissions(path) & 0x77), 0); // nothing for group and others
+    setFolderWritable(false);
+    EXPECT_THROW(removeStoreFile(path), StoreError);
+    setFolderWritable(true);
+    EXPECT_EQ(files(), QStringList(u"Pellory.store"_s));
+}
