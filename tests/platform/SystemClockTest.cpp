@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SystemClock.h"
+
+#include <QCoreApplication>
+#include <QScopeGuard>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+#include <ctime>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Moves this process to a time zone in which it will be midnight in so many seconds.
+void moveToMidnight(int seconds)
+{
+    constexpr int day = 24 * 60 * 60;
+    int east = day - seconds - QDateTime::currentDateTimeUtc().time().msecsSinceStartOfDay() / 1000;
+    if (east > day / 2)
+        east -= day;
+    const QString offset = QTime(0, 0).addSecs(std::abs(east)).toString(u"hh:mm:ss"_s);
+    qputenv("TZ", ((east > 0 ? u"TST-"_s : u"TST"_s) + offset).toUtf8());
+    tzset();
+}
+
+} // namespace
+
+TEST(SystemClockTest, tellsOfLocalMidnightAndOfNothingElse)
+{
+    const auto restore = qScopeGuard([] {
+        qputenv("TZ", "UTC");
+        tzset();
+    });
+    moveToMidnight(2);
+    const SystemClock clock;
+    QSignalSpy newDay(&clock, &Clock::dayChanged);
+    const QDateTime before = QDateTime::currentDateTime();
+    const QDateTime told = clock.now();
+    EXPECT_TRUE(before <= told && told <= QDateTime::currentDateTime());
+    ASSERT_TRUE(newDay.wait(10'000));
+    EXPECT_GT(clock.today(), told.date());
+    for (int turn = 0; turn < 3; ++turn)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(newDay.size(), 1);
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Accessibility.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <gmock/gmock.h>
+
+#include <ctime>
+
+using namespace Qt::StringLiterals;
+
+// No outcome may depend on the language, the place or the display of the machine.
+int main(int argc, char** argv)
+{
+    qputenv("TZ", "UTC");
+    tzset();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale::c());
+    QApplication::setStyle(u"Fusion"_s);
+    testing::InitGoogleMock(&argc, argv);
+    const QApplication application(argc, argv);
+    QApplication::setPalette(paletteFor(ColorScheme::Light));
+    installAccessibleRoles();
+    return RUN_ALL_TESTS();
+}

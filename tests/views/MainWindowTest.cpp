@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MainWindow.h"
+#include "CalendarView.h"
+#include "MarkedTextLabel.h"
+#include "MessageBoxAlerts.h"
+#include "MonthView.h"
+#include "QuarterView.h"
+#include "ViewTest.h"
+
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTimer>
+
+class MainWindowTest : public ViewTest {};
+
+TEST_F(MainWindowTest, settingsHaveTheirKeysAndAreStoredAtOnce)
+{
+    const std::pair<QString, QProperty<bool> ViewSettings::*> switches[]{
+        {u"calendarViewShowProgressBars"_s, &ViewSettings::showProgressBars},
+        {u"calendarViewShowQuarterStats"_s, &ViewSettings::showQuarterStats},
+        {u"calendarViewShowMonthStats"_s, &ViewSettings::showMonthStats},
+        {u"calendarViewShowWillBeInOfficeStats"_s, &ViewSettings::showWillBeInOfficeStats},
+        {u"calendarViewShowStatusLabelOnHover"_s, &ViewSettings::showStatusLabelOnHover},
+    };
+    for (const auto& [key, field] : switches) {
+        EXPECT_TRUE(viewSettings.*field) << key.toStdString();
+        viewSettings.*field = false;
+        EXPECT_EQ(stored.allKeys(), QStringList(key));
+        EXPECT_EQ(stored.value(key), QVariant(false));
+        EXPECT_FALSE(ViewSettings(stored).*field);
+        stored.remove(key);
+    }
+    EXPECT_EQ(viewSettings.selectedTab, 1);
+}
+
+TEST_F(MainWindowTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
+{
+    for (const auto& [before, isQuarter] : {std::pair(1, false), {2, true}, {0, false}, {-3, false}, {7, true}}) {
+        SCOPED_TRACE(before);
+        viewSettings.selectedTab = before;
+        MainWindow window(parts);
+        const QSignalSpy painted(&window, &MainWindow::painted);
+        show(window);
+        EXPECT_TRUE(eventually([&] { return painted.size() == 1; }));
+        auto* tabs = window.findChild<QTabBar*>();
+        EXPECT_EQ(tabs->currentIndex(), isQuarter ? 1 : 0);
+        EXPECT_EQ(window.findChildren<MonthView*>().size(), isQuarter ? 0 : 1);
+        EXPECT_EQ(window.findChildren<QuarterView*>().size(), isQuarter ? 1 : 0);
+        const QPoint otherTab = tabs->tabRect(isQuarter ? 0 : 1).center();
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, tabs->mapTo(&window, otherTab));
+        EXPECT_EQ(stored.value("contentViewSelectedTab"), QVariant(isQuarter ? 1 : 2));
+        EXPECT_EQ(window.findChild<MonthView*>()->isVisible(), isQuarter);
+        EXPECT_EQ(window.findChild<QuarterView*>()->isVisible(), !isQuarter);
+        // The keys that turn the pages work while the tabs have the focus.
+        tabs->setCurrentIndex(0);
+        tabs->setFocus();
+        press(window, Qt::Key_PageDown);
+        EXPECT_EQ(window.findChild<MonthView*>()->period(), (YearMonth{2026, 12}));
+        EXPECT_EQ(painted.size(), 1);
+    }
+}
+
+TEST_F(MainWindowTest, whatDoesNotFitIsWrappedOrScrolledIntoSight)
+{
+    const QString wish = u"a wish that is much too long for a single line "_s.repeated(5) + QString(200, u'x');
+    settings->daysPerWeekGoals.value().first()->desc = wish;
+    MainWindow window(parts);
+    window.resize(540, 300);
+    show(window);
+    for (const auto* goal : window.findChildren<MarkedTextLabel*>(u"goal"_s)) {
+        const QRect room(0, 0, goal->width(), 10'000);
+        const auto lines =
+            goal->fontMetrics().boundingRect(room, Qt::TextWordWrap | Qt::TextWrapAnywhere, goal->text());
+        EXPECT_GE(goal->height(), lines.height());
+    }
+    for (const auto& [key, day] : {std::pair(Qt::Key_End, 30), std::pair(Qt::Key_Home, 1)}) {
+        dayButton(window, 15).setFocus();
+        press(window, key);
+        const auto& button = dayButton(window, day);
+        EXPECT_EQ(button.visibleRegion().boundingRect(), button.rect());
+    }
+}
+
+TEST_F(MainWindowTest, theMonthsStandSideBySideWhereThereIsRoom)
+{
+    viewSettings.selectedTab = 2;
+    MainWindow window(parts);
+    show(window);
+    const auto months = window.findChildren<CalendarView*>();
+    const auto way = [&] { return inWindow(*months.last()) - inWindow(*months.first()); };
+    for (const int width : {600, 1600, 600}) {
+        window.resize(width, 800);
+        EXPECT_TRUE(eventually([&] { return (way().x() > 0) == (width == 1600) && (way().y() > 0) == (width == 600); }))
+            << width << ": " << way().x() << ", " << way().y();
+    }
+}
+
+TEST(MessageBoxAlertsTest, onlyTheFirstButtonConfirms)
+{
+    const auto strike = [](Qt::Key key) { return [=](QWidget& box) { QTest::keyClick(&box, key); }; };
+    const auto push = [](const QString& text) {
+        return [=](const QMessageBox& box) {
+            const auto buttons = box.buttons();
+            (*std::ranges::find(buttons, text, &QAbstractButton::text))->click();
+        };
+    };
+    const std::pair<std::function<void(QMessageBox&)>, bool> rows[]{{push(u"Delete"_s), true},
+                                                                    {push(u"Cancel"_s), false},
+                                                                    {strike(Qt::Key_Return), false},
+                                                                    {strike(Qt::Key_Escape), false}};
+    for (const auto& [answer, confirms] : rows) {
+        QStringList texts;
+        QTimer::singleShot(0, [&, answer = answer] {
+            auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+            texts = {box.text(), box.informativeText()};
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            answer(box);
+        });
+        EXPECT_EQ(MessageBoxAlerts().confirmWarning(u"Delete?"_s, u"All of it."_s, u"Delete"_s, u"Cancel"_s), confirms);
+        EXPECT_EQ(texts, QStringList({u"Delete?"_s, u"All of it."_s}));
+    }
+}
