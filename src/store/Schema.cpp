@@ -108,6 +108,8 @@ void createSchema(SQLite::Database& database)
 
 void verifyStore(SQLite::Database& database)
 {
+    // One reading, so that every part of it sees the same store.
+    SQLite::Transaction reading(database);
     verifyMarks(database);
     verifyWritable(database);
     verifySchema(database);
@@ -115,6 +117,7 @@ void verifyStore(SQLite::Database& database)
     verifyRecords<MonthMapping>(database);
     verifyRecords<GoalMapping>(database);
     verifyRecords<SettingsMapping>(database);
+    reading.commit();
 }
 
 QString descriptionOf(const SQLite::Exception& error)

@@ -2,7 +2,6 @@
 #include "LinkButton.h"
 
 #include "Fonts.h"
-#include "Symbol.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -17,7 +16,7 @@ constexpr qreal radius = 6.0;
 
 } // namespace
 
-LinkButton::LinkButton(const QString& text, const QString& symbol, SymbolSide side, QWidget* parent)
+LinkButton::LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent)
     : QAbstractButton(parent)
     , m_symbol(symbol)
     , m_side(side)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FocusVisible.h"
+#include "Symbol.h"
 
 #include <QAbstractButton>
 
@@ -12,7 +13,7 @@ class LinkButton : public QAbstractButton {
 public:
     enum class SymbolSide { Leading, Trailing };
 
-    LinkButton(const QString& text, const QString& symbol, SymbolSide side, QWidget* parent = nullptr);
+    LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -21,7 +22,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QString m_symbol;
+    Symbol m_symbol;
     SymbolSide m_side;
     FocusVisible m_focusVisible;
 };

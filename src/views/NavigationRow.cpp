@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 
 NavigationRow::NavigationRow(const QString& previousText, const QString& nextText, QWidget* parent)
     : QWidget(parent)
-    , m_previous(new LinkButton(previousText, u"lessthan"_s, LinkButton::SymbolSide::Leading))
-    , m_next(new LinkButton(nextText, u"greaterthan"_s, LinkButton::SymbolSide::Trailing))
+    , m_previous(new LinkButton(previousText, Symbol::LessThan, LinkButton::SymbolSide::Leading))
+    , m_next(new LinkButton(nextText, Symbol::GreaterThan, LinkButton::SymbolSide::Trailing))
 {
     m_previous->setObjectName("previous"_L1);
     m_next->setObjectName("next"_L1);

@@ -2,27 +2,33 @@
 #include "Symbol.h"
 
 #include <QPainter>
-#include <QSvgRenderer>
+#include <QPolygonF>
 
-using namespace Qt::StringLiterals;
+namespace {
 
-// The resources of a static library are not registered by themselves, and the macro works in no namespace.
-static void registerIcons()
+// Strokes on a grid of 16 by 16.
+constexpr qreal gridSize = 16.0;
+constexpr qreal strokeWidth = 1.6;
+
+QPolygonF strokesOf(Symbol symbol)
 {
-    Q_INIT_RESOURCE(icons);
+    switch (symbol) {
+    case Symbol::LessThan:
+        return QPolygonF({{10.0, 3.5}, {5.5, 8.0}, {10.0, 12.5}});
+    case Symbol::GreaterThan:
+        return QPolygonF({{6.0, 3.5}, {10.5, 8.0}, {6.0, 12.5}});
+    }
+    Q_UNREACHABLE();
 }
 
-void drawSymbol(QPainter& painter, const QRectF& place, const QString& name, const QColor& color)
+} // namespace
+
+void drawSymbol(QPainter& painter, const QRectF& place, Symbol symbol, const QColor& color)
 {
-    registerIcons();
-    const qreal scale = painter.device()->devicePixelRatioF();
-    QPixmap pixmap((place.size() * scale).toSize());
-    pixmap.setDevicePixelRatio(scale);
-    pixmap.fill(Qt::transparent);
-    QPainter tinting(&pixmap);
-    QSvgRenderer(":/icons/"_L1 + name + ".svg"_L1).render(&tinting, QRectF(QPointF(), place.size()));
-    tinting.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    tinting.fillRect(pixmap.rect(), color);
-    tinting.end();
-    painter.drawPixmap(place.topLeft(), pixmap);
+    painter.save();
+    painter.translate(place.topLeft());
+    painter.scale(place.width() / gridSize, place.height() / gridSize);
+    painter.setPen(QPen(color, strokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(strokesOf(symbol));
+    painter.restore();
 }

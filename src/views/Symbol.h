@@ -4,7 +4,10 @@
 class QColor;
 class QPainter;
 class QRectF;
-class QString;
 
-/// Draws one of the symbols under data/icons, such as "lessthan", in one colour.
-void drawSymbol(QPainter& painter, const QRectF& place, const QString& name, const QColor& color);
+/// The symbols beside words. They are so simple that strokes do, and no library for pictures has to be loaded while the
+/// program starts.
+enum class Symbol { LessThan, GreaterThan };
+
+/// Draws a symbol in a square place.
+void drawSymbol(QPainter& painter, const QRectF& place, Symbol symbol, const QColor& color);
