@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QMainWindow>
+
+// What any program of this kind costs: the window of Pellory with nothing in it.
+int main(int argc, char* argv[])
+{
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(argc, argv);
+    QMainWindow window;
+    window.resize(534, 860);
+    window.show();
+    return QApplication::exec();
+}

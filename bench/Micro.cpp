@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AttendanceStatistics.h"
+#include "MainWindow.h"
+#include "MonthView.h"
+#include "SampleStore.h"
+#include "SystemClock.h"
+#include "ViewParts.h"
+#include "ViewSettings.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A store of 1,200 months that all benchmarks share.
+QString sampleStore()
+{
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        QString file = folder.filePath(u"store"_s);
+        fillStore(file, 1200);
+        return file;
+    }();
+    return path;
+}
+
+AttendanceStatistics statisticsOf(const std::array<Month, 3>& months)
+{
+    const QList<const Month*> quarter{&months[0], &months[1], &months[2]};
+    return attendanceStatistics(quarter, AppSettings::defaultGoals(), true, true);
+}
+
+void statisticsOfQuarter(benchmark::State& state)
+{
+    const std::array months{Month(2026, 1), Month(2026, 2), Month(2026, 3)};
+    while (state.KeepRunning())
+        benchmark::DoNotOptimize(statisticsOf(months));
+}
+
+void fractionsOfQuarter(benchmark::State& state)
+{
+    const auto statistics = statisticsOf({Month(2026, 1), Month(2026, 2), Month(2026, 3)});
+    while (state.KeepRunning())
+        benchmark::DoNotOptimize(barFractions(statistics));
+}
+
+void openStoreOf1200Months(benchmark::State& state)
+{
+    const QString path = sampleStore();
+    while (state.KeepRunning())
+        benchmark::DoNotOptimize(openStore(path));
+}
+
+class PaintCounter : public QObject {
+public:
+    std::int64_t paints = 0;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+void monthChange(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(u"settings"_s), QSettings::IniFormat);
+    ViewSettings viewSettings(settings);
+    AppSettings appSettings;
+    SystemClock clock;
+    const auto container = openStore(sampleStore());
+    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock};
+    MainWindow window(parts);
+    window.show();
+    QApplication::processEvents();
+
+    auto& view = *window.findChild<MonthView*>();
+    YearMonth shown = view.period();
+    YearMonth other = *shown.next();
+    PaintCounter counter;
+    view.installEventFilter(&counter);
+    while (state.KeepRunning()) {
+        std::swap(shown, other);
+        view.showMonth(shown);
+        QApplication::processEvents();
+    }
+    if (counter.paints < state.iterations())
+        state.SkipWithError("a month was shown without being painted");
+}
+
+BENCHMARK(statisticsOfQuarter)->MeasureProcessCPUTime();
+BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
+BENCHMARK(monthChange)->MeasureProcessCPUTime();
+BENCHMARK(openStoreOf1200Months)->MeasureProcessCPUTime();
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return EXIT_FAILURE;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle(u"Fusion"_s);
+    const QApplication application(argc, argv);
+    benchmark::AddCustomContext("qt", qVersion());
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "Month.h"
+#include "Period.h"
+
+/// Opens the store at `path`, or creates it where there is none.
+inline std::unique_ptr<ModelContainer> openStore(const QString& path)
+{
+    return std::make_unique<ModelContainer>(ModelConfiguration{.name = QStringLiteral("Benchmark"), .path = path});
+}
+
+/// Fills a new store with `count` months in a row, those of the current quarter among them, every workday marked.
+inline void fillStore(const QString& path, int count)
+{
+    const auto container = openStore(path);
+    const QDate today = QDate::currentDate();
+    const QDate quarter(today.year(), YearMonth{today.year(), today.month()}.quarter().months().front(), 1);
+    QDate first = quarter.addMonths(-(count / 6 * 3));
+    for (int i = 0; i < count; ++i, first = first.addMonths(1)) {
+        const auto month = std::make_shared<Month>(first.year(), first.month());
+        QList<Day> days = month->days;
+        for (Day& day : days) {
+            if (day.isInMonth() && day.isWorkday)
+                day.state = allDayStates.at(static_cast<std::size_t>(day.id + i) % allDayStates.size());
+        }
+        month->days = days;
+        container->mainContext().insert(month);
+    }
+    if (!container->mainContext().save())
+        qFatal("The store at %s cannot be filled", qUtf8Printable(path));
+}
