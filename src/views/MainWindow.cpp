@@ -61,6 +61,12 @@ MainWindow::MainWindow(const ViewParts& parts)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
 }
 
+MainWindow::~MainWindow()
+{
+    // The focus moves on while the pages are taken down, when this is a main window no more.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QWidget* MainWindow::makeHeader()
 {
     m_tabs->setObjectName("tabs"_L1);

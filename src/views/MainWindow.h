@@ -16,6 +16,7 @@ class MainWindow : public QMainWindow {
 
 public:
     explicit MainWindow(const ViewParts& parts);
+    ~MainWindow() override;
 
 Q_SIGNALS:
     /// The window has drawn its contents for the first time.
