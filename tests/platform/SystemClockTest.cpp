@@ -33,7 +33,7 @@ TEST(SystemClockTest, tellsOfLocalMidnightAndOfNothingElse)
         qputenv("TZ", "UTC");
         tzset();
     });
-    moveToMidnight(2);
+    moveToMidnight(3);
     const SystemClock clock;
     QSignalSpy newDay(&clock, &Clock::dayChanged);
     const QDateTime before = QDateTime::currentDateTime();

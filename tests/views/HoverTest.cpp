@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QPropertyAnimation>
 
 class HoverTest : public CalendarViewTest {
 protected:
@@ -18,7 +19,9 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
     ASSERT_EQ(labels().size(), 1);
     const QPointer<HoverLabel> label = labels().first();
     EXPECT_EQ(label->text(), u"Unknown"_s);
-    EXPECT_LT(label->opacity(), 1.0);
+    const auto* fade = label->findChild<QPropertyAnimation*>();
+    EXPECT_EQ(fade->startValue().toReal(), 0.0);
+    EXPECT_GT(fade->duration(), 0);
     EXPECT_TRUE(eventually([&] { return label->opacity() == 1.0; }));
     click(dayButton(view, friday));
     EXPECT_EQ(label->text(), u"In the Office"_s);
