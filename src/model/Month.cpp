@@ -22,11 +22,6 @@ QDate dateFrom(QDate first, qint64 dayId)
     return first.addDays(dayId - 1);
 }
 
-bool isWeekdayWorkday(QDate date)
-{
-    return date.dayOfWeek() <= Qt::Friday;
-}
-
 QList<Day> grid(QDate first)
 {
     const int offset = first.dayOfWeek() % 7; // Qt counts from Monday = 1, the grid from Sunday = 0
@@ -35,12 +30,17 @@ QList<Day> grid(QDate first)
     for (qint64 i = 0; i < Month::cellCount; ++i) {
         const qint64 number = i - offset + 1;
         const qint64 id = number <= first.daysInMonth() ? number : -number;
-        days.append({.id = id, .isWorkday = isWeekdayWorkday(dateFrom(first, id))});
+        days.append({.id = id, .isWorkday = isMondayToFriday(dateFrom(first, id))});
     }
     return days;
 }
 
 } // namespace
+
+bool isMondayToFriday(QDate date)
+{
+    return date.dayOfWeek() <= Qt::Friday;
+}
 
 Month::Month(int yearNumber, int monthNumber)
 {
@@ -87,5 +87,5 @@ QDate Month::dateOf(qint64 dayId) const
 
 bool Month::isWorkday(qint64 dayId) const
 {
-    return isWeekdayWorkday(dateOf(dayId));
+    return isMondayToFriday(dateOf(dayId));
 }

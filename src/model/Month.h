@@ -9,6 +9,9 @@
 
 #include <optional>
 
+/// What makes a workday: holidays are not known.
+[[nodiscard]] bool isMondayToFriday(QDate date);
+
 /// The attendance of one calendar month: a record whose fields are read, written and followed one by one.
 class Month {
 public:
