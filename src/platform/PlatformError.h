@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+
+/// What a service of the computer has refused or failed to do, in its own words.
+class PlatformError : public std::runtime_error {
+public:
+    explicit PlatformError(const QString& description)
+        : std::runtime_error(description.toStdString())
+    {
+    }
+
+    [[nodiscard]] QString description() const { return QString::fromUtf8(what()); }
+};
