@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SystemClock.h"
 
+#include "BootTimer.h"
+#include "Emission.h"
+
 #include <QLoggingCategory>
 #include <QSocketNotifier>
 
@@ -35,6 +38,13 @@ SystemClock::~SystemClock()
 QDateTime SystemClock::now() const
 {
     return QDateTime::currentDateTime();
+}
+
+QCoro::Task<> SystemClock::sleep(std::chrono::seconds duration)
+{
+    auto* timer = new BootTimer(duration, this);
+    co_await emissionOf(timer, &BootTimer::expired);
+    timer->deleteLater();
 }
 
 void SystemClock::sleepUntilMidnight()

@@ -16,6 +16,7 @@ public:
     ~SystemClock() override;
 
     [[nodiscard]] QDateTime now() const override;
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::seconds duration) override;
 
 private:
     void sleepUntilMidnight();

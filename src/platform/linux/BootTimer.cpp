@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BootTimer.h"
+
+#include "PlatformError.h"
+
+#include <QSocketNotifier>
+
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+BootTimer::BootTimer(std::chrono::seconds duration, QObject* parent)
+    : QObject(parent)
+    , m_timer(timerfd_create(CLOCK_BOOTTIME, TFD_NONBLOCK | TFD_CLOEXEC))
+{
+    itimerspec until{};
+    until.it_value.tv_sec = duration.count();
+    until.it_value.tv_nsec = 1; // nothing at all would be no timer
+    if (m_timer < 0 || timerfd_settime(m_timer, 0, &until, nullptr) != 0) {
+        const PlatformError error(qt_error_string());
+        if (m_timer >= 0)
+            close(m_timer);
+        throw error;
+    }
+    auto* notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+        notifier->setEnabled(false);
+        Q_EMIT expired();
+    });
+}
+
+BootTimer::~BootTimer()
+{
+    // The notifier, a child, goes after this: it must not watch a file that is closed by then, or another one.
+    for (auto* notifier : findChildren<QSocketNotifier*>())
+        notifier->setEnabled(false);
+    close(m_timer);
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BusCall.h"
+
+#include "Emission.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMessage call,
+                                  std::chrono::milliseconds patience)
+{
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(patience.count())), caller);
+    co_await emissionOf(watcher, &QDBusPendingCallWatcher::finished);
+    watcher->deleteLater();
+    if (watcher->isError())
+        throw BusError(watcher->error().name(), watcher->error().message());
+    co_return watcher->reply();
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "SystemSettings.h"
+
+/// The settings programs of GNOME and KDE. Other desktops have no page of this kind.
+class DesktopSystemSettings : public SystemSettings {
+    Q_OBJECT
+
+public:
+    void openLocationSettings() override;
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "NetworkManager.h"
+
+#include "BusCall.h"
+#include "NetworkManagerNames.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto timeToAnswerAQuestion = 120s;
+
+// A service that is not running is a fact to be told, and nothing to be started.
+QDBusMessage callOf(const QString& path, const QString& interface, const QString& method)
+{
+    auto call = QDBusMessage::createMethodCall(networkManagerService, path, interface, method);
+    call.setAutoStartService(false);
+    return call;
+}
+
+AuthorizationStatus statusOf(const QString& permission)
+{
+    if (permission == "yes"_L1)
+        return AuthorizationStatus::authorizedAlways;
+    return permission == "auth"_L1 ? AuthorizationStatus::notDetermined : AuthorizationStatus::denied;
+}
+
+} // namespace
+
+QCoro::Task<NetworkManagerState> NetworkManager::readState()
+{
+    const auto call = callOf(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call);
+    co_return readNetworkManagerState(reply);
+}
+
+QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()
+{
+    const auto call = callOf(networkManagerPath, managerInterface, u"GetPermissions"_s);
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call);
+    const auto permissions = qdbus_cast<QMap<QString, QString>>(reply.arguments().value(0));
+    const auto scan = permissions.constFind(u"org.freedesktop.NetworkManager.wifi.scan"_s);
+    // A version that does not know this permission lets everybody scan.
+    co_return scan == permissions.cend() ? AuthorizationStatus::authorizedAlways : statusOf(*scan);
+}
+
+QCoro::Task<> NetworkManager::requestScan(QString devicePath, bool isInteractive)
+{
+    auto call = callOf(devicePath, wirelessInterface, u"RequestScan"_s);
+    call << QVariantMap();
+    call.setInteractiveAuthorizationAllowed(isInteractive);
+    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : busPatience);
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "NetworkManagerAuthorization.h"
+
+#include "BusCall.h"
+#include "NetworkManagerNames.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QLoggingCategory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logAuthorization, "pellory.authorization", QtInfoMsg)
+
+} // namespace
+
+NetworkManagerAuthorization::NetworkManagerAuthorization()
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(100ms);
+    connect(&m_soon, &QTimer::timeout, this, &NetworkManagerAuthorization::read);
+}
+
+NetworkManagerAuthorization::~NetworkManagerAuthorization() = default;
+
+void NetworkManagerAuthorization::start()
+{
+    QDBusConnection bus = QDBusConnection::systemBus();
+    bus.connect(networkManagerService, networkManagerPath, managerInterface, u"CheckPermissions"_s, &m_soon,
+                SLOT(start()));
+    m_serviceWatcher = std::make_unique<QDBusServiceWatcher>(networkManagerService, bus);
+    connect(m_serviceWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &NetworkManagerAuthorization::read);
+    read();
+}
+
+QCoro::Task<> NetworkManagerAuthorization::read()
+{
+    auto status = AuthorizationStatus::authorizedAlways;
+    try {
+        status = co_await m_networkManager.readScanPermission();
+    } catch (const BusError& error) {
+        qCDebug(logAuthorization, "No permission to be read: %s", error.what());
+    }
+    if (status == m_status)
+        co_return;
+    m_status = status;
+    Q_EMIT didChangeAuthorization();
+}
+
+QCoro::Task<> NetworkManagerAuthorization::request()
+{
+    try {
+        const NetworkManagerState state = co_await m_networkManager.readState();
+        if (const WirelessDevice* device = state.defaultDevice())
+            co_await m_networkManager.requestScan(device->path, true);
+    } catch (const BusError& error) {
+        qCDebug(logAuthorization, "The permission was not given: %s", error.what());
+    }
+    co_await read();
+}

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "NetworkManagerWiFiClient.h"
+
+#include "BusCall.h"
+#include "NetworkManagerNames.h"
+#include "Pause.h"
+#include "ScanWatch.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QLoggingCategory>
+#include <QPointer>
+#include <QScopeGuard>
+
+#include <algorithm>
+#include <ctime>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logWiFi, "pellory.wifi", QtInfoMsg)
+
+// An access point that has gone stays listed for minutes, and one scan can miss one that is there.
+constexpr auto longestMiss = 30s;
+// Without a scan of our own, what others have scanned for is as good as it gets.
+constexpr auto longestMissUnscanned = 60s;
+
+// The clock by which NetworkManager tells when it saw an access point.
+std::chrono::seconds timeSinceBoot()
+{
+    timespec time{};
+    clock_gettime(CLOCK_BOOTTIME, &time);
+    return std::chrono::seconds(time.tv_sec);
+}
+
+WiFiInterface interfaceOf(const NetworkManagerState& state, const WirelessDevice& device)
+{
+    return {device.interface, state.isPowered(device)};
+}
+
+const WirelessDevice& presentDevice(const NetworkManagerState& state, const QString& interfaceName)
+{
+    const WirelessDevice* device = state.deviceWithInterface(interfaceName);
+    if (device == nullptr)
+        throw PlatformError(WiFiClient::tr("The Wi-Fi interface %1 is no longer there.").arg(interfaceName));
+    return *device;
+}
+
+} // namespace
+
+NetworkManagerWiFiClient::NetworkManagerWiFiClient(ScanTiming timing)
+    : m_timing(timing)
+{
+}
+
+NetworkManagerWiFiClient::~NetworkManagerWiFiClient() = default;
+
+QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::defaultInterface()
+{
+    try {
+        const NetworkManagerState state = co_await m_networkManager.readState();
+        if (const WirelessDevice* device = state.defaultDevice())
+            co_return interfaceOf(state, *device);
+    } catch (const BusError& error) {
+        qCDebug(logWiFi, "No Wi-Fi: %s", error.what());
+    }
+    co_return std::nullopt;
+}
+
+QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWithName(QString name)
+{
+    try {
+        const NetworkManagerState state = co_await m_networkManager.readState();
+        if (const WirelessDevice* device = state.deviceWithInterface(name))
+            co_return interfaceOf(state, *device);
+    } catch (const BusError& error) {
+        qCDebug(logWiFi, "No Wi-Fi: %s", error.what());
+    }
+    co_return std::nullopt;
+}
+
+QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)
+{
+    const auto start = timeSinceBoot();
+    NetworkManagerState state = co_await m_networkManager.readState();
+    const bool hasScanned = co_await isScanned(presentDevice(state, interfaceName).path);
+    if (hasScanned)
+        state = co_await m_networkManager.readState();
+    const auto since = start - (hasScanned ? longestMiss : longestMissUnscanned);
+    co_return state.networksSeenSince(presentDevice(state, interfaceName), since);
+}
+
+// False when there was no leave to scan.
+QCoro::Task<bool> NetworkManagerWiFiClient::isScanned(QString devicePath)
+{
+    const AuthorizationStatus permission = co_await m_networkManager.readScanPermission();
+    if (!isAccessGranted(permission)) {
+        qCDebug(logWiFi, "No permission to scan: reading what is known");
+        co_return false;
+    }
+    auto* watch = new ScanWatch(devicePath, this);
+    const auto remove = qScopeGuard([pointer = QPointer(watch)] {
+        if (pointer)
+            pointer->deleteLater();
+    });
+    try {
+        co_await m_networkManager.requestScan(devicePath, false);
+    } catch (const BusError& error) {
+        if (error.name() != "org.freedesktop.NetworkManager.PermissionDenied"_L1)
+            throw;
+        co_return false;
+    }
+    qCDebug(logWiFi, "Scanning");
+    co_await watch->wait(m_timing.longest);
+    co_await pauseFor(m_timing.settling, this);
+    co_return true;
+}
+
+void NetworkManagerWiFiClient::startMonitoringPowerEvents()
+{
+    if (m_monitors == 0) {
+        QDBusConnection bus = QDBusConnection::systemBus();
+        const bool isHeard =
+            bus.connect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
+                        {managerInterface}, {}, this, SLOT(handleManagerChanged(QDBusMessage))) &&
+            bus.connect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
+                        SLOT(handleDeviceChanged(uint, uint)));
+        if (!isHeard)
+            throw PlatformError(bus.lastError().message());
+        m_serviceWatcher = std::make_unique<QDBusServiceWatcher>(networkManagerService, bus);
+        connect(m_serviceWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+                &NetworkManagerWiFiClient::tellPower);
+    }
+    ++m_monitors;
+}
+
+void NetworkManagerWiFiClient::stopMonitoringPowerEvents()
+{
+    if (--m_monitors > 0)
+        return;
+    m_serviceWatcher.reset();
+    QDBusConnection bus = QDBusConnection::systemBus();
+    const bool isEnded =
+        bus.disconnect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
+                       {managerInterface}, {}, this, SLOT(handleManagerChanged(QDBusMessage))) &&
+        bus.disconnect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
+                       SLOT(handleDeviceChanged(uint, uint)));
+    if (!isEnded)
+        throw PlatformError(bus.lastError().message());
+}
+
+void NetworkManagerWiFiClient::handleManagerChanged(const QDBusMessage& signal)
+{
+    const auto changed = qdbus_cast<QVariantMap>(signal.arguments().value(1));
+    const auto properties = {u"WirelessEnabled"_s, u"WirelessHardwareEnabled"_s, u"Devices"_s, u"PrimaryConnection"_s};
+    if (std::ranges::any_of(properties, [&](const QString& property) { return changed.contains(property); }))
+        tellPower();
+}
+
+void NetworkManagerWiFiClient::handleDeviceChanged(uint state, uint oldState)
+{
+    // A device goes through many states while it connects, of which these alone can change anything.
+    if (isUsable(state) != isUsable(oldState) || isConnected(state) != isConnected(oldState))
+        tellPower();
+}
+
+QCoro::Task<> NetworkManagerWiFiClient::tellPower()
+{
+    m_isToldOutdated = true;
+    if (m_isTelling)
+        co_return;
+    m_isTelling = true;
+    while (m_isToldOutdated) {
+        m_isToldOutdated = false;
+        const auto interface = co_await defaultInterface();
+        if (interface)
+            m_toldInterface = interface->name;
+        Q_EMIT powerStateDidChange(m_toldInterface);
+    }
+    m_isTelling = false;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScanWatch.h"
+
+#include "Emission.h"
+#include "NetworkManagerNames.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+ScanWatch::ScanWatch(QString devicePath, QObject* parent)
+    : QObject(parent)
+    , m_devicePath(std::move(devicePath))
+{
+    QDBusConnection::systemBus().connect(networkManagerService, m_devicePath, propertiesInterface,
+                                         u"PropertiesChanged"_s, {wirelessInterface}, {}, this,
+                                         SLOT(handlePropertiesChanged(QDBusMessage)));
+}
+
+ScanWatch::~ScanWatch()
+{
+    QDBusConnection::systemBus().disconnect(networkManagerService, m_devicePath, propertiesInterface,
+                                            u"PropertiesChanged"_s, {wirelessInterface}, {}, this,
+                                            SLOT(handlePropertiesChanged(QDBusMessage)));
+}
+
+QCoro::Task<> ScanWatch::wait(std::chrono::milliseconds longest)
+{
+    if (m_hasScanned)
+        co_return;
+    QTimer::singleShot(longest, this, &ScanWatch::ended);
+    co_await emissionOf(this, &ScanWatch::ended);
+}
+
+void ScanWatch::handlePropertiesChanged(const QDBusMessage& signal)
+{
+    const auto changed = qdbus_cast<QVariantMap>(signal.arguments().value(1));
+    if (!changed.contains(u"LastScan"_s))
+        return;
+    m_hasScanned = true;
+    Q_EMIT ended();
+}
