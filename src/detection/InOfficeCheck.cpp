@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "InOfficeCheck.h"
+
+#include "AppSettings.h"
+#include "Clock.h"
+#include "InOfficeDetector.h"
+#include "InOfficeModelUpdater.h"
+#include "Log.h"
+#include "Notifier.h"
+#include "Pause.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::chrono::seconds shortestSleep = 1min;
+constexpr std::chrono::seconds longestTimer =
+    std::chrono::floor<std::chrono::seconds>(std::chrono::milliseconds(std::numeric_limits<int>::max()));
+
+} // namespace
+
+std::chrono::seconds checkInterval(const AppSettings& settings)
+{
+    qint64 seconds = 0;
+    if (qMulOverflow<qint64>(settings.checkEveryInMinutes, 60, &seconds))
+        qFatal("An interval of %lld minutes cannot be counted in seconds", settings.checkEveryInMinutes.value());
+    return std::chrono::seconds(seconds);
+}
+
+QCoro::Task<> InOfficeCheck::run()
+{
+    try {
+        co_await check(true);
+        for (;;) {
+            co_await sleep();
+            co_await check(true);
+        }
+    } catch (const Abandoned&) {
+        // The program ends, and this with it.
+    }
+}
+
+QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
+{
+    try {
+        const bool isMarked = co_await detectAndUpdate(markPreviousWorkday);
+        co_return isMarked;
+    } catch (const Abandoned&) {
+        throw;
+    } catch (const std::exception& error) {
+        report(error.what());
+    }
+    co_return false;
+}
+
+QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
+{
+    qCDebug(logDetection, "Checking if in office via Wi-Fi");
+    const AppSettings& settings = m_parts.settings;
+    if (!settings.wifiTrackingEnabled) {
+        qCDebug(logDetection, "Skipping in office wifi checking, not enabled");
+        co_return false;
+    }
+    if (settings.firstTime) {
+        qCDebug(logDetection, "Skipping in office wifi checking, inside app first time setup");
+        co_return false;
+    }
+    InOfficeDetector detector(m_parts.wifiClient);
+    const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
+    qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
+    InOfficeModelUpdater updater(m_parts.container, m_parts.clock, m_parts.notifier);
+    co_return updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday);
+}
+
+void InOfficeCheck::report(const char* failure)
+{
+    qCCritical(logDetection, "Error while checking if in office via Wi-Fi: %s", failure);
+    const QString problem = QCoreApplication::translate(
+        "InOfficeCheck", "There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n");
+    m_parts.notifier.post({QCoreApplication::translate("InOfficeCheck", "Pellory"),
+                           problem + QString::fromUtf8(failure), u"detection-problem"_s});
+}
+
+QCoro::Task<> InOfficeCheck::sleep()
+{
+    const std::chrono::seconds duration = std::max(checkInterval(m_parts.settings), shortestSleep);
+    const bool failedBefore = m_lastSleepFailed;
+    const bool isDone = co_await isSleepDone(duration);
+    m_lastSleepFailed = !isDone;
+    if (failedBefore && m_lastSleepFailed) {
+        // The check that follows a failed sleep at once must not become a loop without rest.
+        co_await pauseFor(std::min(duration, longestTimer), &m_parts.clock);
+    }
+}
+
+QCoro::Task<bool> InOfficeCheck::isSleepDone(std::chrono::seconds duration)
+{
+    try {
+        co_await m_parts.clock.sleep(duration);
+        co_return true;
+    } catch (const Abandoned&) {
+        throw;
+    } catch (const std::exception& error) {
+        qCCritical(logDetection, "Could not sleep: %s", error.what());
+    }
+    co_return false;
+}

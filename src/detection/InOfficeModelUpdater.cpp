@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "InOfficeModelUpdater.h"
+
+#include "Clock.h"
+#include "InOfficeDetectionError.h"
+#include "Log.h"
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "Month.h"
+#include "Notifier.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("InOfficeModelUpdater", text);
+}
+
+QDate workdayBefore(QDate date)
+{
+    do
+        date = date.addDays(-1);
+    while (!isMondayToFriday(date));
+    return date;
+}
+
+bool isOpen(DayState state)
+{
+    return state == DayState::UNKNOWN || state == DayState::WILL_BE_IN_OFFICE;
+}
+
+} // namespace
+
+bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday)
+{
+    const QDate today = m_clock.today();
+    const QDate previous = workdayBefore(today);
+    const auto monthOfToday = findOrCreateMonth(today);
+
+    const bool isMarked = inOfficeNow && markIfOpen(*monthOfToday, today, DayState::IN_OFFICE);
+    if (isMarked) {
+        qCInfo(logDetection, "Logged as in office on %d-%d-%d", today.year(), today.month(), today.day());
+        if (notificationsEnabled)
+            m_notifier.post({translated("Pellory"), translated("You have been marked as in the office today"), {}});
+    }
+    if (markPreviousWorkday && markIfOpen(*findOrCreateMonth(previous), previous, DayState::OUT_OF_OFFICE)) {
+        qCInfo(logDetection, "Logged as out of office on %d-%d-%d", previous.year(), previous.month(), previous.day());
+        if (notificationsEnabled)
+            m_notifier.post(
+                {translated("(Not) Pellory"), translated("You have been marked as out of office for yesterday"), {}});
+    }
+    return isMarked;
+}
+
+std::shared_ptr<Month> InOfficeModelUpdater::findOrCreateMonth(QDate date)
+{
+    ModelContext& context = m_container.mainContext();
+    const auto found = context.fetchMonths(date.year(), date.month());
+    if (found.size() > 1)
+        throw InOfficeDetectionError(InOfficeDetectionError::duplicateMonthModels);
+    if (!found.isEmpty())
+        return found.first();
+    const auto created = std::make_shared<Month>(date.year(), date.month());
+    context.insert(created);
+    return created;
+}
+
+bool InOfficeModelUpdater::markIfOpen(Month& month, QDate date, DayState state)
+{
+    const auto index = month.indexOf(date.day());
+    if (!index)
+        qFatal("The month %d-%d has no day %d", date.year(), date.month(), date.day());
+    QList<Day> days = month.days;
+    Day& day = days[*index];
+    if (!isOpen(day.state))
+        return false;
+    day = {date.day(), state, isMondayToFriday(date)};
+    month.days = days;
+    return true;
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "LocationAuthorization.h"
+
+#include <QProperty>
+
+class SystemSettings;
+
+/// Knows whether this program may learn the names of networks.
+class LocationManager : public QObject {
+public:
+    LocationManager(LocationAuthorization& authorization, SystemSettings& systemSettings);
+
+    QProperty<AuthorizationStatus> locationPermissionStatus;
+
+    /// Through which a screen asks for the permission.
+    [[nodiscard]] LocationAuthorization& locationManager() { return m_authorization; }
+    void openLocationSettings();
+
+private:
+    void didChangeAuthorization();
+    void update(AuthorizationStatus status);
+
+    LocationAuthorization& m_authorization;
+    SystemSettings& m_systemSettings;
+};
