@@ -3,6 +3,7 @@
 
 #include "Alerts.h"
 #include "AppSettings.h"
+#include "InOfficeCheck.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "StoreError.h"
@@ -20,8 +21,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(logApp, "pellory.app", QtInfoMsg)
 
-constexpr qint64 secondsPerMinute = 60;
-
 QString translated(const char* key)
 {
     return QCoreApplication::translate("PelloryApp", key);
@@ -38,7 +37,7 @@ PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts)
     createFolder();
     openStore();
     findOrCreateSettings();
-    qCDebug(logApp, "Checking if in office every %lld seconds", m_settings->checkEveryInMinutes * secondsPerMinute);
+    qCDebug(logApp, "Checking if in office every %lld seconds", qint64(checkInterval(*m_settings).count()));
 }
 
 PelloryApp::~PelloryApp() = default;

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "FreedesktopNotifier.h"
+#include "InOfficeCheck.h"
+#include "JournalLog.h"
 #include "MainWindow.h"
 #include "MessageBoxAlerts.h"
 #include "ModelContainer.h"
+#include "NetworkManagerWiFiClient.h"
 #include "PelloryApp.h"
 #include "PortalAppearance.h"
 #include "SystemClock.h"
@@ -13,8 +17,6 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -52,8 +54,14 @@ int run()
     MessageBoxAlerts alerts;
     PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
 
-    ViewSettings viewSettings(settings);
     SystemClock clock;
+    NetworkManagerWiFiClient wifiClient;
+    FreedesktopNotifier notifier;
+    InOfficeCheck check({pellory.container(), pellory.settings(), wifiClient, notifier, clock});
+    QMetaObject::invokeMethod(
+        &clock, [&check] { check.start(); }, Qt::QueuedConnection);
+
+    ViewSettings viewSettings(settings);
     const ViewParts parts{pellory.container().mainContext(), pellory.settings(), viewSettings, clock};
     MainWindow window(parts);
     PortalAppearance appearance;
@@ -67,6 +75,7 @@ int run()
 
 int main(int argc, char* argv[])
 {
+    logToJournalIfPresent();
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
     QApplication::setOrganizationName(u"Pellory"_s);
@@ -77,7 +86,7 @@ int main(int argc, char* argv[])
         return run();
     } catch (const FatalStop& stop) {
         // Something that the person can mend ends the program without a core dump.
-        std::fprintf(stderr, "%s\n", stop.what());
+        qCritical("%s", stop.what());
         return EXIT_FAILURE;
     }
 }
