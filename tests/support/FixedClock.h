@@ -2,18 +2,39 @@
 #pragma once
 
 #include "Clock.h"
+#include "Emission.h"
+#include "PlatformError.h"
 
-/// A clock that stands still in the morning of a day until another day begins.
+#include <QList>
+
+/// A clock that stands still in the morning of a day until it is moved.
 class FixedClock : public Clock {
 public:
     [[nodiscard]] QDateTime now() const override { return m_now; }
 
-    void beginDay(QDate date)
+    QCoro::Task<> sleep(std::chrono::seconds duration) override
     {
-        m_now.setDate(date);
+        sleeps.append(duration);
+        if (isBroken)
+            throw PlatformError(QStringLiteral("out of timers"));
+        const QDateTime end = m_now.addDuration(duration);
+        while (m_now < end)
+            co_await emissionOf<Clock>(this, &Clock::dayChanged);
+    }
+
+    void beginDay(QDate date) { moveTo({date, m_now.time()}); }
+    void advance(std::chrono::seconds duration) { moveTo(m_now.addDuration(duration)); }
+
+    /// How long everybody has wanted to sleep, in order.
+    QList<std::chrono::seconds> sleeps;
+    bool isBroken = false;
+
+private:
+    void moveTo(const QDateTime& now)
+    {
+        m_now = now;
         Q_EMIT dayChanged();
     }
 
-private:
-    QDateTime m_now{QDate(2026, 11, 20), QTime(9, 0)};
+    QDateTime m_now{QDate(2026, 11, 20), QTime(9, 0), Qt::UTC};
 };

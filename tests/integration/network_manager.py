@@ -1,0 +1,122 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A dbusmock template: NetworkManager with Wi-Fi radios that scan.
+
+It goes beyond the template of dbusmock by scans, permissions, raw names and the changes that a person makes. Times are
+seconds of CLOCK_BOOTTIME, as NetworkManager tells them.
+"""
+
+import time
+
+import dbus
+import dbusmock
+from dbusmock import MOCK_IFACE
+from dbusmock.templates import networkmanager as base
+from gi.repository import GLib
+
+BUS_NAME, MAIN_OBJ, SYSTEM_BUS, IS_OBJECT_MANAGER = base.BUS_NAME, base.MAIN_OBJ, True, True
+DEVICES = "/org/freedesktop/NetworkManager/Devices/"
+ACCESS_POINTS = "/org/freedesktop/NetworkManager/AccessPoint/"
+PERMISSION = "org.freedesktop.NetworkManager.wifi.scan"
+DISCONNECTED, UNAVAILABLE = 30, 20
+
+
+def boot_seconds():
+    return time.clock_gettime(time.CLOCK_BOOTTIME)
+
+
+def manager():
+    return dbusmock.get_object(base.MANAGER_OBJ)
+
+
+def load(mock, parameters):
+    base.load(mock, parameters)
+    manager().AddProperties(base.MANAGER_IFACE, {"PrimaryConnection": dbus.ObjectPath("/")})
+    manager().AddMethod(base.MANAGER_IFACE, "GetPermissions", "", "a{ss}", "ret = self.permissions")
+    manager().permissions = dbus.Dictionary({PERMISSION: "yes"}, signature="ss")
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="ssu")
+def AddRadio(self, number, interface, state):
+    base.AddWiFiDevice(self, number, interface, state)
+    radio = dbusmock.get_object(DEVICES + number)
+    radio.AddProperties(base.WIRELESS_DEVICE_IFACE,
+                        {"LastScan": dbus.Int64(-1), "ActiveAccessPoint": dbus.ObjectPath("/")})
+    radio.AddMethod(base.WIRELESS_DEVICE_IFACE, "RequestScan", "a{sv}", "", "self.scan(self)")
+    radio.scan, radio.scans, radio.error, radio.milliseconds = scan, 0, "", 50
+    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", manager().Get(base.MANAGER_IFACE, "Devices"))
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="s")
+def RemoveRadio(self, number):
+    path = DEVICES + number
+    left = [device for device in manager().Get(base.MANAGER_IFACE, "Devices") if device != path]
+    self.object_manager_emit_removed(path)
+    self.RemoveObject(path)
+    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", dbus.Array(left, signature="o"))
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="su")
+def SetState(_self, number, state):
+    radio = dbusmock.get_object(DEVICES + number)
+    old = radio.Get(base.DEVICE_IFACE, "State")
+    radio.Set(base.DEVICE_IFACE, "State", dbus.UInt32(state))
+    radio.EmitSignal(base.DEVICE_IFACE, "StateChanged", "uuu", [dbus.UInt32(state), old, dbus.UInt32(0)])
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="b")
+def SetPower(self, is_on):
+    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "WirelessEnabled", dbus.Boolean(is_on))
+    for path in manager().Get(base.MANAGER_IFACE, "Devices"):
+        self.SetState(path.removeprefix(DEVICES), DISCONNECTED if is_on else UNAVAILABLE)
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="ssayi")
+def AddNetwork(self, radio, name, ssid, seconds_ago):
+    """An access point with a raw name that was seen last so many seconds ago."""
+    base.AddAccessPoint(self, DEVICES + radio, name, "", "00:00:00:00:00:00", 2, 2412, 54000, 80, 0)
+    properties = dbusmock.get_object(ACCESS_POINTS + name).props[base.ACCESS_POINT_IFACE]
+    properties["Ssid"] = dbus.ByteArray(bytes(ssid))
+    properties["LastSeen"] = dbus.Int32(boot_seconds() - seconds_ago)
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="ss")
+def Use(_self, radio, name):
+    changed(DEVICES + radio, base.WIRELESS_DEVICE_IFACE, "ActiveAccessPoint", dbus.ObjectPath(ACCESS_POINTS + name))
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="sis")
+def SetScan(_self, number, milliseconds, error):
+    """How long the scans of a radio take from now on, negative for ever, and the error that refuses them."""
+    radio = dbusmock.get_object(DEVICES + number)
+    radio.milliseconds, radio.error = milliseconds, error
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="s", out_signature="i")
+def CountScans(_self, number):
+    return dbusmock.get_object(DEVICES + number).scans
+
+
+@dbus.service.method(MOCK_IFACE, in_signature="s")
+def SetPermission(_self, permission):
+    """Empty for a version that does not know this permission. Told twice, as NetworkManager does."""
+    permissions = {PERMISSION: permission} if permission else {}
+    manager().permissions = dbus.Dictionary(permissions, signature="ss")
+    for _ in range(2):
+        manager().EmitSignal(base.MANAGER_IFACE, "CheckPermissions", "", [])
+
+
+def changed(path, interface, name, value):
+    dbusmock.get_object(path).UpdateProperties(interface, {name: value})
+
+
+def scan(radio):
+    radio.scans += 1
+    if radio.error:
+        raise dbus.exceptions.DBusException("Scanning is refused here", name=radio.error)
+    if radio.milliseconds >= 0:
+        GLib.timeout_add(radio.milliseconds, end_scan, radio)
+
+
+def end_scan(radio):
+    radio.UpdateProperties(base.WIRELESS_DEVICE_IFACE, {"LastScan": dbus.Int64(1000 * boot_seconds())})
+    return False
