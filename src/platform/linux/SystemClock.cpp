@@ -3,16 +3,35 @@
 
 #include "BootTimer.h"
 #include "Emission.h"
+#include "Pause.h"
 
 #include <QLoggingCategory>
 #include <QSocketNotifier>
 
+#include <ctime>
 #include <sys/timerfd.h>
 #include <unistd.h>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 Q_LOGGING_CATEGORY(logClock, "pellory.clock", QtInfoMsg)
+
+// A radio is not back at once when the computer has been suspended, and would be taken for one that is off.
+constexpr auto timeToWakeUp = 10s;
+
+std::chrono::seconds timeOf(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return std::chrono::seconds(time.tv_sec);
+}
+
+std::chrono::seconds timeSuspended()
+{
+    return timeOf(CLOCK_BOOTTIME) - timeOf(CLOCK_MONOTONIC);
+}
 
 } // namespace
 
@@ -42,9 +61,12 @@ QDateTime SystemClock::now() const
 
 QCoro::Task<> SystemClock::sleep(std::chrono::seconds duration)
 {
+    const auto suspendedBefore = timeSuspended();
     auto* timer = new BootTimer(duration, this);
     co_await emissionOf(timer, &BootTimer::expired);
     timer->deleteLater();
+    if (timeSuspended() - suspendedBefore > 2s)
+        co_await pauseFor(timeToWakeUp, this);
 }
 
 void SystemClock::sleepUntilMidnight()

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Pause.h"
+
+#include "Emission.h"
+
+#include <QTimer>
+
+QCoro::Task<> pauseFor(std::chrono::milliseconds duration, QObject* owner)
+{
+    auto* timer = new QTimer(owner);
+    timer->setSingleShot(true);
+    timer->start(duration);
+    co_await emissionOf(timer, &QTimer::timeout);
+    timer->deleteLater();
+}
