@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "Clock.h"
+#include "Emission.h"
 #include "InOfficeDetector.h"
 #include "InOfficeModelUpdater.h"
 #include "Log.h"
@@ -90,6 +91,7 @@ void InOfficeCheck::report(const char* failure)
 QCoro::Task<> InOfficeCheck::sleep()
 {
     const std::chrono::seconds duration = std::max(checkInterval(m_parts.settings), shortestSleep);
+    qCDebug(logDetection, "Sleeping for %lld seconds", qint64(duration.count()));
     const bool failedBefore = m_lastSleepFailed;
     const bool isDone = co_await isSleepDone(duration);
     m_lastSleepFailed = !isDone;

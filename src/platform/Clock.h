@@ -18,8 +18,7 @@ public:
     [[nodiscard]] QDate today() const { return now().date(); }
 
     /// Waits so long, a time that the computer is suspended included; after a suspend it may take a little longer. Is
-    /// abandoned when the clock is destroyed; throws
-    /// a PlatformError when there is nothing to wait with.
+    /// abandoned when the clock is destroyed; throws a PlatformError when there is nothing to wait with.
     [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::seconds duration) = 0;
 
 Q_SIGNALS:
