@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
+#include "LocationManager.h"
 #include "MainWindow.h"
 #include "MessageBoxAlerts.h"
 #include "ModelContainer.h"
+#include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
 #include "PelloryApp.h"
 #include "PortalAppearance.h"
@@ -62,7 +65,11 @@ int run()
         &clock, [&check] { check.start(); }, Qt::QueuedConnection);
 
     ViewSettings viewSettings(settings);
-    const ViewParts parts{pellory.container().mainContext(), pellory.settings(), viewSettings, clock};
+    NetworkManagerAuthorization authorization;
+    DesktopSystemSettings systemSettings;
+    LocationManagerKey locationManager(authorization, systemSettings);
+    const ViewParts parts{
+        pellory.container().mainContext(), pellory.settings(), viewSettings, clock, wifiClient, locationManager};
     MainWindow window(parts);
     PortalAppearance appearance;
     followColorScheme(appearance, settings);

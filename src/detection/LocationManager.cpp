@@ -59,3 +59,10 @@ void LocationManager::update(AuthorizationStatus status)
     std::printf("Location permission changed from %s to %s\n", nameOf(before), nameOf(status));
     std::fflush(stdout);
 }
+
+LocationManager& LocationManagerKey::defaultValue()
+{
+    if (!m_manager)
+        m_manager = std::make_unique<LocationManager>(m_authorization, m_systemSettings);
+    return *m_manager;
+}

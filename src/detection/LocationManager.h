@@ -5,6 +5,8 @@
 
 #include <QProperty>
 
+#include <memory>
+
 class SystemSettings;
 
 /// Knows whether this program may learn the names of networks.
@@ -24,4 +26,21 @@ private:
 
     LocationAuthorization& m_authorization;
     SystemSettings& m_systemSettings;
+};
+
+/// Through which views come to the one location manager of the process. It is made when the first of them needs it.
+class LocationManagerKey {
+public:
+    LocationManagerKey(LocationAuthorization& authorization, SystemSettings& systemSettings)
+        : m_authorization(authorization)
+        , m_systemSettings(systemSettings)
+    {
+    }
+
+    [[nodiscard]] LocationManager& defaultValue();
+
+private:
+    LocationAuthorization& m_authorization;
+    SystemSettings& m_systemSettings;
+    std::unique_ptr<LocationManager> m_manager;
 };

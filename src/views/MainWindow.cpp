@@ -5,12 +5,13 @@
 #include "QuarterView.h"
 #include "SegmentedTabs.h"
 #include "Theme.h"
+#include "TrackingIndicator.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
@@ -74,11 +75,16 @@ QWidget* MainWindow::makeHeader()
     m_tabs->addTab(tr("Month"));
     m_tabs->addTab(tr("Quarter"));
     auto* header = new Header;
-    auto* row = new QHBoxLayout(header);
-    row->setContentsMargins(16, 8, 16, 9);
-    row->addStretch();
-    row->addWidget(m_tabs);
-    row->addStretch();
+    auto* indicator = new TrackingIndicator(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
+    // What it asks the system can wait until there is something to see.
+    connect(this, &MainWindow::painted, indicator, &TrackingIndicator::startMonitoring);
+    auto* row = new QGridLayout(header);
+    row->setContentsMargins(32, 8, 32, 9);
+    row->addWidget(indicator, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    row->addWidget(m_tabs, 0, 1);
+    // The tabs stand in the middle of the window, whatever is beside them.
+    row->setColumnStretch(0, 1);
+    row->setColumnStretch(2, 1);
     return header;
 }
 

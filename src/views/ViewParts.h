@@ -3,13 +3,17 @@
 
 class AppSettings;
 class Clock;
+class LocationManagerKey;
 class ModelContext;
 class ViewSettings;
+class WiFiClient;
 
-/// What the calendar views work on. They borrow all of it; it outlives them.
+/// What the views work on. They borrow all of it; it outlives them.
 struct ViewParts {
     ModelContext& context;
     AppSettings& settings;
     ViewSettings& viewSettings;
     Clock& clock;
+    WiFiClient& wifiClient;
+    LocationManagerKey& locationManager;
 };

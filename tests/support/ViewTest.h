@@ -3,7 +3,9 @@
 
 #include "AppSettings.h"
 #include "CommandClickableButton.h"
+#include "FakeWiFiClient.h"
 #include "FixedClock.h"
+#include "LocationManager.h"
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
@@ -109,5 +111,9 @@ protected:
     QSettings stored{folder.filePath(u"views.ini"_s), QSettings::IniFormat};
     ViewSettings viewSettings{stored};
     FixedClock clock;
-    const ViewParts parts{context, *settings, viewSettings, clock};
+    testing::NiceMock<FakeWiFiClient> wifiClient;
+    testing::NiceMock<FakeAuthorization> authorization;
+    MockSystemSettings systemSettings;
+    LocationManagerKey locationManager{authorization, systemSettings};
+    const ViewParts parts{context, *settings, viewSettings, clock, wifiClient, locationManager};
 };
