@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AttendanceStatistics.h"
+#include "DesktopSystemSettings.h"
+#include "LocationManager.h"
 #include "MainWindow.h"
 #include "MonthView.h"
+#include "NetworkManagerAuthorization.h"
+#include "NetworkManagerWiFiClient.h"
 #include "SampleStore.h"
 #include "SystemClock.h"
 #include "ViewParts.h"
@@ -74,7 +78,11 @@ void monthChange(benchmark::State& state)
     AppSettings appSettings;
     SystemClock clock;
     const auto container = openStore(sampleStore());
-    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock};
+    NetworkManagerWiFiClient wifiClient;
+    NetworkManagerAuthorization authorization;
+    DesktopSystemSettings systemSettings;
+    LocationManagerKey locationManager(authorization, systemSettings);
+    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient, locationManager};
     MainWindow window(parts);
     window.show();
     QApplication::processEvents();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "AppSettings.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "Month.h"
@@ -12,7 +13,8 @@ inline std::unique_ptr<ModelContainer> openStore(const QString& path)
     return std::make_unique<ModelContainer>(ModelConfiguration{.name = QStringLiteral("Benchmark"), .path = path});
 }
 
-/// Fills a new store with `count` months in a row, those of the current quarter among them, every workday marked.
+/// Fills a new store with `count` months in a row, those of the current quarter among them, every workday marked, and
+/// with settings that have days marked automatically.
 inline void fillStore(const QString& path, int count)
 {
     const auto container = openStore(path);
@@ -29,6 +31,10 @@ inline void fillStore(const QString& path, int count)
         month->days = days;
         container->mainContext().insert(month);
     }
+    const auto settings = std::make_shared<AppSettings>();
+    settings->firstTime = false;
+    settings->wifiTrackingEnabled = true;
+    container->mainContext().insert(settings);
     if (!container->mainContext().save())
         qFatal("The store at %s cannot be filled", qUtf8Printable(path));
 }
