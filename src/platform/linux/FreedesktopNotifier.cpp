@@ -7,6 +7,8 @@
 #include <QDBusServiceWatcher>
 #include <QLoggingCategory>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -38,8 +40,19 @@ FreedesktopNotifier::~FreedesktopNotifier() = default;
 
 void FreedesktopNotifier::post(const Notification& notification)
 {
-    QMetaObject::invokeMethod(
-        this, [=, this] { send(notification); }, Qt::QueuedConnection);
+    m_waiting.enqueue(notification);
+    if (!std::exchange(m_isSending, true))
+        QMetaObject::invokeMethod(this, &FreedesktopNotifier::sendAll, Qt::QueuedConnection);
+}
+
+// One after the other: the number of the last one of a topic must be known before the next one is sent.
+QCoro::Task<> FreedesktopNotifier::sendAll()
+{
+    while (!m_waiting.isEmpty()) {
+        const Notification next = m_waiting.dequeue();
+        co_await send(next);
+    }
+    m_isSending = false;
 }
 
 QCoro::Task<> FreedesktopNotifier::send(Notification notification)

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QQueue>
 
 #include <QCoroTask>
 
@@ -21,10 +22,13 @@ public:
     void post(const Notification& notification) override;
 
 private:
+    QCoro::Task<> sendAll();
     QCoro::Task<> send(Notification notification);
     QCoro::Task<bool> serverReadsMarkup();
     void forgetWithServer();
 
+    QQueue<Notification> m_waiting;
+    bool m_isSending = false;
     /// The number that the server has given to the last notification of each topic.
     QHash<QString, quint32> m_numbers;
     std::unique_ptr<QDBusServiceWatcher> m_serverWatcher;

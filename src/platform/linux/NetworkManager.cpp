@@ -3,6 +3,8 @@
 
 #include "BusCall.h"
 #include "NetworkManagerNames.h"
+#include "NetworkManagerReader.h"
+#include "Pause.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -35,7 +37,10 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 {
     const auto call = callOf(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
     const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call);
-    co_return readNetworkManagerState(reply);
+    NetworkManagerReader reader(reply);
+    while (reader.readSome())
+        co_await pauseFor(0ms, this);
+    co_return reader.state();
 }
 
 QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()

@@ -9,8 +9,6 @@
 
 #include <chrono>
 
-class QDBusMessage;
-
 // The states of a device that matter, as NMDeviceState numbers them.
 [[nodiscard]] constexpr bool isManaged(uint deviceState)
 {
@@ -60,9 +58,6 @@ struct NetworkManagerState {
     /// The networks of the access points of a radio that were seen since then, or are in use.
     [[nodiscard]] QList<WiFiNetwork> networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const;
 };
-
-/// Reads the answer of GetManagedObjects. What is missing or of another type than it should be counts as absent.
-[[nodiscard]] NetworkManagerState readNetworkManagerState(const QDBusMessage& managedObjects);
 
 /// The text of a network's name: UTF-8, else Latin-1. None for a hidden one, which is empty or all zeros.
 [[nodiscard]] std::optional<QString> ssidText(const QByteArray& ssid);
