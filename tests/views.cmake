@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
-
 pellory_test(views
     SOURCES
+        support/FakeWiFiClient.h
         support/WindowTestMain.cpp
         views/CalendarViewTest.cpp
         views/DayClickTest.cpp
@@ -12,6 +11,7 @@ pellory_test(views
         views/ProgressBarTest.cpp
         views/ProgressWidgetViewTest.cpp
         views/ThemeTest.cpp
+        views/TrackingIndicatorTest.cpp
     LINKS Pellory::views SQLiteCpp Qt6::Test
 )
 pellory_test(app
@@ -22,9 +22,17 @@ pellory_test(platform
     SOURCES platform/PortalAppearanceTest.cpp platform/SystemClockTest.cpp
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
 )
+pellory_test(network
+    SOURCES platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
+    LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
+)
+target_compile_definitions(network_test PRIVATE
+    NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
 pellory_test(integration
-    SOURCES integration/ProgramTest.cpp
-    LINKS Pellory::store Qt6::Test
+    SOURCES integration/AutomaticMarkingTest.cpp integration/ProgramTest.cpp
+    LINKS Pellory::store Pellory::platform Qt6::DBus Qt6::Test
 )
 add_dependencies(integration_test pellory)
-target_compile_definitions(integration_test PRIVATE PELLORY_PROGRAM="$<TARGET_FILE:pellory>")
+target_compile_definitions(integration_test PRIVATE
+    PELLORY_PROGRAM="$<TARGET_FILE:pellory>"
+    NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")

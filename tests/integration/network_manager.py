@@ -16,8 +16,10 @@ from gi.repository import GLib
 BUS_NAME, MAIN_OBJ, SYSTEM_BUS, IS_OBJECT_MANAGER = base.BUS_NAME, base.MAIN_OBJ, True, True
 DEVICES = "/org/freedesktop/NetworkManager/Devices/"
 ACCESS_POINTS = "/org/freedesktop/NetworkManager/AccessPoint/"
+CONNECTIONS = "/org/freedesktop/NetworkManager/ActiveConnection/"
 PERMISSION = "org.freedesktop.NetworkManager.wifi.scan"
 DISCONNECTED, UNAVAILABLE = 30, 20
+AddEthernetDevice = base.AddEthernetDevice
 
 
 def boot_seconds():
@@ -33,6 +35,7 @@ def load(mock, parameters):
     manager().AddProperties(base.MANAGER_IFACE, {"PrimaryConnection": dbus.ObjectPath("/")})
     manager().AddMethod(base.MANAGER_IFACE, "GetPermissions", "", "a{ss}", "ret = self.permissions")
     manager().permissions = dbus.Dictionary({PERMISSION: "yes"}, signature="ss")
+    mock.connection.add_message_filter(note_interactive)
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="ssu")
@@ -42,8 +45,10 @@ def AddRadio(self, number, interface, state):
     radio.AddProperties(base.WIRELESS_DEVICE_IFACE,
                         {"LastScan": dbus.Int64(-1), "ActiveAccessPoint": dbus.ObjectPath("/")})
     radio.AddMethod(base.WIRELESS_DEVICE_IFACE, "RequestScan", "a{sv}", "", "self.scan(self)")
+    self.AddObject(CONNECTIONS + number, base.ACTIVE_CONNECTION_IFACE,
+                   {"Devices": dbus.Array([DEVICES + number], signature="o")}, [])
     radio.scan, radio.scans, radio.error, radio.milliseconds = scan, 0, "", 50
-    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", manager().Get(base.MANAGER_IFACE, "Devices"))
+    self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", manager().Get(base.MANAGER_IFACE, "Devices"))
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="s")
@@ -52,7 +57,8 @@ def RemoveRadio(self, number):
     left = [device for device in manager().Get(base.MANAGER_IFACE, "Devices") if device != path]
     self.object_manager_emit_removed(path)
     self.RemoveObject(path)
-    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", dbus.Array(left, signature="o"))
+    self.RemoveObject(CONNECTIONS + number)
+    self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", dbus.Array(left, signature="o"))
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="su")
@@ -65,7 +71,7 @@ def SetState(_self, number, state):
 
 @dbus.service.method(MOCK_IFACE, in_signature="b")
 def SetPower(self, is_on):
-    changed(base.MANAGER_OBJ, base.MANAGER_IFACE, "WirelessEnabled", dbus.Boolean(is_on))
+    self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "WirelessEnabled", dbus.Boolean(is_on))
     for path in manager().Get(base.MANAGER_IFACE, "Devices"):
         self.SetState(path.removeprefix(DEVICES), DISCONNECTED if is_on else UNAVAILABLE)
 
@@ -79,9 +85,18 @@ def AddNetwork(self, radio, name, ssid, seconds_ago):
     properties["LastSeen"] = dbus.Int32(boot_seconds() - seconds_ago)
 
 
+@dbus.service.method(MOCK_IFACE, in_signature="si")
+def AddCrowd(self, radio, count):
+    paths = [ACCESS_POINTS + str(number) for number in range(count)]
+    seen = {"Ssid": dbus.ByteArray(b"Crowd"), "LastSeen": dbus.Int32(boot_seconds())}
+    for path in paths:
+        self.AddObject(path, base.ACCESS_POINT_IFACE, seen, [])
+    self.Change(DEVICES + radio, base.WIRELESS_DEVICE_IFACE, "AccessPoints", dbus.Array(paths, signature="o"))
+
+
 @dbus.service.method(MOCK_IFACE, in_signature="ss")
-def Use(_self, radio, name):
-    changed(DEVICES + radio, base.WIRELESS_DEVICE_IFACE, "ActiveAccessPoint", dbus.ObjectPath(ACCESS_POINTS + name))
+def Use(self, radio, name):
+    self.Change(DEVICES + radio, base.WIRELESS_DEVICE_IFACE, "ActiveAccessPoint", dbus.ObjectPath(ACCESS_POINTS + name))
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="sis")
@@ -93,6 +108,7 @@ def SetScan(_self, number, milliseconds, error):
 
 @dbus.service.method(MOCK_IFACE, in_signature="s", out_signature="i")
 def CountScans(_self, number):
+    """One that may ask the person counts for a hundred more."""
     return dbusmock.get_object(DEVICES + number).scans
 
 
@@ -105,8 +121,17 @@ def SetPermission(_self, permission):
         manager().EmitSignal(base.MANAGER_IFACE, "CheckPermissions", "", [])
 
 
-def changed(path, interface, name, value):
-    dbusmock.get_object(path).UpdateProperties(interface, {name: value})
+@dbus.service.method(MOCK_IFACE, in_signature="sssv")
+def Change(_self, path, interface, name, value):
+    told = [interface, {name: value}, []]
+    dbusmock.get_object(path).props[interface][name] = value
+    dbusmock.get_object(path).EmitSignal(dbus.PROPERTIES_IFACE, "PropertiesChanged", "sa{sv}as", told)
+
+
+def note_interactive(_connection, message):
+    if message.get_member() == "RequestScan" and message.get_allow_interactive_authorization():
+        dbusmock.get_object(message.get_path()).scans += 100
+    return dbus.lowlevel.HANDLER_RESULT_NOT_YET_HANDLED
 
 
 def scan(radio):

@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "CommandClickableButton.h"
+#include "Eventually.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
 #include "LocationManager.h"
@@ -17,12 +18,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
-#include <QTest>
-
-template <class Condition> [[nodiscard]] bool eventually(Condition condition)
-{
-    return QTest::qWaitFor(condition, 10'000);
-}
 
 /// The shown button of a day.
 inline CommandClickableButton& dayButton(const QWidget& root, int day)

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Eventually.h"
+#include "PlatformError.h"
+#include "Testing.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <QCoroTask>
+
+#include <csignal>
+
+/// What a task finds, or throws, in the end.
+template <class T> T endOf(const QCoro::Task<T>& task)
+{
+    if (!eventually([&] { return task.isReady(); }))
+        throw std::logic_error("the task does not end");
+    return task.operator co_await().await_resume();
+}
+
+/// A child that does not outlive this process.
+struct Daemon : public QProcess {
+    Daemon(const QString& program, const QStringList& arguments)
+    {
+        setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        setStandardInputFile(nullDevice());
+        start(program, arguments);
+    }
+    ~Daemon() override { kill(), waitForFinished(10'000); }
+    [[nodiscard]] QByteArray firstLine() { return waitForReadyRead(10'000) ? readLine().trimmed() : QByteArray(); }
+};
+
+/// A system bus and a session bus that start no service by themselves. A process knows one of each for all its life.
+class PrivateBuses : public testing::Environment {
+    void SetUp() override // NOLINT(readability-identifier-naming)
+    {
+        QFile rules(m_folder.filePath(u"bus.conf"_s));
+        EXPECT_TRUE(rules.open(QFile::WriteOnly));
+        rules.write("<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><policy context='default'><allow "
+                    "send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/><allow own='*'/></policy>"
+                    "</busconfig>");
+        rules.close();
+        const QStringList options{u"--print-address"_s, u"--nofork"_s, u"--config-file="_s + rules.fileName()};
+        for (const char* variable : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
+            qputenv(variable, m_buses.emplace_back(new Daemon(u"dbus-daemon"_s, options))->firstLine());
+        if (!QDBusConnection::systemBus().isConnected() || !QDBusConnection::sessionBus().isConnected())
+            qFatal("There are no buses"); // a failure here would skip the tests, and not fail them
+    }
+    void TearDown() override { m_buses.clear(); } // NOLINT(readability-identifier-naming)
+
+    const QTemporaryDir m_folder;
+    std::vector<std::unique_ptr<Daemon>> m_buses;
+};
+inline testing::Environment* const privateBuses = testing::AddGlobalTestEnvironment(new PrivateBuses);
+
+/// A service that is played here. It is spoken to over the connection of the code under test: whatever it told
+/// everybody before it answers has arrived here, too, when its answer has.
+struct PlayedService {
+    [[nodiscard]] bool isThere() const { return bus.interface()->isServiceRegistered(name).value(); }
+    void start(const QString& program, const QStringList& arguments)
+    {
+        daemon = std::make_unique<Daemon>(program, arguments);
+        ASSERT_TRUE(eventually([this] { return isThere(); }));
+    }
+    void startMock(const QString& file, const QString& options = u"{}"_s)
+    {
+        start(u"/usr/bin/python3"_s,
+              u"-m dbusmock -l /dev/null -p"_s.split(u' ') + QStringList{options, u"-t"_s, file});
+    }
+    void stop()
+    {
+        daemon.reset();
+        ASSERT_TRUE(eventually([this] { return !isThere(); }));
+    }
+
+    template <class... Arguments>
+    QVariant call(const QString& interface, const char* method, const Arguments&... arguments)
+    {
+        auto message = QDBusMessage::createMethodCall(name, path, interface, QString::fromLatin1(method));
+        message.setArguments({QVariant::fromValue(arguments)...});
+        const QDBusMessage reply = bus.call(message, QDBus::Block, 10'000);
+        if (reply.type() != QDBusMessage::ReplyMessage)
+            throw PlatformError(reply.errorMessage());
+        return reply.arguments().value(0);
+    }
+    template <class... Arguments> QVariant tell(const char* method, const Arguments&... arguments)
+    {
+        return call(u"org.freedesktop.DBus.Mock"_s, method, arguments...);
+    }
+
+    QDBusConnection bus;
+    QString name, path;
+    std::unique_ptr<Daemon> daemon = nullptr;
+};
