@@ -10,7 +10,7 @@ namespace {
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    if (className == "MarkedProgressBar"_L1)
+    if (className == "MarkedProgressBar"_L1 || className == "TrackingIndicator"_L1)
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
     if (className == "CalendarView"_L1)
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);

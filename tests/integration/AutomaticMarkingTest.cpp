@@ -85,6 +85,7 @@ TEST_F(AutomaticMarkingTest, aDayAtTheOfficeIsMarkedAndToldOnce)
             calls.endStructure();
             summaries.append(arguments.at(3).toString());
         }
+        calls.endArray();
         return summaries;
     };
     const QStringList both{u"Pellory"_s, u"(Not) Pellory"_s};

@@ -49,6 +49,13 @@ NetworkManagerReader::NetworkManagerReader(const QDBusMessage& managedObjects)
         m_objects.beginMap();
 }
 
+NetworkManagerReader::~NetworkManagerReader()
+{
+    // A map that is begun and not ended holds the whole message for ever.
+    if (m_isReadable)
+        m_objects.endMap();
+}
+
 bool NetworkManagerReader::readSome()
 {
     for (int count = 0; m_isReadable && !m_objects.atEnd(); ++count) {

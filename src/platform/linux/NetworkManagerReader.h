@@ -15,6 +15,8 @@ using BusInterfaces = QMap<QString, QVariantMap>;
 class NetworkManagerReader {
 public:
     explicit NetworkManagerReader(const QDBusMessage& managedObjects);
+    ~NetworkManagerReader();
+    Q_DISABLE_COPY_MOVE(NetworkManagerReader)
 
     /// Reads the next piece. True when there is more.
     [[nodiscard]] bool readSome();

@@ -37,9 +37,11 @@ std::chrono::seconds timeSinceBoot()
     return std::chrono::seconds(time.tv_sec);
 }
 
-WiFiInterface interfaceOf(const NetworkManagerState& state, const WirelessDevice& device)
+std::optional<WiFiInterface> interfaceOf(const NetworkManagerState& state, const WirelessDevice* device)
 {
-    return {device.interface, state.isPowered(device)};
+    if (device == nullptr)
+        return std::nullopt;
+    return WiFiInterface{device->interface, state.isPowered(*device)};
 }
 
 const WirelessDevice& presentDevice(const NetworkManagerState& state, const QString& interfaceName)
@@ -61,26 +63,26 @@ NetworkManagerWiFiClient::~NetworkManagerWiFiClient() = default;
 
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::defaultInterface()
 {
-    try {
-        const NetworkManagerState state = co_await m_networkManager.readState();
-        if (const WirelessDevice* device = state.defaultDevice())
-            co_return interfaceOf(state, *device);
-    } catch (const BusError& error) {
-        qCDebug(logWiFi, "No Wi-Fi: %s", error.what());
-    }
-    co_return std::nullopt;
+    const NetworkManagerState state = co_await readStateIfThere();
+    co_return interfaceOf(state, state.defaultDevice());
 }
 
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWithName(QString name)
 {
+    const NetworkManagerState state = co_await readStateIfThere();
+    co_return interfaceOf(state, state.deviceWithInterface(name));
+}
+
+// A NetworkManager that does not answer knows of no radio.
+QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readStateIfThere()
+{
     try {
         const NetworkManagerState state = co_await m_networkManager.readState();
-        if (const WirelessDevice* device = state.deviceWithInterface(name))
-            co_return interfaceOf(state, *device);
+        co_return state;
     } catch (const BusError& error) {
         qCDebug(logWiFi, "No Wi-Fi: %s", error.what());
     }
-    co_return std::nullopt;
+    co_return NetworkManagerState();
 }
 
 QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)

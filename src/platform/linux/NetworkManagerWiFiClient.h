@@ -34,6 +34,7 @@ public:
     void stopMonitoringPowerEvents() override;
 
 private:
+    [[nodiscard]] QCoro::Task<NetworkManagerState> readStateIfThere();
     [[nodiscard]] QCoro::Task<bool> isScanned(QString devicePath);
     QCoro::Task<> tellPower();
 
