@@ -62,7 +62,7 @@ std::shared_ptr<Month> InOfficeModelUpdater::findOrCreateMonth(QDate date)
         throw InOfficeDetectionError(InOfficeDetectionError::duplicateMonthModels);
     if (!found.isEmpty())
         return found.first();
-    const auto created = std::make_shared<Month>(date.year(), date.month());
+    auto created = std::make_shared<Month>(date.year(), date.month());
     context.insert(created);
     return created;
 }
