@@ -5,6 +5,9 @@
 
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Statement.h>
+
+// One function out of a library that would be loaded at every start.
+#define XXH_INLINE_ALL
 #include <xxhash.h>
 
 using namespace Qt::StringLiterals;

@@ -90,6 +90,9 @@ template <class Mapping> void verifyRecords(SQLite::Database& database)
 
 SQLite::Database connectToStore(const std::string& path, int lockTimeout)
 {
+    // Pages one by one: the block of them that would be taken at once is larger than most stores.
+    static const int isSparing = sqlite3_config(SQLITE_CONFIG_PAGECACHE, nullptr, 0, 0);
+    static_cast<void>(isSparing);
     SQLite::Database database(path, SQLite::OPEN_READWRITE, lockTimeout);
     database.exec("PRAGMA synchronous = FULL");
     return database;

@@ -73,6 +73,7 @@ TEST_F(AutomaticMarkingTest, aDayAtTheOfficeIsMarkedAndToldOnce)
     server.startMock(u"notification_daemon"_s);
     network.tell("AddRadio", u"1"_s, u"wlan0"_s, 100U);
     network.tell("AddNetwork", u"1"_s, u"1"_s, u"Büro"_s.toUtf8(), 0);
+    network.tell("AddNetwork", u"1"_s, u"2"_s, u"Neighbour"_s.toUtf8(), 0);
     const auto told = [&] {
         QStringList summaries;
         const auto calls = server.tell("GetMethodCalls", u"Notify"_s).value<QDBusArgument>();
@@ -97,6 +98,8 @@ TEST_F(AutomaticMarkingTest, aDayAtTheOfficeIsMarkedAndToldOnce)
     {
         RunningProgram again(home);
         EXPECT_TRUE(again.logs("Sleeping for 1800 seconds")) << again.log().toStdString();
+        EXPECT_TRUE(again.log().contains("Büro"));
+        EXPECT_FALSE(again.log().contains("Neighbour")) << "which is nobody's business";
         EXPECT_FALSE(again.log().contains("Logged as"));
     }
     EXPECT_EQ(network.tell("CountScans", u"1"_s), QVariant(2));
