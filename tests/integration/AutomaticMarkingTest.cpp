@@ -5,6 +5,7 @@
 #include "Month.h"
 #include "PrivateBuses.h"
 #include "RunningProgram.h"
+#include "TimeOfDay.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -12,16 +13,6 @@
 namespace {
 
 const auto networkManager = u"org.freedesktop.NetworkManager"_s;
-
-/// A time zone in which it is noon, so that no test meets midnight, and the day that it is there.
-std::pair<QString, QDate> noon()
-{
-    constexpr int halfDay = 12 * 60 * 60;
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const int east = halfDay - now.time().msecsSinceStartOfDay() / 1000;
-    const QString offset = QTime(0, 0).addSecs(std::abs(east)).toString(u"hh:mm:ss"_s);
-    return {(east > 0 ? u"TST-"_s : u"TST"_s) + offset, now.addSecs(east).date()};
-}
 
 QDate workdayBefore(QDate date)
 {
@@ -38,9 +29,9 @@ class AutomaticMarkingTest : public testing::Test {
 protected:
     AutomaticMarkingTest()
     {
-        const auto [zone, day] = noon();
-        today = day;
-        home.environment.insert(u"TZ"_s, zone);
+        const auto noon = whereItIsNow(secondsOfDay / 2); // so that no test meets midnight
+        today = noon.day;
+        home.environment.insert(u"TZ"_s, noon.zone);
         for (const char* bus : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
             home.environment.insert(QString::fromLatin1(bus), qEnvironmentVariable(bus));
         QDir().mkpath(QFileInfo(home.store).path());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PortalAppearance.h"
+#include "Daemon.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -7,13 +8,9 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QProcess>
 #include <QTest>
 
 #include <gmock/gmock.h>
-
-#include <csignal>
-#include <sys/prctl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -53,18 +50,11 @@ protected:
     // A process is connected to one session bus for all its life.
     static void SetUpTestSuite() // NOLINT(readability-identifier-naming)
     {
-        bus = std::make_unique<QProcess>();
-        bus->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
-        bus->start(u"dbus-daemon"_s, {u"--session"_s, u"--print-address"_s, u"--nofork"_s});
-        ASSERT_TRUE(bus->waitForReadyRead(10'000));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", bus->readLine().trimmed());
+        bus = std::make_unique<Daemon>(u"dbus-daemon"_s,
+                                       QStringList{u"--session"_s, u"--print-address"_s, u"--nofork"_s});
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus->firstLine());
     }
-    static void TearDownTestSuite() // NOLINT(readability-identifier-naming)
-    {
-        bus->terminate();
-        EXPECT_TRUE(bus->waitForFinished(10'000));
-        bus.reset();
-    }
+    static void TearDownTestSuite() { bus.reset(); } // NOLINT(readability-identifier-naming)
 
     PortalAppearanceTest()
     {
@@ -93,7 +83,7 @@ protected:
             QTest::qWaitFor([&] { return appearance.findChild<QDBusPendingCallWatcher*>() == nullptr; }, 30'000));
     }
 
-    inline static std::unique_ptr<QProcess> bus;
+    inline static std::unique_ptr<Daemon> bus;
     QDBusConnection connection =
         QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"desktop"_s);
     Desktop desktop;

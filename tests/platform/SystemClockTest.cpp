@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SystemClock.h"
+#include "TimeOfDay.h"
 
 #include <QCoreApplication>
 #include <QScopeGuard>
@@ -16,12 +17,7 @@ namespace {
 /// Moves this process to a time zone in which it will be midnight in so many seconds.
 void moveToMidnight(int seconds)
 {
-    constexpr int day = 24 * 60 * 60;
-    int east = day - seconds - QDateTime::currentDateTimeUtc().time().msecsSinceStartOfDay() / 1000;
-    if (east > day / 2)
-        east -= day;
-    const QString offset = QTime(0, 0).addSecs(std::abs(east)).toString(u"hh:mm:ss"_s);
-    qputenv("TZ", ((east > 0 ? u"TST-"_s : u"TST"_s) + offset).toUtf8());
+    qputenv("TZ", whereItIsNow(secondsOfDay - seconds).zone.toUtf8());
     tzset();
 }
 

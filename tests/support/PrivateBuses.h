@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Daemon.h"
 #include "Eventually.h"
 #include "PlatformError.h"
 #include "Testing.h"
@@ -11,12 +12,9 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <QCoroTask>
-
-#include <csignal>
 
 /// What a task finds, or throws, in the end.
 template <class T> T endOf(const QCoro::Task<T>& task)
@@ -25,18 +23,6 @@ template <class T> T endOf(const QCoro::Task<T>& task)
         throw std::logic_error("the task does not end");
     return task.operator co_await().await_resume();
 }
-
-/// A child that does not outlive this process.
-struct Daemon : public QProcess {
-    Daemon(const QString& program, const QStringList& arguments)
-    {
-        setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        setStandardInputFile(nullDevice());
-        start(program, arguments);
-    }
-    ~Daemon() override { kill(), waitForFinished(10'000); }
-    [[nodiscard]] QByteArray firstLine() { return waitForReadyRead(10'000) ? readLine().trimmed() : QByteArray(); }
-};
 
 /// A system bus and a session bus that start no service by themselves. A process knows one of each for all its life.
 class PrivateBuses : public testing::Environment {

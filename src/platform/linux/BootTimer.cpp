@@ -21,17 +21,15 @@ BootTimer::BootTimer(std::chrono::seconds duration, QObject* parent)
             close(m_timer);
         throw error;
     }
-    auto* notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
-        notifier->setEnabled(false);
+    m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+        m_notifier->setEnabled(false);
         Q_EMIT expired();
     });
 }
 
 BootTimer::~BootTimer()
 {
-    // The notifier, a child, goes after this: it must not watch a file that is closed by then, or another one.
-    for (auto* notifier : findChildren<QSocketNotifier*>())
-        notifier->setEnabled(false);
+    m_notifier.reset();
     close(m_timer);
 }

@@ -4,6 +4,9 @@
 #include <QObject>
 
 #include <chrono>
+#include <memory>
+
+class QSocketNotifier;
 
 /// Expires once, after a time in which suspended time counts: when it ends during a suspend, at the resume.
 class BootTimer : public QObject {
@@ -19,4 +22,5 @@ Q_SIGNALS:
 
 private:
     int m_timer;
+    std::unique_ptr<QSocketNotifier> m_notifier;
 };

@@ -2,6 +2,7 @@
 #include "NetworkManagerWiFiClient.h"
 
 #include "BusCall.h"
+#include "KernelClock.h"
 #include "NetworkManagerNames.h"
 #include "Pause.h"
 #include "ScanWatch.h"
@@ -15,7 +16,6 @@
 #include <QScopeGuard>
 
 #include <algorithm>
-#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -28,14 +28,6 @@ Q_LOGGING_CATEGORY(logWiFi, "pellory.wifi", QtInfoMsg)
 constexpr auto longestMiss = 30s;
 // Without a scan of our own, what others have scanned for is as good as it gets.
 constexpr auto longestMissUnscanned = 60s;
-
-// The clock by which NetworkManager tells when it saw an access point.
-std::chrono::seconds timeSinceBoot()
-{
-    timespec time{};
-    clock_gettime(CLOCK_BOOTTIME, &time);
-    return std::chrono::seconds(time.tv_sec);
-}
 
 std::optional<WiFiInterface> interfaceOf(const NetworkManagerState& state, const WirelessDevice* device)
 {
@@ -87,7 +79,7 @@ QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readStateIfThere()
 
 QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)
 {
-    const auto start = timeSinceBoot();
+    const auto start = readKernelClock(CLOCK_BOOTTIME);
     NetworkManagerState state = co_await m_networkManager.readState();
     const bool hasScanned = co_await isScanned(presentDevice(state, interfaceName).path);
     if (hasScanned)

@@ -11,20 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-ScanWatch::ScanWatch(QString devicePath, QObject* parent)
+ScanWatch::ScanWatch(const QString& devicePath, QObject* parent)
     : QObject(parent)
-    , m_devicePath(std::move(devicePath))
 {
-    QDBusConnection::systemBus().connect(networkManagerService, m_devicePath, propertiesInterface,
-                                         u"PropertiesChanged"_s, {wirelessInterface}, {}, this,
-                                         SLOT(handlePropertiesChanged(QDBusMessage)));
-}
-
-ScanWatch::~ScanWatch()
-{
-    QDBusConnection::systemBus().disconnect(networkManagerService, m_devicePath, propertiesInterface,
-                                            u"PropertiesChanged"_s, {wirelessInterface}, {}, this,
-                                            SLOT(handlePropertiesChanged(QDBusMessage)));
+    QDBusConnection::systemBus().connect(networkManagerService, devicePath, propertiesInterface, u"PropertiesChanged"_s,
+                                         {wirelessInterface}, {}, this, SLOT(handlePropertiesChanged(QDBusMessage)));
 }
 
 QCoro::Task<> ScanWatch::wait(std::chrono::milliseconds longest)

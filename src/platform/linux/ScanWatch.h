@@ -14,8 +14,7 @@ class ScanWatch : public QObject {
     Q_OBJECT
 
 public:
-    ScanWatch(QString devicePath, QObject* parent);
-    ~ScanWatch() override;
+    ScanWatch(const QString& devicePath, QObject* parent);
 
     /// Waits until the scan has ended, or for so long. Throws Abandoned when this is destroyed.
     [[nodiscard]] QCoro::Task<> wait(std::chrono::milliseconds longest);
@@ -24,7 +23,6 @@ Q_SIGNALS:
     void ended();
 
 private:
-    QString m_devicePath;
     bool m_hasScanned = false;
 
 private Q_SLOTS:

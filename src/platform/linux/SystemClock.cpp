@@ -3,12 +3,12 @@
 
 #include "BootTimer.h"
 #include "Emission.h"
+#include "KernelClock.h"
 #include "Pause.h"
 
 #include <QLoggingCategory>
 #include <QSocketNotifier>
 
-#include <ctime>
 #include <sys/timerfd.h>
 #include <unistd.h>
 
@@ -21,16 +21,9 @@ Q_LOGGING_CATEGORY(logClock, "pellory.clock", QtInfoMsg)
 // A radio is not back at once when the computer has been suspended, and would be taken for one that is off.
 constexpr auto timeToWakeUp = 10s;
 
-std::chrono::seconds timeOf(clockid_t clock)
-{
-    timespec time{};
-    clock_gettime(clock, &time);
-    return std::chrono::seconds(time.tv_sec);
-}
-
 std::chrono::seconds timeSuspended()
 {
-    return timeOf(CLOCK_BOOTTIME) - timeOf(CLOCK_MONOTONIC);
+    return readKernelClock(CLOCK_BOOTTIME) - readKernelClock(CLOCK_MONOTONIC);
 }
 
 } // namespace
