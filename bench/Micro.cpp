@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AttendanceStatistics.h"
+#include "ContentView.h"
 #include "DesktopSystemSettings.h"
 #include "LocationManager.h"
-#include "MainWindow.h"
 #include "MonthView.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
@@ -83,7 +83,7 @@ void monthChange(benchmark::State& state)
     DesktopSystemSettings systemSettings;
     LocationManagerKey locationManager(authorization, systemSettings);
     const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient, locationManager};
-    MainWindow window(parts);
+    ContentView window(parts);
     window.show();
     QApplication::processEvents();
 

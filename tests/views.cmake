@@ -4,9 +4,9 @@ pellory_test(views
         support/FakeWiFiClient.h
         support/WindowTestMain.cpp
         views/CalendarViewTest.cpp
+        views/ContentViewTest.cpp
         views/DayClickTest.cpp
         views/HoverTest.cpp
-        views/MainWindowTest.cpp
         views/PagesTest.cpp
         views/ProgressBarTest.cpp
         views/ProgressWidgetViewTest.cpp

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "ContentView.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
 #include "LocationManager.h"
-#include "MainWindow.h"
 #include "MessageBoxAlerts.h"
 #include "ModelContainer.h"
 #include "NetworkManagerAuthorization.h"
@@ -70,10 +70,10 @@ int run()
     LocationManagerKey locationManager(authorization, systemSettings);
     const ViewParts parts{
         pellory.container().mainContext(), pellory.settings(), viewSettings, clock, wifiClient, locationManager};
-    MainWindow window(parts);
+    ContentView window(parts);
     PortalAppearance appearance;
     followColorScheme(appearance, settings);
-    QObject::connect(&window, &MainWindow::painted, &appearance, &Appearance::start);
+    QObject::connect(&window, &ContentView::painted, &appearance, &Appearance::start);
     window.show();
     return QApplication::exec();
 }

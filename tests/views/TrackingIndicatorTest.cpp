@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingIndicator.h"
-#include "MainWindow.h"
+#include "ContentView.h"
 #include "ViewTest.h"
 
 #include <QAccessible>
@@ -26,7 +26,7 @@ TEST_F(TrackingIndicatorTest, tellsWhetherDaysAreMarkedAndCouldBe)
         {true, true, 3, Symbol::Wifi, "Tracking On"},
     };
     EXPECT_CALL(authorization, start).Times(0); // nothing is asked before there is something to see
-    MainWindow window(parts);
+    ContentView window(parts);
     const auto* indicator = window.findChild<TrackingIndicator*>();
     EXPECT_EQ(indicator->toolTip(), u"Tracking Off"_s);
     auto* accessible = QAccessible::queryAccessibleInterface(window.findChild<TrackingIndicator*>());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "MainWindow.h"
+#include "ContentView.h"
 #include "CalendarView.h"
 #include "MarkedTextLabel.h"
 #include "MessageBoxAlerts.h"
@@ -12,9 +12,9 @@
 #include <QTabBar>
 #include <QTimer>
 
-class MainWindowTest : public ViewTest {};
+class ContentViewTest : public ViewTest {};
 
-TEST_F(MainWindowTest, settingsHaveTheirKeysAndAreStoredAtOnce)
+TEST_F(ContentViewTest, settingsHaveTheirKeysAndAreStoredAtOnce)
 {
     const std::pair<QString, QProperty<bool> ViewSettings::*> switches[]{
         {u"calendarViewShowProgressBars"_s, &ViewSettings::showProgressBars},
@@ -34,13 +34,13 @@ TEST_F(MainWindowTest, settingsHaveTheirKeysAndAreStoredAtOnce)
     EXPECT_EQ(viewSettings.selectedTab, 1);
 }
 
-TEST_F(MainWindowTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
+TEST_F(ContentViewTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
 {
     for (const auto& [before, isQuarter] : {std::pair(1, false), {2, true}, {0, false}, {-3, false}, {7, true}}) {
         SCOPED_TRACE(before);
         viewSettings.selectedTab = before;
-        MainWindow window(parts);
-        const QSignalSpy painted(&window, &MainWindow::painted);
+        ContentView window(parts);
+        const QSignalSpy painted(&window, &ContentView::painted);
         show(window);
         EXPECT_TRUE(eventually([&] { return painted.size() == 1; }));
         auto* tabs = window.findChild<QTabBar*>();
@@ -61,11 +61,11 @@ TEST_F(MainWindowTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
     }
 }
 
-TEST_F(MainWindowTest, whatDoesNotFitIsWrappedOrScrolledIntoSight)
+TEST_F(ContentViewTest, whatDoesNotFitIsWrappedOrScrolledIntoSight)
 {
     const QString wish = u"a wish that is much too long for a single line "_s.repeated(5) + QString(200, u'x');
     settings->daysPerWeekGoals.value().first()->desc = wish;
-    MainWindow window(parts);
+    ContentView window(parts);
     window.resize(540, 300);
     show(window);
     for (const auto* goal : window.findChildren<MarkedTextLabel*>(u"goal"_s)) {
@@ -82,10 +82,10 @@ TEST_F(MainWindowTest, whatDoesNotFitIsWrappedOrScrolledIntoSight)
     }
 }
 
-TEST_F(MainWindowTest, theMonthsStandSideBySideWhereThereIsRoom)
+TEST_F(ContentViewTest, theMonthsStandSideBySideWhereThereIsRoom)
 {
     viewSettings.selectedTab = 2;
-    MainWindow window(parts);
+    ContentView window(parts);
     show(window);
     const auto months = window.findChildren<CalendarView*>();
     const auto way = [&] { return inWindow(*months.last()) - inWindow(*months.first()); };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMainWindow>
+#include <QWidget>
 
 #include <array>
 
@@ -10,13 +10,13 @@ class QStackedWidget;
 class QTabBar;
 struct ViewParts;
 
-/// The window with the month and the quarter. Each of them is built when it is first shown.
-class MainWindow : public QMainWindow {
+/// The contents of the main window: the month and the quarter, each built when it is first shown.
+class ContentView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MainWindow(const ViewParts& parts);
-    ~MainWindow() override;
+    explicit ContentView(const ViewParts& parts, QWidget* parent = nullptr);
+    ~ContentView() override;
 
 Q_SIGNALS:
     /// The window has drawn its contents for the first time.

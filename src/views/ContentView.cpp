@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "MainWindow.h"
+#include "ContentView.h"
 
 #include "MonthView.h"
 #include "QuarterView.h"
@@ -42,33 +42,32 @@ protected:
 
 } // namespace
 
-MainWindow::MainWindow(const ViewParts& parts)
-    : m_parts(parts)
+ContentView::ContentView(const ViewParts& parts, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
     , m_tabs(new SegmentedTabs)
     , m_pages(new QStackedWidget)
 {
-    auto* content = new QWidget;
-    auto* column = new QVBoxLayout(content);
+    auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
     column->addWidget(makeHeader());
     column->addWidget(m_pages);
-    setCentralWidget(content);
     resize(firstSize);
 
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
-    connect(m_tabs, &QTabBar::currentChanged, this, &MainWindow::showTab);
+    connect(m_tabs, &QTabBar::currentChanged, this, &ContentView::showTab);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
 }
 
-MainWindow::~MainWindow()
+ContentView::~ContentView()
 {
-    // The focus moves on while the pages are taken down, when this is a main window no more.
+    // The focus moves on while the pages are taken down, when this is no more than a widget.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-QWidget* MainWindow::makeHeader()
+QWidget* ContentView::makeHeader()
 {
     m_tabs->setObjectName("tabs"_L1);
     m_tabs->setAccessibleName(tr("View"));
@@ -77,7 +76,7 @@ QWidget* MainWindow::makeHeader()
     auto* header = new Header;
     auto* indicator = new TrackingIndicator(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
     // What it asks the system can wait until there is something to see.
-    connect(this, &MainWindow::painted, indicator, &TrackingIndicator::startMonitoring);
+    connect(this, &ContentView::painted, indicator, &TrackingIndicator::startMonitoring);
     auto* row = new QGridLayout(header);
     row->setContentsMargins(32, 8, 32, 9);
     row->addWidget(indicator, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
@@ -88,7 +87,7 @@ QWidget* MainWindow::makeHeader()
     return header;
 }
 
-void MainWindow::showTab(int index)
+void ContentView::showTab(int index)
 {
     m_parts.viewSettings.selectedTab = index + firstTab;
     // A page that goes must not hand the focus, and with it a ring, to whatever comes first on the other.
@@ -102,7 +101,7 @@ void MainWindow::showTab(int index)
     m_pages->setCurrentWidget(page);
 }
 
-QScrollArea* MainWindow::makePage(int index)
+QScrollArea* ContentView::makePage(int index)
 {
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
@@ -116,7 +115,7 @@ QScrollArea* MainWindow::makePage(int index)
     return scroll;
 }
 
-void MainWindow::keepInSight(QWidget* focused)
+void ContentView::keepInSight(QWidget* focused)
 {
     auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
     // A page that moved under a pressed button would turn the click into a drag.
@@ -124,23 +123,23 @@ void MainWindow::keepInSight(QWidget* focused)
         page->ensureWidgetVisible(focused);
 }
 
-void MainWindow::keyPressEvent(QKeyEvent* event)
+void ContentView::keyPressEvent(QKeyEvent* event)
 {
     // The keys that turn the pages of the calendar mean the same wherever the focus is.
     auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
         QApplication::sendEvent(page->widget(), event);
     else
-        QMainWindow::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
 }
 
-bool MainWindow::event(QEvent* event)
+bool ContentView::event(QEvent* event)
 {
-    const bool handled = QMainWindow::event(event);
+    const bool handled = QWidget::event(event);
     if (event->type() == QEvent::Paint && !m_painted) {
         m_painted = true;
         // The children are drawn in the same turn of the event loop.
-        QMetaObject::invokeMethod(this, &MainWindow::painted, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ContentView::painted, Qt::QueuedConnection);
     }
     return handled;
 }
