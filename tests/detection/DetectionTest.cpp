@@ -36,7 +36,7 @@ protected:
         });
     }
     ~InOfficeTest() override { qInstallMessageHandler(nullptr); }
-    void post(const Notification& n) override { posted.append(n.title + u'|' + n.subtitle + u'|' + n.topic); }
+    void post(const Notification& n) override { days += n.day, posted += n.title + u'|' + n.subtitle + u'|' + n.topic; }
     bool checkNow(bool markPrevious = true)
     {
         auto task = check.check(markPrevious);
@@ -67,6 +67,7 @@ protected:
     AppSettings settings;
     InOfficeCheck check{{container, settings, client, *this, clock}};
     QStringList posted;
+    QList<QDate> days;
 };
 
 TEST_F(InOfficeTest, isWhereAWholeNameIsTheSameByItsCharacters)
@@ -132,6 +133,8 @@ TEST_F(InOfficeTest, isMarkedForTodayAndTheWorkdayBefore)
         expected += {today + u" IN_OFFICE"_s + dates.back(), before + u" OUT_OF_OFFICE "_s};
         expected.sort();
         EXPECT_EQ(marks(), expected);
+        EXPECT_EQ(days.takeFirst().toString(u"yyyy-M-d"), today);
+        EXPECT_EQ(days.takeFirst().toString(u"yyyy-M-d"), before);
         EXPECT_EQ(logged.mid(logged.size() - 2).join(u'|'),
                   u"Logged as in office on %1|Logged as out of office on %2"_s.arg(today, before));
     }

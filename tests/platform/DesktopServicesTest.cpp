@@ -61,6 +61,28 @@ TEST_F(FreedesktopNotifierTest, tellsTheServerWhatItCanShow)
     }
 }
 
+TEST_F(FreedesktopNotifierTest, leadsToTheDayOfANotificationOnScreen)
+{
+    QString opened;
+    QObject::connect(&notifier, &Notifier::activated, &notifier,
+                     [&](QDate day, const QString& token) { opened += day.toString(u"d"_s) + u'.' + token; });
+    server.startMock(u"notification_daemon"_s, u"{\"capabilities\": \"actions\"}"_s);
+    for (int number = 1; number <= 22; ++number) // more than are remembered
+        EXPECT_EQ(toldBy({{}, {}, {}, QDate(2026, 11, number)}).value(5), QStringList({u"default"_s, u"Open"_s}));
+    toldBy({}); // so the answers to the others have been read
+    for (const char* row :
+         {"ActionInvoked 1 default ", "ActionInvoked 99 default ", "ActivationToken 7 token ",
+          "ActionInvoked 8 default 8.", "ActionInvoked 9 settings ", "ActivationToken 9 token ",
+          "ActionInvoked 9 default 9.token", "NotificationClosed 10 2 ", "ActionInvoked 10 default "}) {
+        const QStringList parts = QString::fromLatin1(row).split(u' ');
+        const QVariant second = parts[0] == u"NotificationClosed"_s ? QVariant(2U) : parts[2];
+        const auto signature = second.typeId() == QMetaType::UInt ? u"uu"_s : u"us"_s;
+        server.tell("EmitSignal", server.name, parts[0], signature, QVariantList{parts[1].toUInt(), second});
+        QCoreApplication::processEvents();
+        EXPECT_EQ(std::exchange(opened, {}), parts[3]) << row;
+    }
+}
+
 TEST_F(FreedesktopNotifierTest, isShownByARealServer)
 {
     for (const QString& program : {u"dunst"_s, u"Xvfb"_s}) {

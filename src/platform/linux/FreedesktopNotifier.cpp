@@ -16,13 +16,15 @@ namespace {
 Q_LOGGING_CATEGORY(logNotifier, "pellory.notifier", QtInfoMsg)
 
 const auto service = u"org.freedesktop.Notifications"_s;
+const auto path = u"/org/freedesktop/Notifications"_s;
 const auto applicationId = u"io.github.pellory.Pellory"_s;
+const auto defaultAction = u"default"_s;
 constexpr int timeoutOfTheServer = -1;
 constexpr uchar urgencyNormal = 1;
 
 QDBusMessage callOf(const QString& method)
 {
-    return QDBusMessage::createMethodCall(service, u"/org/freedesktop/Notifications"_s, service, method);
+    return QDBusMessage::createMethodCall(service, path, service, method);
 }
 
 QVariantMap hints()
@@ -57,33 +59,58 @@ QCoro::Task<> FreedesktopNotifier::sendAll()
 
 QCoro::Task<> FreedesktopNotifier::send(Notification notification)
 {
+    followServer();
     try {
-        const bool isMarkup = co_await serverReadsMarkup();
+        const QStringList abilities = co_await abilitiesOfTheServer();
+        const bool isMarkup = abilities.contains("body-markup"_L1);
         const QString body = isMarkup ? notification.subtitle.toHtmlEscaped() : notification.subtitle;
+        QStringList actions;
+        if (abilities.contains("actions"_L1))
+            actions << defaultAction << tr("Open");
         auto call = callOf(u"Notify"_s);
         call << u"Pellory"_s << m_numbers.value(notification.topic) << applicationId << notification.title << body
-             << QStringList() << hints() << timeoutOfTheServer;
+             << actions << hints() << timeoutOfTheServer;
         const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call);
-        if (!notification.topic.isEmpty()) {
-            forgetWithServer();
-            m_numbers.insert(notification.topic, reply.arguments().value(0).toUInt());
-        }
+        const auto number = reply.arguments().value(0).toUInt();
+        if (!notification.topic.isEmpty())
+            m_numbers.insert(notification.topic, number);
+        m_days.insert(number, notification.day);
+        if (m_days.size() > 20) // some servers never tell that one has gone
+            m_days.erase(m_days.begin());
     } catch (const BusError& error) {
         qCDebug(logNotifier, "Could not notify: %s", error.what());
     }
 }
 
-QCoro::Task<bool> FreedesktopNotifier::serverReadsMarkup()
+QCoro::Task<QStringList> FreedesktopNotifier::abilitiesOfTheServer()
 {
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s));
-    co_return reply.arguments().value(0).toStringList().contains("body-markup"_L1);
+    if (!m_abilities) {
+        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s));
+        m_abilities = reply.arguments().value(0).toStringList();
+    }
+    co_return std::as_const(*m_abilities); // which the task would take away otherwise
 }
 
-// The numbers of a server mean nothing to the next one: there they may be those of another program.
-void FreedesktopNotifier::forgetWithServer()
+void FreedesktopNotifier::followServer()
 {
     if (m_serverWatcher)
         return;
-    m_serverWatcher = std::make_unique<QDBusServiceWatcher>(service, QDBusConnection::sessionBus());
-    connect(m_serverWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this, [this] { m_numbers.clear(); });
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    m_serverWatcher = std::make_unique<QDBusServiceWatcher>(service, bus);
+    // The numbers of a server mean nothing to the next one: there they may be those of another program.
+    connect(m_serverWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
+        m_abilities.reset();
+        m_numbers.clear();
+        m_days.clear();
+    });
+    bus.connect(service, path, service, u"ActivationToken"_s, this, SLOT(handleActivationToken(uint, QString)));
+    bus.connect(service, path, service, u"ActionInvoked"_s, this, SLOT(handleActionInvoked(uint, QString)));
+    bus.connect(service, path, service, u"NotificationClosed"_s, this, SLOT(handleNotificationClosed(uint)));
+}
+
+void FreedesktopNotifier::handleActionInvoked(uint number, const QString& action)
+{
+    const auto [numberOfToken, token] = std::exchange(m_token, {});
+    if (m_days.contains(number) && action == defaultAction)
+        Q_EMIT activated(m_days.value(number), numberOfToken == number ? token : QString());
 }
