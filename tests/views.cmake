@@ -23,7 +23,7 @@ pellory_test(platform
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
 )
 pellory_test(network
-    SOURCES platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
+    SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
 )
 target_compile_definitions(network_test PRIVATE

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtGlobal>
+
+/// What makes the session start this program when the person logs in.
+class LoginItem {
+public:
+    LoginItem() = default;
+    virtual ~LoginItem() = default;
+    Q_DISABLE_COPY_MOVE(LoginItem)
+
+    /// As it is now: others can change it at any time.
+    [[nodiscard]] virtual bool isEnabled() const = 0;
+    /// Both throw a PlatformError.
+    virtual void registerItem() = 0;
+    virtual void unregisterItem() = 0;
+};

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AutostartEntry.h"
+
+#include "PlatformError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Two rules, one on top of the other: that of a quoted argument, then that of every string in such a file.
+QString quoted(QString argument)
+{
+    for (const QChar special : uR"(\"`$)"_s)
+        argument.replace(special, u'\\' + QString(special));
+    argument.replace(u'%', "%%"_L1);
+    argument.replace(u'\\', uR"(\\)"_s).replace(u'\n', uR"(\n)"_s);
+    return u'"' + argument + u'"';
+}
+
+bool makeFolder(const QString& path)
+{
+    return QDir(path).exists() || (makeFolder(QFileInfo(path).path()) &&
+                                   QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+}
+
+} // namespace
+
+bool AutostartEntry::isEnabled() const
+{
+    QFile file(m_path);
+    if (!file.open(QFile::ReadOnly))
+        return false;
+    bool isInGroup = false, isThere = false;
+    for (const QByteArray& text : file.readAll().split('\n')) {
+        const QByteArray line = text.simplified().replace(" =", "=").replace("= ", "=");
+        if (line.startsWith('['))
+            isInGroup = line == "[Desktop Entry]";
+        else if (isInGroup && (line == "Hidden=true" || line == "X-GNOME-Autostart-enabled=false"))
+            return false;
+        isThere = isThere || isInGroup;
+    }
+    return isThere;
+}
+
+void AutostartEntry::registerItem()
+{
+    if (!makeFolder(m_folder))
+        throw PlatformError(qt_error_string());
+    const QString entry = u"[Desktop Entry]\nType=Application\nName=Pellory\nIcon=io.github.pellory.Pellory\n"
+                          "Exec=%1 --at-login\nTerminal=false\nStartupNotify=false\n"_s.arg(quoted(m_program));
+    QSaveFile file(m_path);
+    if (!file.open(QFile::WriteOnly) || file.write(entry.toUtf8()) < 0 || !file.commit())
+        throw PlatformError(file.errorString());
+}
+
+void AutostartEntry::unregisterItem()
+{
+    if (unlink(QFile::encodeName(m_path).constData()) != 0 && errno != ENOENT)
+        throw PlatformError(qt_error_string());
+}
