@@ -2,9 +2,13 @@
 #include "AutostartEntry.h"
 #include "LaunchAtLogin.h"
 #include "PrivateBuses.h"
+#include "SingleInstance.h"
 
 #include <QFileInfo>
 #include <QSignalSpy>
+
+using namespace std::chrono_literals;
+using Claim = SingleInstance::Claim;
 
 TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
 {
@@ -40,4 +44,44 @@ TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "pellory.login: Failed to enable launch at login: File exists\n"
               "pellory.login: Failed to disable launch at login: Not a directory\n");
+}
+
+TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
+{
+    qputenv("XDG_ACTIVATION_TOKEN", "token");
+    qunsetenv("DESKTOP_STARTUP_ID");
+    const auto interface = u"org.freedesktop.Application"_s;
+    PlayedService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
+    const std::tuple<const char*, bool, Claim> rows[]{
+        {"raise ValueError", false, Claim::HandedOver},
+        {"assert args[0] == {'activation-token': 'token'}", true, Claim::HandedOver},
+        {"raise ValueError", true, Claim::Refused},
+        {"import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", true, Claim::Refused},
+        {"import os; os._exit(1)", true, Claim::Owned}};
+    for (const auto& [code, isToBeShown, outcome] : rows) {
+        first.startMock({first.name, first.path, interface});
+        first.tell("AddMethod", interface, u"Activate"_s, u"a{sv}"_s, QString(), QString::fromLatin1(code));
+        EXPECT_EQ(SingleInstance(200ms).claim(isToBeShown), outcome) << code;
+        first.bus.unregisterService(first.name);
+        first.stop();
+    }
+    SingleInstance instance;
+    EXPECT_EQ(instance.claim(true), Claim::Owned);
+    QSignalSpy activated(&instance, &SingleInstance::activated);
+    const auto bus = QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"other"_s);
+    const QVariantMap id{{u"desktop-startup-id"_s, u"id"_s}};
+    const QVariantMap both{{u"desktop-startup-id"_s, u"id"_s}, {u"activation-token"_s, u"token"_s}};
+    const std::tuple<QString, QVariantList, QString> calls[]{
+        {u"Activate"_s, {QVariantMap()}, {}},
+        {u"Open"_s, {QStringList(), id}, u"id"_s},
+        {u"ActivateAction"_s, {u"show"_s, QVariantList(), both}, u"token"_s}};
+    for (const auto& [method, arguments, token] : calls) {
+        auto call = QDBusMessage::createMethodCall(first.name, first.path, interface, method);
+        call.setArguments(arguments);
+        const auto answer = bus.asyncCall(call);
+        EXPECT_TRUE(eventually([&] { return answer.isFinished(); }) && !answer.isError() && activated.size() == 1);
+        EXPECT_EQ(activated.takeFirst().value(0).toString(), token);
+    }
+    QDBusConnection::disconnectFromBus(u"other"_s);
+    first.bus.unregisterService(first.name);
 }

@@ -58,8 +58,11 @@ struct PlayedService {
     }
     void startMock(const QString& file, const QString& options = u"{}"_s)
     {
-        start(u"/usr/bin/python3"_s,
-              u"-m dbusmock -l /dev/null -p"_s.split(u' ') + QStringList{options, u"-t"_s, file});
+        startMock({u"-p"_s, options, u"-t"_s, file});
+    }
+    void startMock(const QStringList& arguments)
+    {
+        start(u"/usr/bin/python3"_s, u"-m dbusmock -l /dev/null"_s.split(u' ') + arguments);
     }
     void stop()
     {

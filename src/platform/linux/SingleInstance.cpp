@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SingleInstance.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto service = u"io.github.pellory.Pellory"_s;
+const auto path = u"/io/github/pellory/Pellory"_s;
+const auto tokenKey = u"activation-token"_s;
+const auto startupIdKey = u"desktop-startup-id"_s;
+
+} // namespace
+
+SingleInstance::SingleInstance(std::chrono::milliseconds patience)
+    : m_patience(static_cast<int>(patience.count()))
+{
+    if (qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
+        m_platformData.insert(tokenKey, qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
+    if (qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"))
+        m_platformData.insert(startupIdKey, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
+}
+
+SingleInstance::Claim SingleInstance::claim(bool isToBeShown, QDBusConnection bus)
+{
+    // Before the name, so that nobody finds the name without an object behind it.
+    if (!bus.isConnected() || !bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots))
+        return claimLock();
+    auto activate = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.Application"_s, u"Activate"_s);
+    activate << m_platformData;
+    activate.setAutoStartService(false);
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        const auto name = bus.interface()->registerService(service, QDBusConnectionInterface::DontQueueService);
+        if (!name.isValid()) // a bus on which this program may have no name
+            return claimLock();
+        if (name == QDBusConnectionInterface::ServiceRegistered)
+            return Claim::Owned;
+        const QString owner = bus.interface()->serviceOwner(service);
+        if (!isToBeShown || bus.call(activate, QDBus::Block, m_patience).type() == QDBusMessage::ReplyMessage)
+            return Claim::HandedOver;
+        // One that has died without an answer is no longer the owner.
+        if (!owner.isEmpty() && bus.interface()->serviceOwner(service) == owner)
+            break;
+    }
+    return Claim::Refused;
+}
+
+// For a session without a bus. No age makes a lock invalid, only the death of its owner.
+SingleInstance::Claim SingleInstance::claimLock()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    m_lock.emplace(folder + u"/pellory.lock"_s);
+    m_lock->setStaleLockTime(0);
+    return m_lock->tryLock() ? Claim::Owned : Claim::Refused;
+}
+
+void SingleInstance::Activate(const QVariantMap& data)
+{
+    Q_EMIT activated(data.value(tokenKey, data.value(startupIdKey)).toString());
+}
