@@ -3,7 +3,9 @@
 #include "LaunchAtLogin.h"
 #include "PrivateBuses.h"
 #include "SingleInstance.h"
+#include "StatusNotifierHost.h"
 
+#include <QDBusPendingCallWatcher>
 #include <QFileInfo>
 #include <QSignalSpy>
 
@@ -84,4 +86,28 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
     }
     QDBusConnection::disconnectFromBus(u"other"_s);
     first.bus.unregisterService(first.name);
+}
+
+TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsOne)
+{
+    const auto property = u"IsStatusNotifierHostRegistered"_s, name = u"org.kde.StatusNotifierWatcher"_s;
+    PlayedService watcher{QDBusConnection::sessionBus(), name, u"/StatusNotifierWatcher"_s};
+    StatusNotifierHost host;
+    QString told;
+    QObject::connect(&host, &TrayHost::appeared, &host, [&] { told += u'+'; });
+    QObject::connect(&host, &TrayHost::gone, &host, [&] { told += u'-'; });
+    host.start();
+    watcher.startMock({name, watcher.path, name});
+    watcher.tell("AddProperty", name, property, QDBusVariant(false));
+    for (const char* row :
+         {"0 Registered ", "1 Registered +", "1 Unregistered ", "0 Unregistered -", "1 Registered +"}) {
+        const QStringList parts = QString::fromLatin1(row).split(u' ');
+        watcher.tell("UpdateProperties", name, QVariantMap{{property, parts[0] == u"1"_s}});
+        watcher.tell("EmitSignal", name, u"StatusNotifierHost"_s + parts[1], QString(), QVariantList());
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(eventually([&] { return host.findChild<QDBusPendingCallWatcher*>() == nullptr; }));
+        EXPECT_EQ(std::exchange(told, {}), parts[2]) << row;
+    }
+    watcher.stop();
+    EXPECT_TRUE(eventually([&] { return told == u'-'; }));
 }
