@@ -2,10 +2,12 @@
 #include "AutostartEntry.h"
 #include "LaunchAtLogin.h"
 #include "PrivateBuses.h"
+#include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusNotifierHost.h"
 
 #include <QDBusPendingCallWatcher>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QSignalSpy>
 
@@ -50,6 +52,9 @@ TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
 
 TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
 {
+    const QTemporaryDir folder;
+    const QDBusConnection noBus(u"none"_s);
+    qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
     qputenv("XDG_ACTIVATION_TOKEN", "token");
     qunsetenv("DESKTOP_STARTUP_ID");
     const auto interface = u"org.freedesktop.Application"_s;
@@ -86,6 +91,23 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
     }
     QDBusConnection::disconnectFromBus(u"other"_s);
     first.bus.unregisterService(first.name);
+    EXPECT_EQ(instance.claim(true, noBus), Claim::Owned);
+    QFile lock(folder.filePath(u"pellory.lock"_s));
+    EXPECT_TRUE(lock.open(QFile::ReadWrite) &&
+                lock.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFile::FileModificationTime));
+    EXPECT_EQ(SingleInstance().claim(true, noBus), Claim::Refused) << "of whatever age the lock is";
+}
+
+TEST(QuitSignalsTest, areHeardOfAndAreTheSystemsOwnAfterwards)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        auto signals = std::make_unique<QuitSignals>();
+        QSignalSpy requested(signals.get(), &QuitSignals::requested);
+        raise(signal);
+        EXPECT_TRUE(eventually([&] { return requested.size() == 1; })) << signal;
+        signals.reset();
+        EXPECT_EQ(std::signal(signal, SIG_DFL), SIG_DFL) << signal;
+    }
 }
 
 TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsOne)
