@@ -19,6 +19,11 @@ public:
     /// The goals that a new record starts with: built once per process and shared by every new record.
     [[nodiscard]] static const Goals& defaultGoals();
 
+    /// Adds a goal without a description and sorts all goals by value. False, and nothing is changed, when the text is
+    /// none that a Goal is created with; a goal that is in the list already is not added again.
+    [[nodiscard]] bool addGoal(const QString& daysPerWeek);
+    void removeGoal(const Goal& goal);
+
     QProperty<Goals> daysPerWeekGoals{defaultGoals()};
     /// Names of the Wi-Fi networks that stand for the office, as they were found or typed.
     QProperty<QStringList> inOfficeSsids;
