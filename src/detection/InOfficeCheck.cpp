@@ -47,6 +47,15 @@ QCoro::Task<> InOfficeCheck::run()
     }
 }
 
+QCoro::Task<> InOfficeCheck::checkOnce(bool markPreviousWorkday)
+{
+    try {
+        co_await check(markPreviousWorkday);
+    } catch (const Abandoned&) {
+        // The program ends, and this with it.
+    }
+}
+
 QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
 {
     try {
@@ -72,6 +81,7 @@ QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
         qCDebug(logDetection, "Skipping in office wifi checking, inside app first time setup");
         co_return false;
     }
+    lastCheck = m_parts.clock.now();
     InOfficeDetector detector(m_parts.wifiClient);
     const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
     qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
@@ -92,6 +102,7 @@ QCoro::Task<> InOfficeCheck::sleep()
 {
     const std::chrono::seconds duration = std::max(checkInterval(m_parts.settings), shortestSleep);
     qCDebug(logDetection, "Sleeping for %lld seconds", qint64(duration.count()));
+    nextCheck = m_parts.clock.now().addDuration(duration);
     const bool failedBefore = m_lastSleepFailed;
     const bool isDone = co_await isSleepDone(duration);
     m_lastSleepFailed = !isDone;

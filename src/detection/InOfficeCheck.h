@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDateTime>
+#include <QProperty>
+
 #include <QCoroTask>
 
 #include <chrono>
@@ -42,8 +45,17 @@ public:
     /// Abandoned is thrown.
     QCoro::Task<bool> check(bool markPreviousWorkday);
 
+    /// Begins one check, for which nobody waits.
+    void checkNow(bool markPreviousWorkday) { checkOnce(markPreviousWorkday); }
+
+    /// When the last check looked for networks that was not skipped, and when the next one is due by itself. Invalid
+    /// where there is none.
+    QProperty<QDateTime> lastCheck;
+    QProperty<QDateTime> nextCheck;
+
 private:
     QCoro::Task<> run();
+    QCoro::Task<> checkOnce(bool markPreviousWorkday);
     QCoro::Task<bool> detectAndUpdate(bool markPreviousWorkday);
     void report(const char* failure);
     QCoro::Task<> sleep();
