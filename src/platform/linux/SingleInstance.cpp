@@ -26,6 +26,11 @@ SingleInstance::SingleInstance(std::chrono::milliseconds patience)
         m_platformData.insert(startupIdKey, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
 }
 
+SingleInstance::Claim SingleInstance::claim(bool isToBeShown)
+{
+    return claim(isToBeShown, QDBusConnection::sessionBus());
+}
+
 SingleInstance::Claim SingleInstance::claim(bool isToBeShown, QDBusConnection bus)
 {
     // Before the name, so that nobody finds the name without an object behind it.

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDBusConnection>
 #include <QLockFile>
 #include <QObject>
 #include <QVariantMap>
 
 #include <chrono>
 #include <optional>
+
+class QDBusConnection;
 
 /// Sees to it that a session runs this program once (org.freedesktop.Application on the session bus).
 class SingleInstance : public QObject {
@@ -21,7 +22,8 @@ public:
     explicit SingleInstance(std::chrono::milliseconds patience = std::chrono::seconds(5));
 
     /// Becomes the one instance or hands over to the one that is there; refused when that is to be shown and is deaf.
-    [[nodiscard]] Claim claim(bool isToBeShown, QDBusConnection bus = QDBusConnection::sessionBus());
+    [[nodiscard]] Claim claim(bool isToBeShown);
+    [[nodiscard]] Claim claim(bool isToBeShown, QDBusConnection bus);
 
     // NOLINTBEGIN(readability-identifier-naming): the names of the interface
     Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& data);
