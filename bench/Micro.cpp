@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AttendanceStatistics.h"
+#include "AutostartEntry.h"
 #include "ContentView.h"
 #include "DesktopSystemSettings.h"
+#include "FreedesktopNotifier.h"
+#include "InOfficeCheck.h"
+#include "LaunchAtLogin.h"
 #include "LocationManager.h"
 #include "MonthView.h"
 #include "NetworkManagerAuthorization.h"
@@ -82,7 +86,12 @@ void monthChange(benchmark::State& state)
     NetworkManagerAuthorization authorization;
     DesktopSystemSettings systemSettings;
     LocationManagerKey locationManager(authorization, systemSettings);
-    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient, locationManager};
+    FreedesktopNotifier notifier;
+    InOfficeCheck check({*container, appSettings, wifiClient, notifier, clock});
+    AutostartEntry loginItem(folder.path(), {});
+    LaunchAtLogin launchAtLogin(loginItem);
+    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient,
+                          locationManager,          check,       launchAtLogin};
     ContentView window(parts);
     window.show();
     QApplication::processEvents();

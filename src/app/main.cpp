@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
-#include "ContentView.h"
+#include "AutostartEntry.h"
+#include "Background.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
+#include "LaunchAtLogin.h"
 #include "LocationManager.h"
 #include "MessageBoxAlerts.h"
 #include "ModelContainer.h"
+#include "ModelContext.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
 #include "PelloryApp.h"
 #include "PortalAppearance.h"
+#include "QuitSignals.h"
+#include "SingleInstance.h"
+#include "StatusNotifierHost.h"
 #include "SystemClock.h"
 #include "Theme.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
+#include "Windows.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -49,33 +56,84 @@ void followColorScheme(Appearance& appearance, QSettings& settings)
     });
 }
 
-int run()
+// What the program knows of the computer that it runs on.
+struct Computer {
+    QuitSignals quitSignals;
+    SystemClock clock;
+    NetworkManagerWiFiClient wifiClient;
+    FreedesktopNotifier notifier;
+    NetworkManagerAuthorization authorization;
+    DesktopSystemSettings systemSettings;
+    AutostartEntry loginItem{QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                             QApplication::applicationFilePath()};
+    PortalAppearance appearance;
+    StatusNotifierHost trayHost;
+};
+
+// Not quit(), which closes the windows first and lets each of them have its say.
+void quit()
 {
+    QCoreApplication::exit();
+}
+
+int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, bool isAtLogin)
+{
+    Computer computer;
+    InOfficeCheck check(
+        {pellory.container(), pellory.settings(), computer.wifiClient, computer.notifier, computer.clock});
+    QMetaObject::invokeMethod(
+        &computer.clock, [&check] { check.start(); }, Qt::QueuedConnection);
+
+    ViewSettings viewSettings(settings);
+    LocationManagerKey locationManager(computer.authorization, computer.systemSettings);
+    LaunchAtLogin launchAtLogin(computer.loginItem);
+    ModelContext& context = pellory.container().mainContext();
+    const ViewParts parts{context,        pellory.settings(),  viewSettings,
+                          computer.clock, computer.wifiClient, locationManager,
+                          check,          launchAtLogin};
+    Windows windows(parts);
+    Background background(parts, windows, computer.notifier, computer.trayHost, settings);
+    followColorScheme(computer.appearance, settings);
+
+    QObject::connect(&instance, &SingleInstance::activated, &windows, &Windows::openMain);
+    QObject::connect(&computer.quitSignals, &QuitSignals::requested, &windows, quit);
+    QObject::connect(&background, &Background::quitRequested, &windows, quit);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &windows, [&context] { context.save(); });
+    QObject::connect(&computer.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
+        alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
+    });
+    if (isAtLogin) {
+        computer.trayHost.start();
+    } else {
+        // What is asked of the desktop can wait until there is something to see.
+        QObject::connect(&windows, &Windows::mainPainted, &computer.trayHost, &TrayHost::start);
+        windows.openMain();
+    }
+    QObject::connect(&windows, &Windows::mainPainted, &computer.appearance, &Appearance::start);
+    return QApplication::exec();
+}
+
+int run(SingleInstance& instance)
+{
+    const bool isAtLogin = QApplication::arguments().contains("--at-login"_L1);
     installAccessibleRoles();
     QSettings settings;
     wearLastScheme(settings);
     MessageBoxAlerts alerts;
+    // Before anything touches the store: two programs would each hold their own copies of the records.
+    switch (instance.claim(!isAtLogin)) {
+    case SingleInstance::Claim::Owned:
+        break;
+    case SingleInstance::Claim::HandedOver:
+        return EXIT_SUCCESS;
+    case SingleInstance::Claim::Refused:
+        alerts.showCritical(
+            QApplication::translate("main", "Pellory is running already"),
+            QApplication::translate("main", "It does not answer. End it, or log out and in again, and start anew."));
+        throw FatalStop(u"Pellory is running already and does not answer"_s);
+    }
     PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
-
-    SystemClock clock;
-    NetworkManagerWiFiClient wifiClient;
-    FreedesktopNotifier notifier;
-    InOfficeCheck check({pellory.container(), pellory.settings(), wifiClient, notifier, clock});
-    QMetaObject::invokeMethod(
-        &clock, [&check] { check.start(); }, Qt::QueuedConnection);
-
-    ViewSettings viewSettings(settings);
-    NetworkManagerAuthorization authorization;
-    DesktopSystemSettings systemSettings;
-    LocationManagerKey locationManager(authorization, systemSettings);
-    const ViewParts parts{
-        pellory.container().mainContext(), pellory.settings(), viewSettings, clock, wifiClient, locationManager};
-    ContentView window(parts);
-    PortalAppearance appearance;
-    followColorScheme(appearance, settings);
-    QObject::connect(&window, &ContentView::painted, &appearance, &Appearance::start);
-    window.show();
-    return QApplication::exec();
+    return work(pellory, settings, alerts, instance, isAtLogin);
 }
 
 } // namespace
@@ -83,14 +141,16 @@ int run()
 int main(int argc, char* argv[])
 {
     logToJournalIfPresent();
+    SingleInstance instance;
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
     QApplication::setOrganizationName(u"Pellory"_s);
     QApplication::setApplicationName(u"Pellory"_s);
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
     try {
-        return run();
+        return run(instance);
     } catch (const FatalStop& stop) {
         // Something that the person can mend ends the program without a core dump.
         qCritical("%s", stop.what());

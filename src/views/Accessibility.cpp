@@ -4,16 +4,25 @@
 #include <QAccessibleWidget>
 #include <QWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// What is painted here, and is no control that the toolkit knows.
+constexpr std::pair<QLatin1StringView, QAccessible::Role> roles[]{
+    {"MarkedProgressBar"_L1, QAccessible::Graphic},  {"StepDots"_L1, QAccessible::Graphic},
+    {"CalendarView"_L1, QAccessible::Grouping},      {"KeyCap"_L1, QAccessible::StaticText},
+    {"LocationAlert"_L1, QAccessible::AlertMessage},
+};
+
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    if (className == "MarkedProgressBar"_L1 || className == "TrackingIndicator"_L1)
-        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
-    if (className == "CalendarView"_L1)
-        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
+    for (const auto& [name, role] : roles) {
+        if (className == name)
+            return new QAccessibleWidget(static_cast<QWidget*>(object), role);
+    }
     return nullptr;
 }
 

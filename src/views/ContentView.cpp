@@ -1,20 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ContentView.h"
 
+#include "Bar.h"
+#include "IconButton.h"
+#include "LocationAlert.h"
 #include "MonthView.h"
+#include "Page.h"
 #include "QuarterView.h"
 #include "SegmentedTabs.h"
-#include "Theme.h"
 #include "TrackingIndicator.h"
+#include "TrackingStatus.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
+#include "WindowId.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QScrollArea>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -24,27 +28,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize firstSize(534, 860);
-
 // The stored number of the first tab.
 constexpr int firstTab = 1;
-
-class Header : public QWidget {
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        const Theme& theme = themeFor(palette());
-        QPainter painter(this);
-        painter.fillRect(rect(), theme.card);
-        painter.fillRect(0, height() - 1, width(), 1, theme.border);
-    }
-};
 
 } // namespace
 
 ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
+    , m_status(new TrackingStatus(parts, this))
     , m_tabs(new SegmentedTabs)
     , m_pages(new QStackedWidget)
 {
@@ -52,8 +44,11 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     column->setContentsMargins({});
     column->setSpacing(0);
     column->addWidget(makeHeader());
+    column->addWidget(new LocationAlert(parts, *m_status));
     column->addWidget(m_pages);
-    resize(firstSize);
+    addShortcuts();
+    // What is asked of the system can wait until there is something to see.
+    connect(this, &ContentView::painted, m_status, &TrackingStatus::startMonitoring);
 
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
@@ -73,18 +68,61 @@ QWidget* ContentView::makeHeader()
     m_tabs->setAccessibleName(tr("View"));
     m_tabs->addTab(tr("Month"));
     m_tabs->addTab(tr("Quarter"));
-    auto* header = new Header;
-    auto* indicator = new TrackingIndicator(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
-    // What it asks the system can wait until there is something to see.
-    connect(this, &ContentView::painted, indicator, &TrackingIndicator::startMonitoring);
+    auto* header = new Bar(Qt::BottomEdge);
+    auto* toolbar = new QHBoxLayout;
     auto* row = new QGridLayout(header);
-    row->setContentsMargins(32, 8, 32, 9);
-    row->addWidget(indicator, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    row->setContentsMargins(24, 8, 24, 9);
+    row->addWidget(new TrackingIndicator(m_parts, *m_status), 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     row->addWidget(m_tabs, 0, 1);
+    addToolbar(*toolbar);
+    row->addLayout(toolbar, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
     // The tabs stand in the middle of the window, whatever is beside them.
     row->setColumnStretch(0, 1);
     row->setColumnStretch(2, 1);
     return header;
+}
+
+void ContentView::addToolbar(QHBoxLayout& row)
+{
+    const auto add = [&](Symbol symbol, const QString& text, WindowId id) {
+        auto* button = new IconButton(symbol, text);
+        connect(button, &QAbstractButton::clicked, this, [this, id] { Q_EMIT windowRequested(id); });
+        row.addWidget(button);
+    };
+    row.setSpacing(8);
+    add(Symbol::DocumentGear, tr("Calendar View Settings"), WindowId::calendarViewSettings);
+    add(Symbol::Gear, tr("Settings"), WindowId::settings);
+    add(Symbol::Question, tr("Help"), WindowId::help);
+}
+
+void ContentView::addShortcuts()
+{
+    for (int tab = 0; tab < m_tabs->count(); ++tab) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + tab)), this);
+        connect(shortcut, &QShortcut::activated, m_tabs, [this, tab] { m_tabs->setCurrentIndex(tab); });
+    }
+    const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
+    const std::pair<Qt::Key, Qt::Key> ways[]{{isLeftToRight ? Qt::Key_Left : Qt::Key_Right, Qt::Key_PageUp},
+                                             {isLeftToRight ? Qt::Key_Right : Qt::Key_Left, Qt::Key_PageDown}};
+    for (const auto& [arrow, key] : ways) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | arrow), this);
+        connect(shortcut, &QShortcut::activated, this, [this, key = key] { turnPage(key); });
+    }
+}
+
+void ContentView::turnPage(Qt::Key key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    keyPressEvent(&event);
+}
+
+void ContentView::showDay(QDate date)
+{
+    auto* page = static_cast<Page*>(m_pages->currentWidget())->widget();
+    if (auto* month = qobject_cast<MonthView*>(page))
+        month->showDay(date);
+    else if (auto* quarter = qobject_cast<QuarterView*>(page))
+        quarter->showDay(date);
 }
 
 void ContentView::showTab(int index)
@@ -93,7 +131,7 @@ void ContentView::showTab(int index)
     // A page that goes must not hand the focus, and with it a ring, to whatever comes first on the other.
     if (m_pages->isAncestorOf(focusWidget()))
         m_tabs->setFocus(Qt::OtherFocusReason);
-    QScrollArea*& page = m_built.at(static_cast<std::size_t>(index));
+    Page*& page = m_built.at(static_cast<std::size_t>(index));
     if (page == nullptr) {
         page = makePage(index);
         m_pages->addWidget(page);
@@ -101,23 +139,16 @@ void ContentView::showTab(int index)
     m_pages->setCurrentWidget(page);
 }
 
-QScrollArea* ContentView::makePage(int index)
+Page* ContentView::makePage(int index)
 {
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
     if (index == 0)
-        scroll->setWidget(new MonthView(m_parts));
-    else
-        scroll->setWidget(new QuarterView(m_parts));
-    // The keys go to the days, and the view passes on those that it has no use for.
-    scroll->setFocusPolicy(Qt::NoFocus);
-    return scroll;
+        return new Page(new MonthView(m_parts));
+    return new Page(new QuarterView(m_parts));
 }
 
 void ContentView::keepInSight(QWidget* focused)
 {
-    auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
+    auto* page = static_cast<Page*>(m_pages->currentWidget());
     // A page that moved under a pressed button would turn the click into a drag.
     if (page->isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
         page->ensureWidgetVisible(focused);
@@ -126,7 +157,7 @@ void ContentView::keepInSight(QWidget* focused)
 void ContentView::keyPressEvent(QKeyEvent* event)
 {
     // The keys that turn the pages of the calendar mean the same wherever the focus is.
-    auto* page = static_cast<QScrollArea*>(m_pages->currentWidget());
+    auto* page = static_cast<Page*>(m_pages->currentWidget());
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
         QApplication::sendEvent(page->widget(), event);
     else

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDate>
 #include <QWidget>
 
 #include <array>
 
-class QScrollArea;
+class QHBoxLayout;
+class Page;
 class QStackedWidget;
 class QTabBar;
+class TrackingStatus;
 struct ViewParts;
+enum class WindowId;
 
 /// The contents of the main window: the month and the quarter, each built when it is first shown.
 class ContentView : public QWidget {
@@ -18,7 +22,12 @@ public:
     explicit ContentView(const ViewParts& parts, QWidget* parent = nullptr);
     ~ContentView() override;
 
+    /// Shows a day, in the tab that is shown, and gives it the focus.
+    void showDay(QDate date);
+
 Q_SIGNALS:
+    /// A button of the toolbar wants another window.
+    void windowRequested(WindowId id);
     /// The window has drawn its contents for the first time.
     void painted();
 
@@ -28,13 +37,17 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeHeader();
+    void addToolbar(QHBoxLayout& row);
+    void addShortcuts();
+    void turnPage(Qt::Key key);
     void showTab(int index);
-    [[nodiscard]] QScrollArea* makePage(int index);
+    [[nodiscard]] Page* makePage(int index);
     void keepInSight(QWidget* focused);
 
     const ViewParts& m_parts;
+    TrackingStatus* m_status;
     QTabBar* m_tabs;
     QStackedWidget* m_pages;
-    std::array<QScrollArea*, 2> m_built{};
+    std::array<Page*, 2> m_built{};
     bool m_painted = false;
 };

@@ -22,6 +22,8 @@ public:
     explicit MonthView(const ViewParts& parts, QWidget* parent = nullptr);
 
     void showMonth(const YearMonth& period);
+    /// Gives a day the focus. One outside the calendar is passed over.
+    void showDay(QDate date);
     [[nodiscard]] YearMonth period() const { return m_period; }
 
 protected:
@@ -30,7 +32,6 @@ protected:
 private:
     void build();
     void turnTo(const std::optional<YearMonth>& period);
-    void showDay(QDate date);
     void refresh();
 
     const ViewParts& m_parts;

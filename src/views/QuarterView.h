@@ -22,6 +22,8 @@ public:
     explicit QuarterView(const ViewParts& parts, QWidget* parent = nullptr);
 
     void showQuarter(const YearQuarter& quarter);
+    /// Gives a day the focus. One outside the calendar is passed over.
+    void showDay(QDate date);
     [[nodiscard]] YearQuarter quarter() const { return m_quarter; }
 
     /// As narrow as one month, also while three stand side by side: else they would never go back below each other.
@@ -33,7 +35,6 @@ protected:
 
 private:
     void turnTo(const std::optional<YearQuarter>& quarter);
-    void showDay(QDate date);
     void refresh();
 
     const ViewParts& m_parts;

@@ -5,6 +5,7 @@
 #include "Theme.h"
 
 #include <QPainter>
+#include <QWheelEvent>
 
 namespace {
 
@@ -72,4 +73,9 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         painter.setFont(isCurrent ? chosenFont(*this) : font());
         painter.drawText(segment, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
     }
+}
+
+void SegmentedTabs::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
 }

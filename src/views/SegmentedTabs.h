@@ -18,6 +18,8 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// The wheel is for scrolling.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     FocusVisible m_focusVisible;

@@ -2,8 +2,8 @@
 #include "StatusPicker.h"
 
 #include "Fonts.h"
+#include "KeyCap.h"
 #include "StateGestures.h"
-#include "Theme.h"
 
 #include <QMenu>
 #include <QPainter>
@@ -11,16 +11,13 @@
 
 namespace {
 
-constexpr QMargins keyPadding(5, 2, 5, 2);
-constexpr qreal keyRadius = 4.0;
-
 // The size of the drawn keys: the widest one's, so that the texts behind them line up.
 QSize keySize(const QFont& font)
 {
     QSize size;
     for (const DayState state : allDayStates)
-        size = size.expandedTo(QFontMetrics(font).size(Qt::TextSingleLine, keyName(modifierReaching(state))));
-    return size.grownBy(keyPadding);
+        size = size.expandedTo(keyCapSize(keyName(modifierReaching(state)), font));
+    return size;
 }
 
 QIcon keyIcon(ClickModifier modifier, const QWidget& widget)
@@ -28,18 +25,12 @@ QIcon keyIcon(ClickModifier modifier, const QWidget& widget)
     if (modifier == ClickModifier::None)
         return {};
     const QFont font = fonts::caption(widget.font());
-    const Theme& theme = themeFor(widget.palette());
     QPixmap pixmap(keySize(font) * widget.devicePixelRatioF());
     pixmap.setDevicePixelRatio(widget.devicePixelRatioF());
     pixmap.fill(Qt::transparent);
-    const QRectF area(QPointF(), pixmap.deviceIndependentSize());
     QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font);
-    painter.setPen(theme.dimText);
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), keyRadius, keyRadius);
-    painter.setPen(theme.text);
-    painter.drawText(area, Qt::AlignCenter, keyName(modifier));
+    drawKeyCap(painter, {QPointF(), pixmap.deviceIndependentSize()}, keyName(modifier), widget.palette());
     painter.end();
     return pixmap;
 }

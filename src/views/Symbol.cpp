@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Symbol.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -9,7 +10,7 @@ namespace {
 
 // Strokes on a grid of 16 by 16.
 constexpr qreal gridSize = 16.0;
-constexpr qreal strokeWidth = 1.6;
+constexpr qreal strokeWidth = 1.5;
 
 QPainterPath line(const QPolygonF& points)
 {
@@ -38,6 +39,64 @@ QPainterPath struckOut(QPainterPath path)
     return path;
 }
 
+QPainterPath circled(QPainterPath path)
+{
+    path.addEllipse(QRectF(1.2, 1.2, 13.6, 13.6));
+    return path;
+}
+
+// A hub and eight teeth.
+QPainterPath gear(QPointF centre, qreal size)
+{
+    constexpr int teeth = 8;
+    QPainterPath path;
+    path.addEllipse(centre, 0.5 * size, 0.5 * size);
+    for (int tooth = 0; tooth < teeth; ++tooth) {
+        const QLineF spoke = QLineF::fromPolar(size, 360.0 * tooth / teeth).translated(centre);
+        path.moveTo(spoke.pointAt(0.68));
+        path.lineTo(spoke.p2());
+    }
+    return path;
+}
+
+QPainterPath documentWithGear()
+{
+    QPainterPath path = line({{7.4, 14.3}, {2.6, 14.3}, {2.6, 1.5}, {8.4, 1.5}, {12.2, 5.3}, {12.2, 7.2}});
+    path.addPath(line({{8.4, 1.5}, {8.4, 5.3}, {12.2, 5.3}}));
+    path.addPath(gear({11.4, 11.8}, 3.4));
+    return path;
+}
+
+QPainterPath questionMark()
+{
+    QPainterPath path(QPointF(5.9, 6.3));
+    path.cubicTo({6.0, 3.2}, {10.2, 3.4}, {10.1, 6.2});
+    path.cubicTo({10.0, 7.8}, {8.0, 7.9}, {8.0, 9.5});
+    path.addEllipse(QPointF(8.0, 12.0), 0.2, 0.2);
+    return path;
+}
+
+// An arrow, and the rays of a press.
+QPainterPath click()
+{
+    QPainterPath path = line({{6.4, 6.4}, {14.4, 9.4}, {10.9, 10.9}, {9.4, 14.4}, {6.4, 6.4}});
+    path.addPath(line({{5.6, 1.4}, {5.6, 3.2}}));
+    path.addPath(line({{1.4, 5.6}, {3.2, 5.6}}));
+    path.addPath(line({{2.5, 2.5}, {3.7, 3.7}}));
+    return path;
+}
+
+// A mouse whose right button is marked.
+QPainterPath rightClick()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(3.4, 1.4, 9.2, 13.2), 4.6, 4.6);
+    path.addPath(line({{3.4, 6.6}, {12.6, 6.6}}));
+    path.addPath(line({{8.0, 1.4}, {8.0, 6.6}}));
+    path.addPath(line({{9.9, 4.4}, {10.9, 4.4}}));
+    return path;
+}
+
 QPainterPath strokesOf(Symbol symbol)
 {
     switch (symbol) {
@@ -49,6 +108,22 @@ QPainterPath strokesOf(Symbol symbol)
         return waves();
     case Symbol::WifiSlash:
         return struckOut(waves());
+    case Symbol::DocumentGear:
+        return documentWithGear();
+    case Symbol::Gear:
+        return gear({8.0, 8.0}, 6.6);
+    case Symbol::Question:
+        return circled(questionMark());
+    case Symbol::Plus:
+        return circled(line({{8.0, 4.8}, {8.0, 11.2}, {8.0, 8.0}, {4.8, 8.0}, {11.2, 8.0}}));
+    case Symbol::Cross:
+        return circled(line({{5.8, 5.8}, {10.2, 10.2}, {8.0, 8.0}, {10.2, 5.8}, {5.8, 10.2}}));
+    case Symbol::Check:
+        return circled(line({{5.0, 8.2}, {7.2, 10.4}, {11.0, 5.8}}));
+    case Symbol::Click:
+        return click();
+    case Symbol::RightClick:
+        return rightClick();
     }
     Q_UNREACHABLE();
 }

@@ -16,6 +16,9 @@ const Theme light{
     .text = 0xff202124,
     .dimText = 0xff5f6065,
     .accent = 0xff175fcf,
+    .errorText = 0xffb3261e,
+    .field = 0xffffffff,
+    .fieldBorder = 0xff8b8d94,
     .trough = 0xffe4e4e8,
     .chosen = 0xffffffff,
     .progressTrack = 0xffe4e4e8,
@@ -39,6 +42,9 @@ const Theme dark{
     .text = 0xfff2f2f4,
     .dimText = 0xffa4a6ac,
     .accent = 0xff5b9bff,
+    .errorText = 0xffff8a80,
+    .field = 0xff1e1f22,
+    .fieldBorder = 0xff74767d,
     .trough = 0xff33343a,
     .chosen = 0xff4a4c53,
     .progressTrack = 0xff3a3b41,
@@ -96,6 +102,7 @@ QPalette paletteFor(ColorScheme scheme)
     palette.setColor(QPalette::ToolTipBase, theme.card);
     palette.setColor(QPalette::PlaceholderText, theme.dimText);
     palette.setColor(QPalette::Link, theme.accent);
+    palette.setColor(QPalette::BrightText, theme.errorText);
     palette.setColor(QPalette::Highlight, themeFor(ColorScheme::Light).accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;

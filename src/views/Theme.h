@@ -15,6 +15,10 @@ struct Theme {
     QColor text;
     QColor dimText;
     QColor accent;
+    /// Of a message that something was refused.
+    QColor errorText;
+    QColor field;
+    QColor fieldBorder;
     /// Behind the choices of a segmented control, and behind the chosen one.
     QColor trough;
     QColor chosen;

@@ -1,78 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingIndicator.h"
 
-#include "AppSettings.h"
-#include "LocationManager.h"
 #include "Theme.h"
-#include "WiFiMonitor.h"
+#include "TrackingPopover.h"
+#include "TrackingStatus.h"
 
-#include <QPainter>
-
-namespace {
-
-constexpr int extent = 20;
-
-} // namespace
-
-TrackingIndicator::TrackingIndicator(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
-                                     QWidget* parent)
-    : QWidget(parent)
-    , m_settings(settings)
-    , m_wifiClient(wifiClient)
-    , m_locationManager(locationManager)
+TrackingIndicator::TrackingIndicator(const ViewParts& parts, TrackingStatus& status, QWidget* parent)
+    : IconButton(Symbol::Wifi, {}, parent)
+    , m_status(status)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_trackingNotifier = m_settings.wifiTrackingEnabled.addNotifier([this] { refresh(); });
+    connect(&status, &TrackingStatus::changed, this, &TrackingIndicator::refresh);
+    connect(this, &QAbstractButton::clicked, this,
+            [this, &parts] { (new TrackingPopover(parts, m_status, this))->popUp(); });
     refresh();
-}
-
-TrackingIndicator::~TrackingIndicator() = default;
-
-void TrackingIndicator::startMonitoring()
-{
-    if (m_wifiMonitor)
-        return;
-    m_wifiMonitor = std::make_unique<WiFiMonitor>(m_wifiClient);
-    m_wifiNotifier = m_wifiMonitor->isWiFiEnabled.addNotifier([this] { refresh(); });
-    m_locationNotifier = m_locationManager.defaultValue().locationPermissionStatus.addNotifier([this] { refresh(); });
-    refresh();
-}
-
-bool TrackingIndicator::isWiFiUsable() const
-{
-    return !m_wifiMonitor ||
-           (m_wifiMonitor->isWiFiEnabled && isAccessGranted(m_locationManager.defaultValue().locationPermissionStatus));
-}
-
-Symbol TrackingIndicator::symbol() const
-{
-    return isWiFiUsable() ? Symbol::Wifi : Symbol::WifiSlash;
-}
-
-QSize TrackingIndicator::sizeHint() const
-{
-    return {extent, extent};
 }
 
 void TrackingIndicator::refresh()
 {
-    QString status = tr("Tracking On");
-    if (!m_settings.wifiTrackingEnabled)
-        status = tr("Tracking Off");
-    else if (!isWiFiUsable())
-        status = tr("Wi-Fi or Location Off");
-    setToolTip(status);
-    setAccessibleName(status);
-    update();
+    setSymbol(m_status.isWiFiUsable() ? Symbol::Wifi : Symbol::WifiSlash);
+    setHelp(m_status.text());
 }
 
-void TrackingIndicator::paintEvent(QPaintEvent* /*event*/)
+QColor TrackingIndicator::color() const
 {
     const Theme& theme = themeFor(palette());
-    QColor color = theme.dimText;
-    if (m_settings.wifiTrackingEnabled)
-        color = isWiFiUsable() ? theme.inOffice : theme.outOfOffice;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    drawSymbol(painter, rect(), symbol(), color);
+    if (!m_status.isTracking())
+        return theme.dimText;
+    return m_status.isWiFiUsable() ? theme.progressText : theme.outOfOffice;
 }

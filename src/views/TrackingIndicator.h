@@ -1,45 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Symbol.h"
+#include "IconButton.h"
 
-#include <QPropertyNotifier>
-#include <QWidget>
+class TrackingStatus;
+struct ViewParts;
 
-#include <memory>
-
-class AppSettings;
-class LocationManagerKey;
-class WiFiClient;
-class WiFiMonitor;
-
-/// Shows whether days are being marked automatically, and whether they could be.
-class TrackingIndicator : public QWidget {
+/// Shows whether days are being marked automatically, and whether they could be. A click tells more.
+class TrackingIndicator : public IconButton {
     Q_OBJECT
 
 public:
-    TrackingIndicator(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
-                      QWidget* parent = nullptr);
-    ~TrackingIndicator() override;
-
-    /// Begins to ask the system, and to follow it. Until then everything is taken to be on.
-    void startMonitoring();
-
-    [[nodiscard]] Symbol symbol() const;
-    [[nodiscard]] QSize sizeHint() const override;
+    TrackingIndicator(const ViewParts& parts, TrackingStatus& status, QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    [[nodiscard]] QColor color() const override;
 
 private:
-    [[nodiscard]] bool isWiFiUsable() const;
     void refresh();
 
-    AppSettings& m_settings;
-    WiFiClient& m_wifiClient;
-    LocationManagerKey& m_locationManager;
-    std::unique_ptr<WiFiMonitor> m_wifiMonitor;
-    QPropertyNotifier m_trackingNotifier;
-    QPropertyNotifier m_wifiNotifier;
-    QPropertyNotifier m_locationNotifier;
+    TrackingStatus& m_status;
 };

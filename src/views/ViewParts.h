@@ -3,6 +3,8 @@
 
 class AppSettings;
 class Clock;
+class InOfficeCheck;
+class LaunchAtLogin;
 class LocationManagerKey;
 class ModelContext;
 class ViewSettings;
@@ -16,4 +18,6 @@ struct ViewParts {
     Clock& clock;
     WiFiClient& wifiClient;
     LocationManagerKey& locationManager;
+    InOfficeCheck& check;
+    LaunchAtLogin& launchAtLogin;
 };

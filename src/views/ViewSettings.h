@@ -20,6 +20,10 @@ public:
     /// 1 is the month, 2 the quarter.
     QProperty<int> selectedTab{1};
 
+    /// Where a window stood and how large it was, as the toolkit writes it down; empty where that is not known.
+    [[nodiscard]] QByteArray geometry(const QString& key) const { return m_settings.value(key).toByteArray(); }
+    void setGeometry(const QString& key, const QByteArray& geometry) { m_settings.setValue(key, geometry); }
+
 private:
     template <class Value> void persist(QProperty<Value>& field, const QString& key);
 

@@ -6,10 +6,14 @@
 #include "Eventually.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
+#include "InOfficeCheck.h"
+#include "LaunchAtLogin.h"
 #include "LocationManager.h"
+#include "LoginItem.h"
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
+#include "Notifier.h"
 #include "Testing.h"
 #include "Theme.h"
 #include "ViewParts.h"
@@ -63,6 +67,29 @@ inline void press(const QWidget& root, Qt::Key key, Qt::KeyboardModifiers held =
     QTest::keyClick(root.window()->windowHandle(), key, held);
 }
 
+class MockNotifier : public Notifier {
+public:
+    MOCK_METHOD(void, post, (const Notification&), (override));
+};
+
+class FakeLoginItem : public LoginItem {
+public:
+    [[nodiscard]] bool isEnabled() const override { return enabled; }
+    void registerItem() override { set(true); }
+    void unregisterItem() override { set(false); }
+
+    bool enabled = false;
+    bool isBroken = false;
+
+private:
+    void set(bool on)
+    {
+        if (isBroken)
+            throw PlatformError(u"no room"_s);
+        enabled = on;
+    }
+};
+
 /// What the calendar views work on: a real store, on the morning of Friday 20 November 2026.
 class ViewTest : public testing::Test {
 protected:
@@ -110,5 +137,9 @@ protected:
     testing::NiceMock<FakeAuthorization> authorization;
     MockSystemSettings systemSettings;
     LocationManagerKey locationManager{authorization, systemSettings};
-    const ViewParts parts{context, *settings, viewSettings, clock, wifiClient, locationManager};
+    testing::NiceMock<MockNotifier> notifier;
+    InOfficeCheck check{{container, *settings, wifiClient, notifier, clock}};
+    FakeLoginItem loginItem;
+    LaunchAtLogin launchAtLogin{loginItem};
+    const ViewParts parts{context, *settings, viewSettings, clock, wifiClient, locationManager, check, launchAtLogin};
 };

@@ -117,7 +117,8 @@ TEST_F(DayClickTest, aClickOutlivesTheProgramThatIsKilledRightAfterIt)
     for (int day = 1; day <= 10; ++day) {
         const auto clickAndDie = [&] {
             ModelContainer own({.name = {}, .path = path});
-            const ViewParts ownParts{own.mainContext(), *settings, viewSettings, clock, wifiClient, locationManager};
+            const ViewParts ownParts{own.mainContext(), *settings,       viewSettings, clock,
+                                     wifiClient,        locationManager, check,        launchAtLogin};
             CalendarView ownView(ownParts);
             ownView.setMonth(own.mainContext().fetchMonths(2026, 11).at(0));
             ownView.show();

@@ -30,7 +30,7 @@ TEST_F(TrackingIndicatorTest, tellsWhetherDaysAreMarkedAndCouldBe)
     const auto* indicator = window.findChild<TrackingIndicator*>();
     EXPECT_EQ(indicator->toolTip(), u"Tracking Off"_s);
     auto* accessible = QAccessible::queryAccessibleInterface(window.findChild<TrackingIndicator*>());
-    EXPECT_EQ(accessible->role(), QAccessible::Graphic);
+    EXPECT_EQ(accessible->role(), QAccessible::Button);
     testing::Mock::VerifyAndClearExpectations(&authorization);
     EXPECT_CALL(authorization, start);
     bool isMonitoring = false;

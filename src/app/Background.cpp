@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Background.h"
+
+#include "AppSettings.h"
+#include "InOfficeCheck.h"
+#include "Notifier.h"
+#include "TrayHost.h"
+#include "TrayIcon.h"
+#include "ViewParts.h"
+#include "Windows.h"
+
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto noticeWasGiven = u"backgroundNoticeWasGiven"_s;
+
+} // namespace
+
+Background::Background(const ViewParts& parts, Windows& windows, Notifier& notifier, TrayHost& trayHost,
+                       QSettings& settings)
+    : m_parts(parts)
+    , m_windows(windows)
+    , m_notifier(notifier)
+    , m_settings(settings)
+{
+    connect(&windows, &Windows::lastClosed, this, &Background::lastClosed);
+    connect(&notifier, &Notifier::activated, &windows, &Windows::openDay);
+    connect(&trayHost, &TrayHost::appeared, this, &Background::showTrayIcon);
+    connect(&trayHost, &TrayHost::gone, this, [this] { m_trayIcon.reset(); });
+}
+
+Background::~Background() = default;
+
+void Background::lastClosed()
+{
+    if (!m_parts.settings.wifiTrackingEnabled) {
+        Q_EMIT quitRequested();
+        return;
+    }
+    if (!m_parts.settings.notificationsEnabled || m_settings.value(noticeWasGiven).toBool())
+        return;
+    m_settings.setValue(noticeWasGiven, true);
+    m_notifier.post({tr("Pellory"),
+                     tr("Pellory goes on checking whether you are in the office. Start it again to see its window."),
+                     {}});
+}
+
+void Background::showTrayIcon()
+{
+    m_trayIcon = std::make_unique<TrayIcon>(m_parts);
+    connect(m_trayIcon.get(), &TrayIcon::openRequested, &m_windows, [this] { m_windows.openMain(); });
+    connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, [this] { m_parts.check.checkNow(true); });
+    connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::quitRequested);
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Bar.h"
+
+#include "Theme.h"
+
+#include <QPainter>
+
+Bar::Bar(Qt::Edge line, QWidget* parent)
+    : QWidget(parent)
+    , m_line(line)
+{
+}
+
+void Bar::paintEvent(QPaintEvent* /*event*/)
+{
+    const Theme& theme = themeFor(palette());
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.card);
+    painter.fillRect(0, m_line == Qt::TopEdge ? 0 : height() - 1, width(), 1, theme.border);
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Button.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr QMargins padding(16, 7, 16, 7);
+constexpr qreal radius = 8.0;
+constexpr int roomForRing = 3;
+
+} // namespace
+
+Button::Button(const QString& text, QWidget* parent)
+    : QPushButton(text, parent)
+{
+    setFont(fonts::body(font()));
+    setAutoDefault(false);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void Button::setProminent(bool prominent)
+{
+    m_prominent = prominent;
+    update();
+}
+
+QSize Button::sizeHint() const
+{
+    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(padding + roomForRing);
+}
+
+void Button::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QPushButton::focusInEvent(event);
+}
+
+void Button::keyPressEvent(QKeyEvent* event)
+{
+    m_focusVisible.show();
+    // The button that has the focus, and not the default one of its window.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void Button::paintEvent(QPaintEvent* /*event*/)
+{
+    const Theme& theme = themeFor(palette());
+    const bool isFilled = (m_prominent || isDefault()) && isEnabled();
+    QColor face = isFilled ? palette().color(QPalette::Highlight) : theme.card;
+    if (isEnabled() && (underMouse() || isDown()))
+        face = isFilled ? face.darker(isDown() ? 125 : 112) : (isDown() ? theme.border : theme.trough);
+    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + roomForRing));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(isFilled ? QPen(face, 1.0) : QPen(theme.border, 1.0));
+    painter.setBrush(face);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.dimText);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    if (hasFocus() && m_focusVisible) {
+        painter.setPen(QPen(theme.accent, 2.0));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2, radius + 2);
+    }
+}

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DaysPerWeekGoalView.h"
+
+#include "Follow.h"
+#include "IconButton.h"
+#include "Labels.h"
+#include "TextField.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int firstGoalRow = 1;
+
+} // namespace
+
+DaysPerWeekGoalView::DaysPerWeekGoalView(AppSettings& settings, bool headerEnabled, QWidget* parent)
+    : QWidget(parent)
+    , m_settings(settings)
+    , m_table(new QGridLayout)
+    , m_lastHeading(labels::dim(tr("Description")))
+    , m_empty(labels::dim(tr("No \"days in office per week\" goals")))
+    , m_stringValue(new TextField(tr("New goal")))
+    , m_error(labels::error(tr("Input must be a number between 0.0 and 7.0")))
+    , m_daysPerWeekGoalChangeError(labels::error(tr("Days Per Week must be a number between 0.0 and 7.0")))
+{
+    build(headerEnabled);
+    m_error->hide();
+    m_daysPerWeekGoalChangeError->hide();
+    follow(settings.daysPerWeekGoals, this, [this] { showGoals(); });
+}
+
+void DaysPerWeekGoalView::build(bool headerEnabled)
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(10);
+    if (headerEnabled) {
+        column->addWidget(labels::heading(tr("Days Per Week Goals")));
+        column->addWidget(
+            labels::dim(tr("These are the goals used by the progress tracker, in average days in-office per week.")));
+    }
+    m_table->setHorizontalSpacing(8);
+    m_table->setVerticalSpacing(6);
+    m_table->setColumnStretch(1, 1);
+    auto* days = labels::dim(tr("Days Per Week Goal"));
+    days->setWordWrap(false);
+    m_table->addWidget(days, 0, 0);
+    m_table->addWidget(m_lastHeading, 0, 1);
+    column->addLayout(m_table);
+    column->addWidget(m_empty);
+    column->addWidget(m_daysPerWeekGoalChangeError);
+
+    m_stringValue->setObjectName("stringValue"_L1);
+    auto* add = new IconButton(Symbol::Plus, tr("Add Goal"));
+    add->setObjectName("addGoal"_L1);
+    auto* entry = new QHBoxLayout;
+    entry->addWidget(m_stringValue);
+    entry->addWidget(add);
+    entry->addStretch();
+    column->addSpacing(6);
+    column->addLayout(entry);
+    column->addWidget(m_error);
+    connect(add, &QAbstractButton::clicked, this, &DaysPerWeekGoalView::addGoal);
+    connect(m_stringValue, &QLineEdit::returnPressed, this, [this] {
+        if (addGoal())
+            m_stringValue->clear();
+    });
+}
+
+void DaysPerWeekGoalView::showGoals()
+{
+    const auto& goals = m_settings.daysPerWeekGoals.value();
+    const bool isSame = std::ranges::equal(m_rows, goals, {}, &Row::goal);
+    if (isSame && !goals.isEmpty())
+        return;
+    for (const Row& row : std::exchange(m_rows, {})) {
+        for (QWidget* control : row.controls()) {
+            control->hide();
+            control->deleteLater();
+        }
+    }
+    QWidget* before = m_lastHeading;
+    for (const auto& goal : goals) {
+        m_rows.append(makeRow(goal, firstGoalRow + static_cast<int>(m_rows.size())));
+        for (QWidget* control : m_rows.last().controls()) {
+            setTabOrder(before, control);
+            before = control;
+        }
+    }
+    m_empty->setVisible(goals.isEmpty());
+}
+
+std::array<QWidget*, 3> DaysPerWeekGoalView::Row::controls() const
+{
+    return {daysPerWeek, description, remove};
+}
+
+DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal>& goal, int place)
+{
+    const Row row{goal, new TextField(tr("Days Per Week Goal")), new TextField(tr("Description")),
+                  new IconButton(Symbol::Cross, {})};
+    for (int column = 0; QWidget * control : row.controls())
+        m_table->addWidget(control, place, column++);
+    bind(row);
+    return row;
+}
+
+void DaysPerWeekGoalView::bind(const Row& row)
+{
+    const auto& [goal, days, description, remove] = row;
+    follow(goal->wantedDaysPerWeek, days, [row] {
+        // A field that is being edited keeps what stands in it.
+        if (!row.daysPerWeek->hasFocus())
+            row.daysPerWeek->setText(row.goal->wantedDaysPerWeek);
+        row.remove->setHelp(tr("Remove the goal %1").arg(row.goal->wantedDaysPerWeek));
+    });
+    follow(goal->desc, description, [row] {
+        if (row.description->text() != row.goal->desc)
+            row.description->setText(row.goal->desc);
+    });
+    connect(days, &QLineEdit::textEdited, this, [this, row](const QString& text) {
+        m_daysPerWeekGoalChangeError->setVisible(!row.goal->setDaysPerWeek(text));
+    });
+    connect(days, &QLineEdit::editingFinished, days, [row] { row.daysPerWeek->setText(row.goal->wantedDaysPerWeek); });
+    connect(description, &QLineEdit::textEdited, this, [row](const QString& text) { row.goal->desc = text; });
+    connect(remove, &QAbstractButton::clicked, this, [this, row] { this->remove(*row.goal); });
+}
+
+void DaysPerWeekGoalView::remove(const Goal& goal)
+{
+    const auto place = std::ranges::find(m_rows, &goal, [](const Row& row) { return row.goal.get(); }) - m_rows.begin();
+    m_settings.removeGoal(goal);
+    // Whoever works with the keyboard can go on from there.
+    if (m_rows.isEmpty())
+        m_stringValue->setFocus(Qt::TabFocusReason);
+    else
+        m_rows.at(std::min(place, m_rows.size() - 1)).remove->setFocus(Qt::TabFocusReason);
+    m_daysPerWeekGoalChangeError->hide();
+}
+
+bool DaysPerWeekGoalView::addGoal()
+{
+    const bool isAccepted = m_settings.addGoal(m_stringValue->text());
+    m_error->setVisible(!isAccepted);
+    return isAccepted;
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FocusVisible.h"
+#include "Symbol.h"
+
+#include <QAbstractButton>
+#include <QColor>
+
+/// A button that is only a symbol. Its text is what a pointer that rests on it is shown and what assistive technology
+/// says.
+class IconButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    IconButton(Symbol symbol, const QString& text, QWidget* parent = nullptr);
+
+    void setSymbol(Symbol symbol);
+    [[nodiscard]] Symbol symbol() const { return m_symbol; }
+    /// Sets what it says.
+    void setHelp(const QString& text);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    /// By default that of text.
+    [[nodiscard]] virtual QColor color() const;
+
+    void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Symbol m_symbol;
+    FocusVisible m_focusVisible;
+};

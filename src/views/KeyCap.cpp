@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "KeyCap.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr QMargins padding(5, 2, 5, 2);
+constexpr qreal radius = 4.0;
+
+} // namespace
+
+QSize keyCapSize(const QString& name, const QFont& font)
+{
+    return QFontMetrics(font).size(Qt::TextSingleLine, name).grownBy(padding);
+}
+
+void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, const QPalette& palette)
+{
+    const Theme& theme = themeFor(palette);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme.dimText);
+    painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(theme.text);
+    painter.drawText(place, Qt::AlignCenter, name);
+}
+
+KeyCap::KeyCap(const QString& name, QWidget* parent)
+    : QWidget(parent)
+    , m_name(name)
+{
+    setFont(fonts::caption(font()));
+    setAccessibleName(name);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize KeyCap::sizeHint() const
+{
+    return keyCapSize(m_name, font());
+}
+
+void KeyCap::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    drawKeyCap(painter, rect(), m_name, palette());
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+/// The size of a drawn key with this on it.
+[[nodiscard]] QSize keyCapSize(const QString& name, const QFont& font);
+
+/// Draws a key with its name on it.
+void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, const QPalette& palette);
+
+/// A drawn key. Assistive technology reads its name.
+class KeyCap : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit KeyCap(const QString& name, QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_name;
+};

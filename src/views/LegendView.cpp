@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LegendView.h"
+
+#include "Day.h"
+#include "Follow.h"
+#include "KeyCap.h"
+#include "Labels.h"
+#include "StateGestures.h"
+#include "Switch.h"
+#include "SymbolView.h"
+#include "Theme.h"
+#include "ViewSettings.h"
+
+#include <QGridLayout>
+#include <QPainter>
+
+namespace {
+
+constexpr int swatchColumn = 0;
+constexpr int keyColumn = 1;
+constexpr int textColumn = 2;
+
+// The colour of a cell in the calendar.
+class Swatch : public QWidget {
+public:
+    explicit Swatch(const Day& day)
+        : m_day(day)
+    {
+        setFixedSize(28, 21);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        constexpr qreal radius = 6.0;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(dayColor(themeFor(palette()), m_day));
+        painter.drawRoundedRect(rect(), radius, radius);
+    }
+
+private:
+    Day m_day;
+};
+
+} // namespace
+
+LegendView::LegendView(ViewSettings& settings, QWidget* parent)
+    : QWidget(parent)
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(10);
+    grid->setColumnStretch(textColumn, 1);
+    for (const DayState state : allDayStates)
+        addSwatch(*grid, {.id = 1, .state = state, .isWorkday = true}, description(state));
+    addSwatch(*grid, {.id = 1}, tr("Weekend Day"));
+    grid->setRowMinimumHeight(grid->rowCount(), 4);
+    addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"));
+    // Where the Ctrl key has another meaning, this key and this button open the menu of states.
+    addGesture(*grid, tr("Menu", "key"), Symbol::RightClick, tr(": Open Status Picker Menu "));
+    auto* hover = new Switch(tr("Show day status on hover"));
+    bindSwitch(hover, settings.showStatusLabelOnHover);
+    grid->setRowMinimumHeight(grid->rowCount(), 4);
+    grid->addWidget(hover, grid->rowCount(), 0, 1, -1);
+}
+
+void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& text)
+{
+    const int row = grid.rowCount();
+    grid.addWidget(new Swatch(day), row, swatchColumn, Qt::AlignCenter);
+    const ClickModifier modifier = day.isWorkday ? modifierReaching(day.state) : ClickModifier::None;
+    if (modifier != ClickModifier::None)
+        grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
+    grid.addWidget(labels::text(text), row, textColumn);
+}
+
+void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text)
+{
+    const int row = grid.rowCount();
+    grid.addWidget(new SymbolView(symbol), row, swatchColumn, Qt::AlignCenter);
+    if (!key.isEmpty())
+        grid.addWidget(new KeyCap(key), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
+    grid.addWidget(labels::text(text), row, textColumn);
+}

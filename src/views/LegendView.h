@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DayState.h"
+#include "Symbol.h"
+
+#include <QWidget>
+
+class QGridLayout;
+class ViewSettings;
+struct Day;
+
+/// The key to the colours of days and to what a click does, from the same tables as the calendar's own.
+class LegendView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LegendView(ViewSettings& settings, QWidget* parent = nullptr);
+
+private:
+    void addSwatch(QGridLayout& grid, const Day& day, const QString& text);
+    void addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text);
+};

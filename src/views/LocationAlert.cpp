@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LocationAlert.h"
+
+#include "AppSettings.h"
+#include "Button.h"
+#include "Card.h"
+#include "Labels.h"
+#include "LocationManager.h"
+#include "TrackingStatus.h"
+#include "ViewParts.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+LocationAlert::LocationAlert(const ViewParts& parts, TrackingStatus& status, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_status(status)
+    , m_access(new Button({}))
+{
+    m_access->setObjectName("giveAccess"_L1);
+    m_access->setProminent(true);
+    auto* disable = new Button(tr("Disable Automatic Tracking"));
+    disable->setObjectName("disableTracking"_L1);
+    setAccessibleName(tr("Location Permissions Needed"));
+    auto* card = new Card;
+    auto* around = new QVBoxLayout(this);
+    around->setContentsMargins(24, 20, 24, 0);
+    around->addWidget(card);
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(20, 16, 20, 16);
+    column->addWidget(labels::strong(accessibleName()));
+    column->addWidget(labels::text(
+        tr("You have automatic in office tracking enabled, but the app doesn't have access to your location.")));
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(disable);
+    row->addWidget(m_access);
+    column->addSpacing(4);
+    column->addLayout(row);
+    connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::giveAccess);
+    connect(disable, &QAbstractButton::clicked, this, [&parts] { parts.settings.wifiTrackingEnabled = false; });
+    connect(&status, &TrackingStatus::changed, this, &LocationAlert::refresh);
+    refresh();
+}
+
+void LocationAlert::refresh()
+{
+    const bool canAsk = m_status.permission() == AuthorizationStatus::notDetermined;
+    m_access->setText(canAsk ? tr("Allow Access") : tr("Open System Settings"));
+    m_access->updateGeometry();
+    setVisible(m_status.isTracking() && !isAccessGranted(m_status.permission()));
+}
+
+void LocationAlert::giveAccess()
+{
+    LocationManager& manager = m_parts.locationManager.defaultValue();
+    if (m_status.permission() == AuthorizationStatus::notDetermined)
+        manager.locationManager().requestAlwaysAuthorization();
+    else
+        manager.openLocationSettings();
+}

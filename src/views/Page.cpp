@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Page.h"
+
+#include "Card.h"
+
+#include <QVBoxLayout>
+
+Page::Page(QWidget* contents, QWidget* parent)
+    : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(contents);
+    // The keys go to what stands on the page.
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QSize Page::sizeHint() const
+{
+    return widget()->sizeHint();
+}
+
+Page* makeCardPage(QWidget* contents)
+{
+    auto* card = new Card;
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(20, 18, 20, 18);
+    inside->addWidget(contents);
+    auto* whole = new QWidget;
+    auto* column = new QVBoxLayout(whole);
+    column->setContentsMargins(24, 20, 24, 20);
+    column->addWidget(card);
+    column->addStretch();
+    return new Page(whole);
+}

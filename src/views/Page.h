@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QScrollArea>
+
+/// A part of a window that scrolls where it does not fit.
+class Page : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// Takes the contents over.
+    explicit Page(QWidget* contents, QWidget* parent = nullptr);
+
+    /// As large as its contents, which is what a window opens with.
+    [[nodiscard]] QSize sizeHint() const override;
+};
+
+/// A page with these contents on a card.
+[[nodiscard]] Page* makeCardPage(QWidget* contents);

@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SsidSettingsView.h"
+
+#include "AppSettings.h"
+#include "Button.h"
+#include "Follow.h"
+#include "IconButton.h"
+#include "InOfficeCheck.h"
+#include "Labels.h"
+#include "LocationManager.h"
+#include "NetworkList.h"
+#include "Switch.h"
+#include "TextField.h"
+#include "ViewParts.h"
+#include "WiFiClient.h"
+#include "WiFiMonitor.h"
+
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int intervalWidth = 75;
+constexpr qint64 shortestInterval = 1;
+constexpr qint64 longestInterval = 24 * 60;
+
+QHBoxLayout* headingRow(const QString& text, QWidget* button)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(labels::strong(text), 1);
+    row->addWidget(button);
+    return row;
+}
+
+QStringList sortedNames(const QList<WiFiNetwork>& networks)
+{
+    QStringList names;
+    for (const WiFiNetwork& network : networks) {
+        if (network.ssid)
+            names.append(*network.ssid);
+    }
+    names.removeDuplicates();
+    names.sort();
+    return names;
+}
+
+} // namespace
+
+SsidSettingsView::SsidSettingsView(const ViewParts& parts, bool headerEnabled, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_wifiMonitor(std::make_unique<WiFiMonitor>(parts.wifiClient))
+    , m_wifiWarning(labels::strong(tr("Wi-Fi tracking is enabled, but Wi-Fi is turned off.")))
+    , m_wifiAdvice(labels::strong(tr("Turn on Wi-Fi in MacOS to allow tracking.")))
+    , m_locationWarning(labels::strong(tr("Wi-Fi tracking is enabled, but location tracking is turned off.")))
+    , m_selected(new NetworkList([](const QString&) -> NetworkList::Choice {
+        return {Symbol::Cross, tr("Remove %1", "network")};
+    }))
+    , m_customNetwork(new TextField(tr("Add custom network")))
+    , m_inRange(new NetworkList([&parts](const QString& ssid) -> NetworkList::Choice {
+        if (parts.settings.inOfficeSsids.value().contains(ssid))
+            return {Symbol::Check, tr("%1 is an office network"), false};
+        return {Symbol::Plus, tr("Add %1", "network")};
+    }))
+    , m_scan(new Button(tr("Scan")))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(8);
+    addTracking(*column, headerEnabled);
+    addInterval(*column);
+    addSelectedNetworks(*column);
+    addCustomNetwork(*column);
+    addNetworksInRange(*column);
+
+    const auto show = [this] { refresh(); };
+    follow(parts.settings.wifiTrackingEnabled, this, show);
+    follow(parts.settings.inOfficeSsids, this, show);
+    follow(m_wifiMonitor->isWiFiEnabled, m_wifiMonitor.get(), show);
+    follow(parts.locationManager.defaultValue().locationPermissionStatus, this, show);
+}
+
+SsidSettingsView::~SsidSettingsView() = default;
+
+void SsidSettingsView::addTracking(QVBoxLayout& column, bool headerEnabled)
+{
+    if (headerEnabled)
+        column.addWidget(labels::heading(tr("Automatic In Office Tracking")));
+    auto* tracking = new Switch(tr("Enable Automatic Tracking"));
+    bindSwitch(tracking, m_parts.settings.wifiTrackingEnabled);
+    column.addWidget(tracking);
+    for (QLabel* warning : {m_wifiWarning, m_wifiAdvice, m_locationWarning}) {
+        warning->setForegroundRole(QPalette::BrightText);
+        column.addWidget(warning);
+    }
+}
+
+void SsidSettingsView::addInterval(QVBoxLayout& column)
+{
+    auto& minutes = m_parts.settings.checkEveryInMinutes;
+    auto* field = new TextField(tr("Check Every (mins)"));
+    field->setObjectName("checkEveryInMinutes"_L1);
+    field->setFixedWidth(intervalWidth);
+    field->setAlignment(Qt::AlignRight);
+    follow(minutes, field, [field, &minutes] {
+        if (!field->hasFocus())
+            field->setText(QLocale().toString(minutes.value()));
+    });
+    connect(field, &QLineEdit::textEdited, this, [&minutes](const QString& text) {
+        bool isNumber = false;
+        const qint64 number = QLocale().toLongLong(text, &isNumber);
+        if (isNumber && number >= shortestInterval && number <= longestInterval)
+            minutes = number;
+    });
+    connect(field, &QLineEdit::editingFinished, field,
+            [field, &minutes] { field->setText(QLocale().toString(minutes.value())); });
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    for (QWidget* part : std::initializer_list<QWidget*>{labels::text(tr("Check if in office every")), field,
+                                                         labels::text(tr("minutes"))}) {
+        if (auto* label = qobject_cast<QLabel*>(part))
+            label->setWordWrap(false);
+        row->addWidget(part);
+    }
+    row->addStretch();
+    column.addLayout(row);
+    column.addWidget(labels::dim(tr("If any of these networks are in range, you will be counted as in-office.")));
+}
+
+void SsidSettingsView::addSelectedNetworks(QVBoxLayout& column)
+{
+    auto* check = new Button(tr("Run In-Office Check"));
+    check->setObjectName("runCheck"_L1);
+    m_selected->setObjectName("selectedNetworks"_L1);
+    column.addSpacing(8);
+    column.addLayout(headingRow(tr("In-Office Networks"), check));
+    column.addWidget(m_selected);
+    connect(check, &QAbstractButton::clicked, this, [this] { m_parts.check.checkNow(true); });
+    connect(m_selected, &NetworkList::chosen, this, &SsidSettingsView::remove);
+}
+
+void SsidSettingsView::addCustomNetwork(QVBoxLayout& column)
+{
+    m_customNetwork->setObjectName("customNetwork"_L1);
+    auto* add = new IconButton(Symbol::Plus, tr("Add custom network"));
+    add->setObjectName("addCustomNetwork"_L1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_customNetwork);
+    row->addWidget(add);
+    column.addLayout(row);
+    connect(m_customNetwork, &QLineEdit::returnPressed, this, [this] {
+        append(m_customNetwork->text());
+        m_customNetwork->clear();
+    });
+    connect(add, &QAbstractButton::clicked, this, [this] { append(m_customNetwork->text()); });
+}
+
+void SsidSettingsView::addNetworksInRange(QVBoxLayout& column)
+{
+    m_scan->setObjectName("scan"_L1);
+    m_inRange->setObjectName("networksInRange"_L1);
+    column.addSpacing(8);
+    column.addLayout(headingRow(tr("In-Range Networks"), m_scan));
+    column.addWidget(labels::dim(tr("These networks are currently in range of your device.")));
+    column.addWidget(m_inRange);
+    connect(m_scan, &QAbstractButton::clicked, this, &SsidSettingsView::scan);
+    // Only a name that is not in the list yet has a button that can be pressed.
+    connect(m_inRange, &NetworkList::chosen, this, &SsidSettingsView::append);
+}
+
+void SsidSettingsView::refresh()
+{
+    const bool isTracking = m_parts.settings.wifiTrackingEnabled;
+    const bool isOff = isTracking && !m_wifiMonitor->isWiFiEnabled;
+    const bool isGranted = isAccessGranted(m_parts.locationManager.defaultValue().locationPermissionStatus);
+    m_wifiWarning->setVisible(isOff);
+    m_wifiAdvice->setVisible(isOff);
+    m_locationWarning->setVisible(isTracking && !isGranted);
+    m_selected->setNetworks(m_parts.settings.inOfficeSsids, tr("No networks selected"));
+    m_inRange->setNetworks(m_isScanning ? QStringList() : m_wifiNetworks, emptyListText());
+    m_scan->setText(m_isScanning ? tr("Scanning...") : tr("Scan"));
+    m_scan->setEnabled(!m_isScanning && isGranted);
+}
+
+QString SsidSettingsView::emptyListText() const
+{
+    if (m_isScanning)
+        return tr("Scanning for networks...");
+    return m_wifiMonitor->isWiFiEnabled ? tr("No networks found")
+                                        : tr("Wi-Fi disabled. Turn on Wi-Fi in MacOS to allow scanning.");
+}
+
+void SsidSettingsView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (std::exchange(m_firstScan, false))
+        scan();
+}
+
+void SsidSettingsView::append(const QString& ssid)
+{
+    m_parts.settings.inOfficeSsids = m_parts.settings.inOfficeSsids.value() + QStringList(ssid);
+}
+
+void SsidSettingsView::remove(const QString& ssid)
+{
+    QStringList networks = m_parts.settings.inOfficeSsids;
+    networks.removeAll(ssid);
+    m_parts.settings.inOfficeSsids = networks;
+}
+
+QCoro::Task<> SsidSettingsView::scan()
+{
+    const QPointer self(this);
+    m_isScanning = true;
+    refresh();
+    QStringList names;
+    try {
+        const auto interface = co_await m_parts.wifiClient.defaultInterface();
+        if (interface && self) {
+            const auto networks = co_await m_parts.wifiClient.scanForNetworks(interface->name);
+            names = sortedNames(networks);
+        }
+    } catch (const std::exception&) {
+        // A scan that fails is a list without networks.
+    }
+    if (!self)
+        co_return;
+    m_wifiNetworks = names;
+    m_isScanning = false;
+    refresh();
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Switch.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace {
+
+constexpr QSize trackSize(38, 22);
+constexpr int gap = 16;
+constexpr int roomForRing = 4;
+constexpr qreal knobInset = 3.5;
+
+} // namespace
+
+Switch::Switch(const QString& text, QWidget* parent)
+    : QCheckBox(text, parent)
+{
+    setFont(fonts::body(font()));
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize Switch::sizeHint() const
+{
+    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
+    return {words.width() + gap + trackSize.width() + roomForRing,
+            qMax(words.height(), trackSize.height()) + 2 * roomForRing};
+}
+
+bool Switch::hitButton(const QPoint& position) const
+{
+    return rect().contains(position);
+}
+
+void Switch::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QCheckBox::focusInEvent(event);
+}
+
+void Switch::keyPressEvent(QKeyEvent* event)
+{
+    m_focusVisible.show();
+    QCheckBox::keyPressEvent(event);
+}
+
+void Switch::paintEvent(QPaintEvent* /*event*/)
+{
+    const QRect inside = rect().marginsRemoved({0, 0, roomForRing, 0});
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(inside,
+                     static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter) |
+                         Qt::TextShowMnemonic,
+                     text());
+    paintTrack(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, trackSize, inside));
+}
+
+void Switch::paintTrack(QPainter& painter, const QRectF& track) const
+{
+    const Theme& theme = themeFor(palette());
+    const qreal radius = track.height() / 2.0;
+    const QColor accent = palette().color(QPalette::Highlight);
+    // Off is an outline, so that the two states differ in more than their colour.
+    painter.setPen(isChecked() ? QPen(accent, 1.5) : QPen(theme.dimText, 1.5));
+    painter.setBrush(isChecked() ? accent : theme.card);
+    painter.drawRoundedRect(track.adjusted(0.75, 0.75, -0.75, -0.75), radius, radius);
+
+    const bool knobIsRight = isChecked() == (layoutDirection() == Qt::LeftToRight);
+    const qreal diameter = track.height() - 2.0 * knobInset;
+    const qreal left = knobIsRight ? track.right() - knobInset - diameter : track.left() + knobInset;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isChecked() ? QColor(Qt::white) : theme.dimText);
+    painter.drawEllipse(QRectF(left, track.top() + knobInset, diameter, diameter));
+
+    if (hasFocus() && m_focusVisible) {
+        painter.setPen(QPen(theme.accent, 2.0));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(track.adjusted(-2.5, -2.5, 2.5, 2.5), radius + 2.5, radius + 2.5);
+    }
+}

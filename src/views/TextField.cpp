@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TextField.h"
+
+#include "Fonts.h"
+#include "Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr QMargins padding(7, 4, 7, 4);
+constexpr qreal radius = 7.0;
+
+} // namespace
+
+TextField::TextField(const QString& prompt, QWidget* parent)
+    : QLineEdit(parent)
+{
+    setFont(fonts::body(font()));
+    setPlaceholderText(prompt);
+    setAccessibleName(prompt);
+    // The border is drawn here, so that it fits the cards.
+    setFrame(false);
+    setTextMargins(padding);
+    QPalette clear;
+    clear.setColor(QPalette::Base, Qt::transparent);
+    setPalette(clear);
+}
+
+void TextField::keyPressEvent(QKeyEvent* event)
+{
+    QLineEdit::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+}
+
+void TextField::paintEvent(QPaintEvent* event)
+{
+    const Theme& theme = themeFor(palette());
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.fieldBorder, 1.0));
+        painter.setBrush(theme.field);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    }
+    QLineEdit::paintEvent(event);
+}

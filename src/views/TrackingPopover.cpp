@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TrackingPopover.h"
+
+#include "Clock.h"
+#include "Follow.h"
+#include "InOfficeCheck.h"
+#include "Labels.h"
+#include "Theme.h"
+#include "TrackingStatus.h"
+#include "ViewParts.h"
+
+#include <QFormLayout>
+#include <QLocale>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel* addRow(QFormLayout& rows, const QString& name)
+{
+    auto* value = labels::text({});
+    value->setWordWrap(false);
+    auto* label = labels::dim(name);
+    label->setWordWrap(false);
+    rows.addRow(label, value);
+    return value;
+}
+
+} // namespace
+
+TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status, QWidget* anchor)
+    : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
+    , m_parts(parts)
+    , m_status(status)
+    , m_title(labels::strong({}))
+    , m_rows(new QFormLayout)
+    , m_wifi(addRow(*m_rows, tr("Wi-Fi")))
+    , m_location(addRow(*m_rows, tr("Location access")))
+    , m_lastCheck(addRow(*m_rows, tr("Last check")))
+    , m_nextCheck(addRow(*m_rows, tr("Next check")))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_title->setWordWrap(false);
+    m_rows->setHorizontalSpacing(24);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(20, 16, 20, 16);
+    column->setSpacing(12);
+    column->addWidget(m_title);
+    column->addLayout(m_rows);
+    connect(&status, &TrackingStatus::changed, this, &TrackingPopover::refresh);
+    follow(parts.check.lastCheck, this, [this] { refresh(); });
+    follow(parts.check.nextCheck, this, [this] { refresh(); });
+}
+
+void TrackingPopover::popUp()
+{
+    adjustSize();
+    const QWidget& anchor = *parentWidget();
+    const QPoint below =
+        anchor.mapToGlobal(layoutDirection() == Qt::LeftToRight ? anchor.rect().bottomLeft()
+                                                                : anchor.rect().bottomRight() - QPoint(width(), 0));
+    const QRect room = anchor.screen()->availableGeometry();
+    move(qBound(room.left(), below.x(), qMax(room.left(), room.right() - width())),
+         qBound(room.top(), below.y() + 4, qMax(room.top(), room.bottom() - height())));
+    show();
+}
+
+void TrackingPopover::refresh()
+{
+    m_title->setText(m_status.text());
+    m_wifi->setText(m_status.isWiFiOn() ? tr("On") : tr("Off"));
+    m_location->setText(isAccessGranted(m_status.permission()) ? tr("Allowed") : tr("Missing"));
+    m_lastCheck->setText(timeText(m_parts.check.lastCheck));
+    // A check that is due is skipped while tracking is off.
+    m_nextCheck->setText(timeText(m_status.isTracking() ? m_parts.check.nextCheck : QDateTime()));
+    setAccessibleName(m_title->text());
+    adjustSize();
+}
+
+QString TrackingPopover::timeText(const QDateTime& time) const
+{
+    if (!time.isValid())
+        return tr("None", "check");
+    const bool isToday = time.date() == m_parts.clock.today();
+    return isToday ? QLocale().toString(time.time(), QLocale::ShortFormat)
+                   : QLocale().toString(time, QLocale::ShortFormat);
+}
+
+void TrackingPopover::paintEvent(QPaintEvent* /*event*/)
+{
+    const Theme& theme = themeFor(palette());
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.card);
+    painter.setPen(theme.border);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Windows.h"
+
+#include "AppSettings.h"
+#include "CalendarViewSettingsView.h"
+#include "ContentView.h"
+#include "HelpView.h"
+#include "Page.h"
+#include "SettingsView.h"
+#include "ViewParts.h"
+#include "ViewSettings.h"
+#include "WelcomeView.h"
+#include "WindowId.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QShortcut>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize firstMainSize(534, 860);
+constexpr QSize firstSettingsSize(560, 660);
+
+QString geometryKey(const QWidget& window)
+{
+    return window.objectName() + "Geometry"_L1;
+}
+
+void raise(QWidget& window, const QString& activationToken)
+{
+    // Where only the person may bring a window to the front, this shows that it was the person.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+Windows::Windows(const ViewParts& parts)
+    : m_parts(parts)
+{
+}
+
+Windows::~Windows()
+{
+    for (QWidget* window : std::exchange(m_open, {})) {
+        m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
+        window->disconnect(this);
+        delete window;
+    }
+}
+
+void Windows::openMain(const QString& activationToken)
+{
+    if (!m_main)
+        makeMain();
+    raise(*m_main, activationToken);
+    if (m_welcome)
+        raise(*m_welcome, {});
+}
+
+void Windows::openDay(QDate day, const QString& activationToken)
+{
+    openMain(activationToken);
+    if (day.isValid())
+        m_main->showDay(day);
+}
+
+void Windows::makeMain()
+{
+    m_main = new ContentView(m_parts);
+    prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), firstMainSize);
+    connect(m_main, &ContentView::windowRequested, this, &Windows::open);
+    connect(m_main, &ContentView::painted, this, &Windows::mainPainted);
+    // The first run is led through over the window, once that is there.
+    if (m_parts.settings.firstTime)
+        connect(m_main, &ContentView::painted, this, &Windows::openWelcome);
+}
+
+void Windows::open(WindowId id)
+{
+    QPointer<QWidget>& window = m_others[id];
+    if (!window)
+        window = makeWindow(id);
+    raise(*window, {});
+}
+
+void Windows::openWelcome()
+{
+    if (!m_main)
+        makeMain();
+    raise(*m_main, {});
+    if (!m_welcome)
+        m_welcome = new WelcomeView(m_parts, m_main);
+    raise(*m_welcome, {});
+}
+
+QWidget* Windows::makeWindow(WindowId id)
+{
+    switch (id) {
+    case WindowId::calendarViewSettings: {
+        auto* window = makeCardPage(new CalendarViewSettingsView(m_parts.viewSettings));
+        prepare(*window, u"calendarViewSettings"_s, tr("Calendar View Settings"), {});
+        return window;
+    }
+    case WindowId::help: {
+        auto* window = makeCardPage(new HelpView(m_parts.viewSettings));
+        prepare(*window, u"help"_s, tr("Help"), {});
+        return window;
+    }
+    case WindowId::settings:
+        break;
+    }
+    auto* window = new SettingsView(m_parts);
+    prepare(*window, u"settings"_s, tr("Settings"), firstSettingsSize);
+    connect(window, &SettingsView::welcomeRequested, this, [this, window] {
+        openWelcome();
+        window->close();
+    });
+    return window;
+}
+
+void Windows::prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize)
+{
+    window.setObjectName(name);
+    window.setWindowTitle(title);
+    window.setAttribute(Qt::WA_DeleteOnClose);
+    window.installEventFilter(this);
+    addShortcuts(window);
+    if (firstSize.isEmpty())
+        firstSize = window.sizeHint();
+    if (!window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window))))
+        window.resize(firstSize.boundedTo(window.screen()->availableSize()));
+    m_open.append(&window);
+    connect(&window, &QObject::destroyed, this, &Windows::forget);
+}
+
+void Windows::addShortcuts(QWidget& window)
+{
+    const auto add = [&window](const QKeySequence& keys, auto* receiver, auto action) {
+        connect(new QShortcut(keys, &window), &QShortcut::activated, receiver, action);
+    };
+    // Not quit(), which closes the windows first and lets each of them have its say.
+    add(Qt::CTRL | Qt::Key_Q, this, [] { QCoreApplication::exit(); });
+    add(Qt::CTRL | Qt::Key_W, &window, &QWidget::close);
+    add(Qt::CTRL | Qt::Key_Comma, this, [this] { open(WindowId::settings); });
+    add(Qt::Key_F1, this, [this] { open(WindowId::help); });
+    if (&window != m_main)
+        add(Qt::Key_Escape, &window, &QWidget::close);
+}
+
+bool Windows::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        auto* window = static_cast<QWidget*>(watched);
+        m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Windows::forget(QObject* window)
+{
+    m_open.removeOne(window);
+    if (m_open.isEmpty())
+        Q_EMIT lastClosed();
+}
