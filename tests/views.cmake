@@ -10,8 +10,10 @@ pellory_test(views
         views/PagesTest.cpp
         views/ProgressBarTest.cpp
         views/ProgressWidgetViewTest.cpp
+        views/SettingsTest.cpp
         views/ThemeTest.cpp
         views/TrackingIndicatorTest.cpp
+        views/WindowsTest.cpp
     LINKS Pellory::views SQLiteCpp Qt6::Test
 )
 pellory_test(app

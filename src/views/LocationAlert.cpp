@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "Button.h"
+#include "ButtonRow.h"
 #include "Card.h"
 #include "Labels.h"
 #include "LocationManager.h"
@@ -27,18 +28,18 @@ LocationAlert::LocationAlert(const ViewParts& parts, TrackingStatus& status, QWi
     auto* card = new Card;
     auto* around = new QVBoxLayout(this);
     around->setContentsMargins(24, 20, 24, 0);
-    around->addWidget(card);
+    around->addWidget(card, 0, Qt::AlignHCenter);
+    card->setFixedWidth(Card::contentWidth);
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(20, 16, 20, 16);
     column->addWidget(labels::strong(accessibleName()));
     column->addWidget(labels::text(
         tr("You have automatic in office tracking enabled, but the app doesn't have access to your location.")));
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(disable);
-    row->addWidget(m_access);
+    auto* buttons = new ButtonRow(Qt::AlignRight);
+    buttons->add(disable);
+    buttons->add(m_access);
     column->addSpacing(4);
-    column->addLayout(row);
+    column->addWidget(buttons);
     connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::giveAccess);
     connect(disable, &QAbstractButton::clicked, this, [&parts] { parts.settings.wifiTrackingEnabled = false; });
     connect(&status, &TrackingStatus::changed, this, &LocationAlert::refresh);

@@ -2,6 +2,7 @@
 #include "MonthCard.h"
 
 #include "CalendarView.h"
+#include "Centred.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
 #include "ViewParts.h"
@@ -19,7 +20,7 @@ MonthCard::MonthCard(const ViewParts& parts, QWidget* parent)
     m_column->setContentsMargins(0, 16, 0, 20);
     m_column->setSpacing(8);
     m_column->addWidget(m_calendar, 0, Qt::AlignHCenter);
-    m_column->addWidget(m_tracker, 0, Qt::AlignHCenter);
+    addCentred(*m_column, m_tracker);
     m_column->addStretch();
 
     const auto& shown = parts.viewSettings.showMonthStats;

@@ -2,6 +2,7 @@
 #include "MonthView.h"
 
 #include "CalendarView.h"
+#include "Centred.h"
 #include "Clock.h"
 #include "Month.h"
 #include "MonthCard.h"
@@ -44,7 +45,7 @@ void MonthView::build()
     m_quarter->setFixedWidth(Card::contentWidth);
     auto* quarterColumn = new QVBoxLayout(m_quarter);
     quarterColumn->setContentsMargins(0, 16, 0, 20);
-    quarterColumn->addWidget(m_quarterTracker, 0, Qt::AlignHCenter);
+    addCentred(*quarterColumn, m_quarterTracker);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(24, 20, 24, 20);

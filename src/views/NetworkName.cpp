@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr char16_t controlPictures = u'\u2400';
-constexpr char16_t firstPrintable = u' ';
 constexpr char16_t visibleBlank = u'\u2423';
 constexpr char16_t unknownSign = u'\ufffd';
 constexpr char16_t isolate = u'\u2068';
@@ -24,13 +22,6 @@ bool isSeen(QChar character)
     }
 }
 
-QChar shown(QChar character)
-{
-    if (isSeen(character))
-        return character;
-    return character.unicode() < firstPrintable ? QChar(controlPictures + character.unicode()) : QChar(unknownSign);
-}
-
 } // namespace
 
 QString shownNetworkName(const QString& ssid)
@@ -38,7 +29,10 @@ QString shownNetworkName(const QString& ssid)
     QString name;
     for (qsizetype i = 0; i < ssid.size(); ++i) {
         const bool isAtAnEnd = i == 0 || i == ssid.size() - 1;
-        name += isAtAnEnd && ssid.at(i).isSpace() ? QChar(visibleBlank) : shown(ssid.at(i));
+        if (isAtAnEnd && ssid.at(i).isSpace())
+            name += QChar(visibleBlank);
+        else
+            name += isSeen(ssid.at(i)) ? ssid.at(i) : QChar(unknownSign);
     }
     return QChar(isolate) + name + QChar(endOfIsolate);
 }

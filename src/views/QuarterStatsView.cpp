@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QuarterStatsView.h"
 
+#include "Centred.h"
 #include "Clock.h"
 #include "Fonts.h"
 #include "Month.h"
@@ -37,7 +38,7 @@ QuarterStatsView::QuarterStatsView(const ViewParts& parts, bool showNavigation, 
     column->addWidget(m_title);
     column->addWidget(m_workdays);
     column->addSpacing(10);
-    column->addWidget(m_tracker, 0, Qt::AlignHCenter);
+    addCentred(*column, m_tracker);
     column->addStretch();
 
     m_navigation->setVisible(showNavigation);

@@ -3,8 +3,10 @@
 
 #include "AppSettings.h"
 #include "Button.h"
+#include "ButtonRow.h"
 #include "CalendarView.h"
 #include "Card.h"
+#include "Centred.h"
 #include "Clock.h"
 #include "DaysPerWeekGoalView.h"
 #include "Follow.h"
@@ -78,11 +80,10 @@ public:
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins({});
         column->addWidget(m_text);
-        auto* row = new QHBoxLayout;
-        row->addWidget(m_grant);
-        row->addWidget(m_open);
-        row->addStretch();
-        column->addLayout(row);
+        auto* buttons = new ButtonRow(Qt::AlignLeft);
+        buttons->add(m_grant);
+        buttons->add(m_open);
+        column->addWidget(buttons);
         connect(m_grant, &QAbstractButton::clicked, &manager.locationManager(),
                 &LocationAuthorization::requestAlwaysAuthorization);
         connect(m_open, &QAbstractButton::clicked, &manager, &LocationManager::openLocationSettings);
@@ -125,7 +126,7 @@ QWidget* welcome::makeIntroduction(const ViewParts& parts)
     tracker->setMonths({sample});
     column->addWidget(calendar, 0, Qt::AlignHCenter);
     column->addSpacing(8);
-    column->addWidget(tracker, 0, Qt::AlignHCenter);
+    addCentred(*column, tracker);
     column->addStretch();
     return step;
 }

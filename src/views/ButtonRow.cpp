@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ButtonRow.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+
+ButtonRow::ButtonRow(Qt::Alignment edge, QWidget* parent)
+    : QWidget(parent)
+    , m_edge(edge)
+    , m_buttons(new QBoxLayout(QBoxLayout::LeftToRight, this))
+{
+    m_buttons->setContentsMargins({});
+    m_buttons->setSizeConstraint(QLayout::SetNoConstraint);
+    m_buttons->addStretch(edge == Qt::AlignRight ? 1 : 0);
+    m_buttons->addStretch(edge == Qt::AlignRight ? 0 : 1);
+}
+
+void ButtonRow::add(QWidget* button)
+{
+    m_buttons->insertWidget(m_buttons->count() - 1, button, 0, m_edge);
+}
+
+QSize ButtonRow::minimumSizeHint() const
+{
+    int widest = 0;
+    for (const auto* button : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        widest = qMax(widest, button->isHidden() ? 0 : button->sizeHint().width());
+    return {widest, m_buttons->minimumSize().height()};
+}
+
+bool ButtonRow::event(QEvent* event)
+{
+    // A button may have got a longer text.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        arrange();
+    return QWidget::event(event);
+}
+
+void ButtonRow::arrange()
+{
+    m_buttons->setDirection(width() < wholeWidth() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+int ButtonRow::wholeWidth() const
+{
+    int width = 0;
+    for (const auto* button : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        width += button->isHidden() ? 0 : button->sizeHint().width() + m_buttons->spacing();
+    return width;
+}

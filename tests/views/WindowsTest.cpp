@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Windows.h"
+#include "CalendarView.h"
+#include "ContentView.h"
+#include "HelpView.h"
+#include "LegendView.h"
+#include "LocationAlert.h"
+#include "MarkedTextLabel.h"
+#include "MonthView.h"
+#include "SettingsView.h"
+#include "SsidSettingsView.h"
+#include "Switch.h"
+#include "ViewTest.h"
+#include "WelcomeView.h"
+#include "WindowId.h"
+
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTranslator>
+
+class WindowsTest : public ViewTest {
+protected:
+    WindowsTest() { settings->firstTime = false; }
+
+    /// The view in a window that can be worked with.
+    template <class View> static View* shown()
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            auto* view = qobject_cast<View*>(window);
+            if (view == nullptr)
+                view = window->findChild<View*>();
+            if (view == nullptr || !view->window()->isVisible())
+                continue;
+            view->window()->activateWindow();
+            if (QTest::qWaitForWindowActive(view->window()))
+                return view;
+        }
+        return nullptr;
+    }
+    static void push(const QWidget& view, const char* name)
+    {
+        click(*view.findChild<QAbstractButton*>(QString::fromLatin1(name)));
+    }
+
+    Windows windows{parts};
+};
+
+TEST_F(WindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
+{
+    const QSignalSpy closed(&windows, &Windows::lastClosed);
+    windows.openMain();
+    auto* main = shown<ContentView>();
+    for (int i = 0; i < 2; ++i) {
+        press(*main, Qt::Key_Comma, Qt::ControlModifier);
+        press(*main, Qt::Key_F1);
+    }
+    EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible), 3);
+    press(*shown<SettingsView>(), Qt::Key_Escape);
+    press(*shown<HelpView>()->window(), Qt::Key_W, Qt::ControlModifier);
+    ASSERT_EQ(shown<ContentView>(), main);
+    press(*main, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(viewSettings.selectedTab, 2);
+    press(*main, Qt::Key_1, Qt::ControlModifier);
+    press(*main, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2026, 10}));
+    windows.openDay(QDate(2025, 2, 3));
+    EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2025, 2}));
+    EXPECT_TRUE(
+        eventually([&] { return main->findChild<MonthView*>()->findChild<CalendarView*>()->focusedDay() == 3; }));
+    main->resize(700, 640);
+    EXPECT_EQ(closed.size(), 0);
+    press(*main, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(eventually([&] { return closed.size() == 1; }));
+    windows.openMain();
+    EXPECT_EQ(shown<ContentView>()->size(), QSize(700, 640));
+}
+
+TEST_F(WindowsTest, aSwitchIsTheSameInEveryWindow)
+{
+    windows.openMain();
+    windows.open(WindowId::calendarViewSettings);
+    windows.open(WindowId::help);
+    QList<Switch*> switches;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        switches += window->findChildren<Switch*>();
+    const auto hover = [&] {
+        QList<bool> states;
+        for (const Switch* each : switches) {
+            if (each->text() == u"Show day status on hover"_s)
+                states.append(each->isChecked());
+        }
+        return states;
+    };
+    EXPECT_EQ(hover(), QList({true, true}));
+    auto& legend = *shown<LegendView>();
+    click(*legend.findChild<Switch*>());
+    EXPECT_EQ(hover(), QList({false, false}));
+    EXPECT_EQ(stored.value("calendarViewShowStatusLabelOnHover"), QVariant(false));
+    EXPECT_TRUE(shownTexts(legend).contains(u": Open Status Picker Menu "_s));
+    EXPECT_TRUE(shownTexts(legend).contains(u"Weekend Day"_s));
+}
+
+TEST_F(WindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
+{
+    settings->wifiTrackingEnabled = true;
+    windows.openMain();
+    auto* alert = shown<ContentView>()->findChild<LocationAlert*>();
+    EXPECT_FALSE(alert->isVisible());
+    authorization.change(AuthorizationStatus::notDetermined);
+    EXPECT_TRUE(eventually([&] { return alert->isVisible(); }));
+    EXPECT_CALL(authorization, requestAlwaysAuthorization);
+    push(*alert, "giveAccess");
+    authorization.change(AuthorizationStatus::denied);
+    QCoreApplication::processEvents();
+    EXPECT_CALL(systemSettings, openLocationSettings);
+    push(*alert, "giveAccess");
+    authorization.change(AuthorizationStatus::authorizedAlways);
+    EXPECT_TRUE(eventually([&] { return !alert->isVisible(); }));
+    authorization.change(AuthorizationStatus::restricted);
+    EXPECT_TRUE(eventually([&] { return alert->isVisible(); }));
+    push(*alert, "disableTracking");
+    EXPECT_FALSE(settings->wifiTrackingEnabled);
+    EXPECT_FALSE(alert->isVisible());
+}
+
+TEST_F(WindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
+{
+    settings->firstTime = true;
+    settings->wifiTrackingEnabled = true;
+    settings->inOfficeSsids = {u"Office"_s};
+    for (const bool completes : {false, true}) {
+        windows.openMain();
+        WelcomeView* welcome = nullptr;
+        ASSERT_TRUE(eventually([&] { return (welcome = shown<WelcomeView>()) != nullptr; }));
+        click(dayButton(*welcome, 20)); // unknown in the sample as well
+        EXPECT_EQ(welcome->findChild<MarkedTextLabel*>(u"headline"_s)->text(), u"5 days in the office this month"_s);
+        for (int step = 1; step < 5; ++step)
+            press(*welcome, Qt::Key_Return);
+        EXPECT_TRUE(shownTexts(*welcome).contains(u"Office networks: 1"_s));
+        push(*welcome, "back");
+        EXPECT_TRUE(welcome->findChild<SsidSettingsView*>()->isVisible());
+        push(*welcome, "skip");
+        if (completes)
+            push(*welcome, "next");
+        else
+            press(*welcome, Qt::Key_Escape);
+        EXPECT_EQ(settings->firstTime, !completes);
+        shown<ContentView>()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    const auto november = month(2026, 11);
+    EXPECT_EQ(november->days.value().at(*november->indexOf(20)).state, DayState::IN_OFFICE); // by the one check
+    EXPECT_EQ(november->days.value().at(*november->indexOf(19)).state, DayState::UNKNOWN);
+    EXPECT_EQ(november->days.value().at(*november->indexOf(2)).state, DayState::UNKNOWN); // not that of the sample
+}
+
+// Every text a third longer, as another language may have it.
+class LongerTexts : public QTranslator {
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* /*context*/, const char* text, const char* /*disambiguation*/,
+                                    int /*n*/) const override
+    {
+        const QString words = QString::fromUtf8(text);
+        return words.size() < 4 ? words : words + u" ~~~~"_s.repeated((words.size() + 14) / 15);
+    }
+};
+
+// The shown texts that have less room than they need.
+QStringList clippedTexts(int& texts)
+{
+    QStringList clipped;
+    for (const QWidget* each : QApplication::allWidgets()) {
+        const bool isText = qobject_cast<const QLabel*>(each) != nullptr;
+        if (!each->isVisible() || !(isText || qobject_cast<const QAbstractButton*>(each) != nullptr))
+            continue;
+        ++texts;
+        const QSize least = each->minimumSizeHint();
+        const int height = each->hasHeightForWidth() ? each->heightForWidth(each->width()) : least.height();
+        const int right = each->mapTo(each->window(), each->rect().topRight()).x();
+        if (each->width() < least.width() || each->height() < height || right > each->window()->width())
+            clipped.append(each->window()->objectName() + u": "_s + each->property("text").toString());
+    }
+    return clipped;
+}
+
+TEST_F(WindowsTest, clipNoTextThatIsLonger)
+{
+    LongerTexts texts;
+    QCoreApplication::installTranslator(&texts);
+    const auto restore = qScopeGuard([&] { QCoreApplication::removeTranslator(&texts); });
+    settings->wifiTrackingEnabled = true;
+    wifiClient.interface->powerOn = false;
+    authorization.status = AuthorizationStatus::denied;
+    windows.openWelcome();
+    windows.open(WindowId::settings);
+    windows.open(WindowId::help);
+    windows.open(WindowId::calendarViewSettings);
+    auto* tabs = shown<SettingsView>()->findChild<QTabBar*>();
+    int count = 0;
+    for (int step = 0; step < 5; ++step) {
+        tabs->setCurrentIndex(step % tabs->count());
+        EXPECT_TRUE(eventually([&] { return clippedTexts(count).isEmpty(); }))
+            << qPrintable(clippedTexts(count).join(u'\n'));
+        push(*shown<WelcomeView>(), "next");
+    }
+    EXPECT_GT(count, 100);
+}
