@@ -14,6 +14,8 @@
 #include "SystemClock.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
+#include "WindowId.h"
+#include "Windows.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -74,25 +76,30 @@ public:
     }
 };
 
-void monthChange(benchmark::State& state)
-{
+/// What windows are made of, without a network.
+struct Parts {
     const QTemporaryDir folder;
-    QSettings settings(folder.filePath(u"settings"_s), QSettings::IniFormat);
-    ViewSettings viewSettings(settings);
+    QSettings settings{folder.filePath(u"settings"_s), QSettings::IniFormat};
+    ViewSettings viewSettings{settings};
     AppSettings appSettings;
     SystemClock clock;
-    const auto container = openStore(sampleStore());
+    std::unique_ptr<ModelContainer> container = openStore(sampleStore());
     NetworkManagerWiFiClient wifiClient;
     NetworkManagerAuthorization authorization;
     DesktopSystemSettings systemSettings;
-    LocationManagerKey locationManager(authorization, systemSettings);
+    LocationManagerKey locationManager{authorization, systemSettings};
     FreedesktopNotifier notifier;
-    InOfficeCheck check({*container, appSettings, wifiClient, notifier, clock});
-    AutostartEntry loginItem(folder.path(), {});
-    LaunchAtLogin launchAtLogin(loginItem);
+    InOfficeCheck check{{*container, appSettings, wifiClient, notifier, clock}};
+    AutostartEntry loginItem{folder.path(), {}};
+    LaunchAtLogin launchAtLogin{loginItem};
     const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient,
                           locationManager,          check,       launchAtLogin};
-    ContentView window(parts);
+};
+
+void monthChange(benchmark::State& state)
+{
+    const Parts parts;
+    ContentView window(parts.parts);
     window.show();
     QApplication::processEvents();
 
@@ -110,9 +117,28 @@ void monthChange(benchmark::State& state)
         state.SkipWithError("a month was shown without being painted");
 }
 
+void openWindow(benchmark::State& state, WindowId id)
+{
+    const Parts parts;
+    PaintCounter counter;
+    qApp->installEventFilter(&counter);
+    while (state.KeepRunning()) {
+        Windows windows(parts.parts);
+        windows.open(id);
+        QApplication::processEvents();
+    }
+    if (counter.paints < state.iterations())
+        state.SkipWithError("a window was opened without being painted");
+}
+
 BENCHMARK(statisticsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(monthChange)->MeasureProcessCPUTime();
+BENCHMARK_CAPTURE(openWindow, settings, WindowId::settings)->Name("openWindow:settings")->MeasureProcessCPUTime();
+BENCHMARK_CAPTURE(openWindow, help, WindowId::help)->Name("openWindow:help")->MeasureProcessCPUTime();
+BENCHMARK_CAPTURE(openWindow, views, WindowId::calendarViewSettings)
+    ->Name("openWindow:calendar view settings")
+    ->MeasureProcessCPUTime();
 BENCHMARK(openStoreOf1200Months)->MeasureProcessCPUTime();
 
 } // namespace
