@@ -100,6 +100,7 @@ void monthChange(benchmark::State& state)
 {
     const Parts parts;
     ContentView window(parts.parts);
+    window.resize(534, 860);
     window.show();
     QApplication::processEvents();
 

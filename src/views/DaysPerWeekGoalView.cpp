@@ -108,6 +108,7 @@ DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal
                   new IconButton(Symbol::Cross, {})};
     for (int column = 0; QWidget * control : row.controls())
         m_table->addWidget(control, place, column++);
+    row.remove->setQuiet();
     bind(row);
     return row;
 }

@@ -36,6 +36,12 @@ void IconButton::setHelp(const QString& text)
     setAccessibleName(text);
 }
 
+void IconButton::setQuiet()
+{
+    m_quiet = true;
+    update();
+}
+
 QSize IconButton::sizeHint() const
 {
     return wholeSize;
@@ -44,7 +50,7 @@ QSize IconButton::sizeHint() const
 QColor IconButton::color() const
 {
     const Theme& theme = themeFor(palette());
-    return isEnabled() ? theme.text : theme.dimText;
+    return isEnabled() && !m_quiet ? theme.text : theme.dimText;
 }
 
 void IconButton::focusInEvent(QFocusEvent* event)

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] Symbol symbol() const { return m_symbol; }
     /// Sets what it says.
     void setHelp(const QString& text);
+    /// Draws it paler than text, for where many stand below each other.
+    void setQuiet();
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -31,5 +33,6 @@ protected:
 
 private:
     Symbol m_symbol;
+    bool m_quiet = false;
     FocusVisible m_focusVisible;
 };

@@ -62,6 +62,7 @@ void NetworkList::setNetworks(const QStringList& networks, const QString& emptyT
 NetworkList::Row NetworkList::makeRow()
 {
     const Row row{new QWidget, new NameLabel, new IconButton(Symbol::Plus, {})};
+    row.button->setQuiet();
     row.name->setTextFormat(Qt::PlainText);
     row.name->setFont(fonts::body(font()));
     auto* line = new QHBoxLayout(row.whole);

@@ -15,11 +15,6 @@ Page::Page(QWidget* contents, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
-QSize Page::sizeHint() const
-{
-    return widget()->sizeHint();
-}
-
 Page* makeCardPage(QWidget* contents)
 {
     auto* card = new Card;

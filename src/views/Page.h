@@ -10,9 +10,6 @@ class Page : public QScrollArea {
 public:
     /// Takes the contents over.
     explicit Page(QWidget* contents, QWidget* parent = nullptr);
-
-    /// As large as its contents, which is what a window opens with.
-    [[nodiscard]] QSize sizeHint() const override;
 };
 
 /// A page with these contents on a card.

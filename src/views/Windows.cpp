@@ -25,6 +25,8 @@ namespace {
 
 constexpr QSize firstMainSize(534, 860);
 constexpr QSize firstSettingsSize(560, 660);
+// How large a frame is, is only known when the window is there.
+constexpr QSize roomForFrame(16, 48);
 
 QString geometryKey(const QWidget& window)
 {
@@ -108,12 +110,12 @@ QWidget* Windows::makeWindow(WindowId id)
     switch (id) {
     case WindowId::calendarViewSettings: {
         auto* window = makeCardPage(new CalendarViewSettingsView(m_parts.viewSettings));
-        prepare(*window, u"calendarViewSettings"_s, tr("Calendar View Settings"), {});
+        prepare(*window, u"calendarViewSettings"_s, tr("Calendar View Settings"), window->widget()->sizeHint());
         return window;
     }
     case WindowId::help: {
         auto* window = makeCardPage(new HelpView(m_parts.viewSettings));
-        prepare(*window, u"help"_s, tr("Help"), {});
+        prepare(*window, u"help"_s, tr("Help"), window->widget()->sizeHint());
         return window;
     }
     case WindowId::settings:
@@ -135,10 +137,8 @@ void Windows::prepare(QWidget& window, const QString& name, const QString& title
     window.setAttribute(Qt::WA_DeleteOnClose);
     window.installEventFilter(this);
     addShortcuts(window);
-    if (firstSize.isEmpty())
-        firstSize = window.sizeHint();
     if (!window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window))))
-        window.resize(firstSize.boundedTo(window.screen()->availableSize()));
+        window.resize(firstSize.boundedTo(window.screen()->availableSize() - roomForFrame));
     m_open.append(&window);
     connect(&window, &QObject::destroyed, this, &Windows::forget);
 }
