@@ -23,6 +23,10 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
         if (className == name)
             return new QAccessibleWidget(static_cast<QWidget*>(object), role);
     }
+    // To the toolkit a window that is neither main window nor dialog is no more than a place for something.
+    const bool isView = className == "ContentView"_L1 || className == "SettingsView"_L1 || className == "Page"_L1;
+    if (isView && static_cast<QWidget*>(object)->isWindow())
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
     return nullptr;
 }
 

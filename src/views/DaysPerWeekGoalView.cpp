@@ -121,6 +121,7 @@ void DaysPerWeekGoalView::bind(const Row& row)
         if (!row.daysPerWeek->hasFocus())
             row.daysPerWeek->setText(row.goal->wantedDaysPerWeek);
         row.remove->setHelp(tr("Remove the goal %1").arg(row.goal->wantedDaysPerWeek));
+        row.description->setAccessibleName(tr("Description of the goal %1").arg(row.goal->wantedDaysPerWeek));
     });
     follow(goal->desc, description, [row] {
         if (row.description->text() != row.goal->desc)

@@ -20,5 +20,6 @@ template <class Field, class Update> void follow(Field& field, QObject* owner, U
 inline void bindSwitch(QAbstractButton* toggle, QProperty<bool>& field)
 {
     follow(field, toggle, [toggle, &field] { toggle->setChecked(field); });
-    QObject::connect(toggle, &QAbstractButton::clicked, toggle, [&field](bool on) { field = on; });
+    // Not clicked(): what assistive technology toggles has not been clicked.
+    QObject::connect(toggle, &QAbstractButton::toggled, toggle, [&field](bool on) { field = on; });
 }

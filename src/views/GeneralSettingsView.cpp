@@ -60,5 +60,8 @@ void GeneralSettingsView::addLaunchAtLogin(QVBoxLayout& column, const ViewParts&
     connect(
         &launchAtLogin, &LaunchAtLogin::willChange, toggle,
         [&launchAtLogin, toggle] { toggle->setChecked(launchAtLogin.isEnabled()); }, Qt::QueuedConnection);
-    connect(toggle, &QAbstractButton::clicked, &launchAtLogin, &LaunchAtLogin::setEnabled);
+    connect(toggle, &QAbstractButton::toggled, &launchAtLogin, [&launchAtLogin](bool on) {
+        if (on != launchAtLogin.isEnabled())
+            launchAtLogin.setEnabled(on);
+    });
 }
