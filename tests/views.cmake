@@ -15,6 +15,7 @@ pellory_test(views
         views/TrackingIndicatorTest.cpp
         views/WindowsTest.cpp
     LINKS Pellory::views SQLiteCpp Qt6::Test
+    PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
 pellory_test(app
     SOURCES app/PelloryAppTest.cpp
@@ -27,6 +28,7 @@ pellory_test(platform
 pellory_test(network
     SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
+    PRECOMPILES <QCoroTask> <QTest> <QtDBus>
 )
 target_compile_definitions(network_test PRIVATE
     NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
