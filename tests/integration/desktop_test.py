@@ -1,0 +1,184 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The program on a display and a bus of its own, worked as a screen reader works it: by the names of what it shows."""
+import os
+import re
+import subprocess
+import tempfile
+import time
+import unittest
+from collections import namedtuple
+from contextlib import suppress
+from functools import partial
+from pathlib import Path
+
+import dbus.bus
+
+PATIENCE = 30
+PROGRAM, NAME = os.environ["PELLORY_PROGRAM"], "io.github.pellory.Pellory"
+READER, NOTIFICATIONS, WATCHER = "org.a11y.Bus", "org.freedesktop.Notifications", "org.kde.StatusNotifierWatcher"
+REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+ACCESSIBLE, ACTION, PROPERTIES = "org.a11y.atspi.Accessible", "org.a11y.atspi.Action", "org.freedesktop.DBus.Properties"
+ACTIVE, FOCUSABLE, SHOWING = 1 << 1, 1 << 11, 1 << 25
+ROLES = {"check box", "page tab", "page tab list", "push button", "text"}
+CONTROLS = ("Skip|Back|Next|Done|Month|Quarter|Tracking Off|Calendar View Settings|Settings|Help|New goal|Scan|"
+            "Show Progress Trackers|Show Quarter Stats|Show Month Stats|Show day status on hover|Run In-Office Check|"
+            'Show "Will be In Office" in Progress Tracker|Launch at login|Check Every (mins)').split("|")
+Node = namedtuple("Node", "window name states place")
+
+
+def eventually(condition):
+    deadline = time.monotonic() + PATIENCE
+    while time.monotonic() < deadline:
+        with suppress(dbus.DBusException):  # a window may go while it is asked
+            if found := condition():
+                return found
+        time.sleep(0.05)
+    raise AssertionError(f"{PATIENCE} s in vain")
+
+
+class DesktopTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        bus = f"unix:path={self.folder}/bus"
+        folders = dict.fromkeys(("HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"), str(self.folder))
+        self.environment = folders | {
+            "PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "TZ": "UTC", "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_LOGGING_RULES": "pellory.*=true",
+            "DBUS_SESSION_BUS_ADDRESS": bus, "DBUS_SYSTEM_BUS_ADDRESS": bus,
+            "ASAN_OPTIONS": "detect_leaks=0"}  # QtDBus leaks what nobody waits for any more
+        display = self.start("Xvfb", "-noreset", "-displayfd", "1")  # a server that resets refuses whoever comes then
+        self.environment["DISPLAY"] = ":" + eventually(lambda: re.search(r"^(\d+)\n", display.said(), re.MULTILINE))[1]
+        # One bus for everything, by the rules of that of screen readers: anybody may do anything.
+        rules = "--config-file=/usr/share/defaults/at-spi2/accessibility.conf"
+        self.start("dbus-daemon", rules, "--nofork", f"--address={bus}")
+        self.bus = eventually(lambda: dbus.bus.BusConnection(bus))
+        self.addCleanup(self.bus.close)
+        reader = self.mock(READER, "/org/a11y/bus", READER, "/org/a11y/bus", READER)
+        reader("AddMethod", "sssss", READER, "GetAddress", "", "s", f"ret = '{bus}'")
+        self.start("/usr/libexec/at-spi2-registryd", service=REGISTRY[0])
+
+    def start(self, *command, service=None):
+        """Starts a child that does not outlive this process; what it has said is shown in the end."""
+        said = self.folder / f"{time.monotonic_ns()}.log"
+        with open(said, "wb") as log:
+            child = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.environment,
+                                     stdin=subprocess.DEVNULL, stdout=log, stderr=log)
+        self.addCleanup(lambda: (child.terminate(), child.wait(PATIENCE), print(*command, "\n" + child.said())))
+        child.said = said.read_text
+        eventually(lambda: not service or self.bus.name_has_owner(service))
+        return child
+
+    def assert_handed_over(self, program):
+        """Another start leads to the window of the program, which stays the only one."""
+        owner = self.bus.get_name_owner(NAME)
+        self.assertEqual(self.start(PROGRAM).wait(PATIENCE), 0)
+        eventually(lambda: self.titles(ACTIVE) == ["Pellory"] and self.on_display(program, "Pellory"))
+        self.assertEqual((self.bus.get_name_owner(NAME), program.poll()), (owner, None))
+
+    def tell(self, place, interface, method, signature="", *arguments):
+        return self.bus.call_blocking(*place, interface, method, signature, arguments)
+
+    def mock(self, name, path, *options):
+        self.start("/usr/bin/python3", "-m", "dbusmock", "-l", "/dev/null", *options, service=name)
+        return partial(self.tell, (name, path), "org.freedesktop.DBus.Mock")
+
+    def walk(self, place, window=""):
+        states = self.tell(place, ACCESSIBLE, "GetState")[0]
+        if states & SHOWING:
+            name = str(self.tell(place, PROPERTIES, "Get", "ss", ACCESSIBLE, "Name"))
+            yield Node(window, name, states, place)
+            for child in self.tell(place, ACCESSIBLE, "GetChildren"):
+                yield from self.walk(child, window or name)
+
+    def shown(self, name=None, states=SHOWING):
+        return [node for program in self.tell(REGISTRY, ACCESSIBLE, "GetChildren")
+                for window in self.tell(program, ACCESSIBLE, "GetChildren")
+                for node in self.walk(window) if name in (None, node.name) and node.states & states]
+
+    def titles(self, states=SHOWING):
+        return [node.name for node in self.shown(None, states) if not node.window]
+
+    def press(self, *names, then):
+        """Presses what has these names, each as soon as it is there; then another name appears, or something holds."""
+        for name in names:
+            self.tell(eventually(lambda: self.shown(name, FOCUSABLE))[0].place, ACTION, "DoAction", "i", 0)
+        eventually(then if callable(then) else lambda: self.shown(then))
+
+    def on_display(self, program, title="", *command):
+        search = ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(program.pid), "--name", f"^{title}"]
+        return subprocess.run(search + [*command], env=self.environment, capture_output=True, timeout=PATIENCE).stdout
+
+    def close_windows(self, program, *titles):
+        for title in titles:
+            self.on_display(program, title, "windowfocus")
+            eventually(lambda: self.titles(ACTIVE) == [title])
+            self.on_display(program, title, "key", "--window", "0", "ctrl+w")
+            eventually(lambda: not self.on_display(program, title))
+
+    def test_controls_have_names_and_roles(self):
+        controls = set()
+        self.start(PROGRAM)
+        steps = [("Back" if step == 1 else "Next", f"Step {step} of 5") for step in (2, 1, 2, 3, 4, 5)]
+        for label, then in [*steps, ("Done", lambda: self.titles() == ["Pellory"]), ("Quarter", "Last Quarter"),
+                            ("Calendar View Settings", "Show Quarter Stats"), ("Help", "Weekend Day"),
+                            ("Settings", "Goals"), ("Office Networks", "Scan"), ("General", "Launch at login")]:
+            self.press(label, then=then)
+            for window, name, states, place in self.shown():
+                role = str(self.tell(place, ACCESSIBLE, "GetRoleName"))
+                # A scroll bar is known by what it scrolls.
+                if states & FOCUSABLE or self.tell(place, ACTION, "GetActions") and role != "scroll bar":
+                    controls.add((window, role, name))
+        self.assertEqual([control for control in controls if not control[2].strip() or control[1] not in ROLES], [])
+        self.assertLessEqual(set(CONTROLS), {name for _, _, name in controls})
+        self.assertEqual(len({window for window, _, _ in controls}), 5)
+        self.assertGreaterEqual(len([name for _, _, name in controls if name.endswith(", Unknown")]), 90)
+
+    def test_goes_on_without_a_window_while_it_tracks(self):
+        server = self.mock(NOTIFICATIONS, "/org/freedesktop/Notifications", "-t", "notification_daemon",
+                           "-p", '{"capabilities": "body actions"}')
+        told = partial(server, "GetMethodCalls", "s", "Notify")
+        tracking = ("Settings", "Office Networks", "Enable Automatic Tracking")
+        program = self.start(PROGRAM)
+        self.press("Skip", "Done", then=lambda: self.titles() == ["Pellory"])
+        self.press(*tracking, then="Wi-Fi or Location Off")
+        self.assert_handed_over(program)
+        self.close_windows(program, "Settings", "Pellory")
+        self.assertIn("goes on checking", eventually(told)[0][1][4])
+        server("EmitSignal", "sssav", NOTIFICATIONS, "ActionInvoked", "us", [dbus.UInt32(1), "default"])
+        eventually(lambda: self.on_display(program, "Pellory"))
+        self.close_windows(program, "Pellory")
+        self.assert_handed_over(program)
+        program.kill()
+        program.wait(PATIENCE)
+        program = self.start(PROGRAM)
+        eventually(lambda: len(told()) == 2)  # the other is of the check that it cannot make
+        self.close_windows(program, "Pellory")
+        self.assert_handed_over(program)
+        self.assertEqual(len(told()), 2)
+        self.press(*tracking, then="Tracking Off")
+        self.close_windows(program, "Pellory", "Settings")
+        self.assertEqual(program.wait(PATIENCE), 0)
+
+    def test_starts_at_login_without_a_window(self):
+        program, entry = self.start(PROGRAM), self.folder / f"autostart/{NAME}.desktop"
+        self.press("Skip", "Done", then=lambda: self.titles() == ["Pellory"])
+        self.press("Settings", "General", "Launch at login", then=entry.exists)
+        command = re.search("^Exec=(.*)$", entry.read_text(), re.MULTILINE)[1]
+        self.press("Launch at login", then=lambda: not entry.exists())
+        program.terminate()
+        self.assertEqual(program.wait(PATIENCE), 0)
+        watcher = self.mock(WATCHER, "/StatusNotifierWatcher", WATCHER, "/StatusNotifierWatcher", WATCHER)
+        watcher("AddMethod", "sssss", WATCHER, "RegisterStatusNotifierItem", "s", "", "")
+        watcher("AddProperty", "ssv", WATCHER, "IsStatusNotifierHostRegistered", False)
+        items = partial(watcher, "GetMethodCalls", "s", "RegisterStatusNotifierItem")
+        program = self.start("sh", "-c", f"exec {command}", service=NAME)
+        eventually(lambda: "Sleeping for" in program.said())
+        self.assertEqual((items(), self.titles(), self.on_display(program), items()), ([], [], b"", []))
+        watcher("UpdateProperties", "sa{sv}", WATCHER, {"IsStatusNotifierHostRegistered": True})
+        watcher("EmitSignal", "sssav", WATCHER, "StatusNotifierHostRegistered", "", [])
+        [(_, [item])] = eventually(items)
+        self.assertEqual((self.titles(), self.on_display(program)), ([], b""))
+        self.assert_handed_over(program)
+        self.press("Help", then=lambda: self.titles(ACTIVE) == ["Help"])
+        self.tell((item, "/StatusNotifierItem"), "org.kde.StatusNotifierItem", "Activate", "ii", 0, 0)
+        eventually(lambda: self.titles(ACTIVE) == ["Pellory"] and len(items()) == 1)
