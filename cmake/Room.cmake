@@ -2,7 +2,7 @@
 
 # What every target of ours is compiled with.
 add_library(pellory_options INTERFACE)
-target_compile_options(pellory_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_compile_options(pellory_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wredundant-decls)
 target_compile_definitions(pellory_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 
 # pellory_room(<name> SOURCES ... LINKS ... [USES ...] [PRECOMPILES ...])

@@ -36,7 +36,8 @@ Background::~Background() = default;
 
 void Background::lastClosed()
 {
-    if (!m_parts.settings.wifiTrackingEnabled) {
+    // Before the first run is completed nothing is checked.
+    if (!m_parts.settings.wifiTrackingEnabled || m_parts.settings.firstTime) {
         Q_EMIT quitRequested();
         return;
     }

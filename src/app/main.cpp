@@ -98,6 +98,7 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
     QObject::connect(&instance, &SingleInstance::activated, &windows, &Windows::openMain);
     QObject::connect(&computer.quitSignals, &QuitSignals::requested, &windows, quit);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
+    QObject::connect(&windows, &Windows::quitRequested, &windows, quit);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &windows, [&context] { context.save(); });
     QObject::connect(&computer.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
@@ -106,10 +107,12 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
         computer.trayHost.start();
     } else {
         // What is asked of the desktop can wait until there is something to see.
-        QObject::connect(&windows, &Windows::mainPainted, &computer.trayHost, &TrayHost::start);
+        QObject::connect(&windows, &Windows::mainPainted, &computer.trayHost, &TrayHost::start,
+                         Qt::SingleShotConnection);
         windows.openMain();
     }
-    QObject::connect(&windows, &Windows::mainPainted, &computer.appearance, &Appearance::start);
+    QObject::connect(&windows, &Windows::mainPainted, &computer.appearance, &Appearance::start,
+                     Qt::SingleShotConnection);
     return QApplication::exec();
 }
 

@@ -20,30 +20,18 @@ std::optional<double> goalNumber(const QString& text)
     return value;
 }
 
-namespace {
-
-std::optional<QString> acceptedText(const QString& daysPerWeek)
+std::optional<QString> Goal::acceptedText(const QString& daysPerWeek)
 {
     const auto number = goalNumber(daysPerWeek);
-    if (!number || *number < Goal::smallest || *number > Goal::largest)
+    if (!number || *number < smallest || *number > largest)
         return std::nullopt;
     return QString::number(*number, 'f', 2);
 }
-
-} // namespace
 
 std::shared_ptr<Goal> Goal::create(const QString& daysPerWeek, const QString& description)
 {
     const auto text = acceptedText(daysPerWeek);
     return text ? std::make_shared<Goal>(QUuid::createUuid(), *text, description) : nullptr;
-}
-
-bool Goal::setDaysPerWeek(const QString& daysPerWeek)
-{
-    const auto text = acceptedText(daysPerWeek);
-    if (text)
-        wantedDaysPerWeek = *text;
-    return text.has_value();
 }
 
 Goal::Goal(const QUuid& storedId, const QString& daysPerWeek, const QString& description)

@@ -17,8 +17,8 @@ public:
     /// A goal with a fresh identity, or none when the text is no number or lies outside `smallest` to `largest`.
     [[nodiscard]] static std::shared_ptr<Goal> create(const QString& daysPerWeek, const QString& description);
 
-    /// Takes another value, with two decimals. False, and nothing is changed, for a text that create() refuses.
-    [[nodiscard]] bool setDaysPerWeek(const QString& daysPerWeek);
+    /// The text with two decimals, as a goal keeps it; none where create() refuses it.
+    [[nodiscard]] static std::optional<QString> acceptedText(const QString& daysPerWeek);
 
     /// A goal that was stored earlier.
     Goal(const QUuid& storedId, const QString& daysPerWeek, const QString& description);

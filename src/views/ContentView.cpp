@@ -53,13 +53,6 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
     connect(m_tabs, &QTabBar::currentChanged, this, &ContentView::showTab);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
-}
-
-ContentView::~ContentView()
-{
-    // The focus moves on while the pages are taken down, when this is no more than a widget.
-    disconnect(qApp, nullptr, this, nullptr);
 }
 
 QWidget* ContentView::makeHeader()
@@ -144,14 +137,6 @@ Page* ContentView::makePage(int index)
     if (index == 0)
         return new Page(new MonthView(m_parts));
     return new Page(new QuarterView(m_parts));
-}
-
-void ContentView::keepInSight(QWidget* focused)
-{
-    auto* page = static_cast<Page*>(m_pages->currentWidget());
-    // A page that moved under a pressed button would turn the click into a drag.
-    if (page->isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
-        page->ensureWidgetVisible(focused);
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)

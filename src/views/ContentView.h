@@ -20,7 +20,6 @@ class ContentView : public QWidget {
 
 public:
     explicit ContentView(const ViewParts& parts, QWidget* parent = nullptr);
-    ~ContentView() override;
 
     /// Shows a day, in the tab that is shown, and gives it the focus.
     void showDay(QDate date);
@@ -42,7 +41,6 @@ private:
     void turnPage(Qt::Key key);
     void showTab(int index);
     [[nodiscard]] Page* makePage(int index);
-    void keepInSight(QWidget* focused);
 
     const ViewParts& m_parts;
     TrackingStatus* m_status;

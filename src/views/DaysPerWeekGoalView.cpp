@@ -80,18 +80,23 @@ void DaysPerWeekGoalView::showGoals()
     const bool isSame = std::ranges::equal(m_rows, goals, {}, &Row::goal);
     if (isSame && !goals.isEmpty())
         return;
-    for (const Row& row : std::exchange(m_rows, {})) {
-        for (QWidget* control : row.controls()) {
-            control->hide();
-            control->deleteLater();
-        }
-    }
+    QList<Row> gone = std::exchange(m_rows, {});
     QWidget* before = m_lastHeading;
     for (const auto& goal : goals) {
-        m_rows.append(makeRow(goal, firstGoalRow + static_cast<int>(m_rows.size())));
+        const auto kept = std::ranges::find(gone, goal, &Row::goal);
+        m_rows.append(kept == gone.end() ? makeRow(goal) : *kept);
+        if (kept != gone.end())
+            gone.erase(kept);
+        place(m_rows.last(), firstGoalRow + static_cast<int>(m_rows.size()) - 1);
         for (QWidget* control : m_rows.last().controls()) {
             setTabOrder(before, control);
             before = control;
+        }
+    }
+    for (const Row& row : gone) {
+        for (QWidget* control : row.controls()) {
+            control->hide();
+            control->deleteLater();
         }
     }
     m_empty->setVisible(goals.isEmpty());
@@ -102,15 +107,21 @@ std::array<QWidget*, 3> DaysPerWeekGoalView::Row::controls() const
     return {daysPerWeek, description, remove};
 }
 
-DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal>& goal, int place)
+DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal>& goal)
 {
     const Row row{goal, new TextField(tr("Days Per Week Goal")), new TextField(tr("Description")),
                   new IconButton(Symbol::Cross, {})};
-    for (int column = 0; QWidget * control : row.controls())
-        m_table->addWidget(control, place, column++);
     row.remove->setQuiet();
     bind(row);
     return row;
+}
+
+void DaysPerWeekGoalView::place(const Row& row, int place)
+{
+    for (int column = 0; QWidget * control : row.controls()) {
+        m_table->removeWidget(control);
+        m_table->addWidget(control, place, column++);
+    }
 }
 
 void DaysPerWeekGoalView::bind(const Row& row)
@@ -127,24 +138,31 @@ void DaysPerWeekGoalView::bind(const Row& row)
         if (row.description->text() != row.goal->desc)
             row.description->setText(row.goal->desc);
     });
-    connect(days, &QLineEdit::textEdited, this, [this, row](const QString& text) {
-        m_daysPerWeekGoalChangeError->setVisible(!row.goal->setDaysPerWeek(text));
+    connect(days, &QLineEdit::textEdited, this,
+            [this](const QString& text) { m_daysPerWeekGoalChangeError->setVisible(!Goal::acceptedText(text)); });
+    // Not before: on the way to a number that is refused there may be one that is not.
+    connect(days, &QLineEdit::editingFinished, days, [row] {
+        const auto accepted = Goal::acceptedText(row.daysPerWeek->text());
+        if (accepted && row.daysPerWeek->isModified())
+            row.goal->wantedDaysPerWeek = *accepted;
+        row.daysPerWeek->setText(row.goal->wantedDaysPerWeek);
     });
-    connect(days, &QLineEdit::editingFinished, days, [row] { row.daysPerWeek->setText(row.goal->wantedDaysPerWeek); });
     connect(description, &QLineEdit::textEdited, this, [row](const QString& text) { row.goal->desc = text; });
     connect(remove, &QAbstractButton::clicked, this, [this, row] { this->remove(*row.goal); });
 }
 
 void DaysPerWeekGoalView::remove(const Goal& goal)
 {
-    const auto place = std::ranges::find(m_rows, &goal, [](const Row& row) { return row.goal.get(); }) - m_rows.begin();
+    const auto row = std::ranges::find(m_rows, &goal, [](const Row& each) { return each.goal.get(); });
+    const auto place = row - m_rows.begin();
+    const bool hadFocus = std::ranges::any_of(row->controls(), &QWidget::hasFocus);
     m_settings.removeGoal(goal);
-    // Whoever works with the keyboard can go on from there.
-    if (m_rows.isEmpty())
-        m_stringValue->setFocus(Qt::TabFocusReason);
-    else
-        m_rows.at(std::min(place, m_rows.size() - 1)).remove->setFocus(Qt::TabFocusReason);
     m_daysPerWeekGoalChangeError->hide();
+    // Whoever works with the keyboard can go on from there.
+    if (hadFocus && m_rows.isEmpty())
+        m_stringValue->setFocus(Qt::TabFocusReason);
+    else if (hadFocus)
+        m_rows.at(std::min(place, m_rows.size() - 1)).remove->setFocus(Qt::TabFocusReason);
 }
 
 bool DaysPerWeekGoalView::addGoal()

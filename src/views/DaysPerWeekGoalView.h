@@ -32,7 +32,8 @@ private:
 
     void build(bool headerEnabled);
     void showGoals();
-    [[nodiscard]] Row makeRow(const std::shared_ptr<Goal>& goal, int place);
+    [[nodiscard]] Row makeRow(const std::shared_ptr<Goal>& goal);
+    void place(const Row& row, int place);
     void bind(const Row& row);
     void remove(const Goal& goal);
     bool addGoal();

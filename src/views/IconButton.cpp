@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "IconButton.h"
 
+#include "Labels.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -32,7 +33,7 @@ void IconButton::setSymbol(Symbol symbol)
 
 void IconButton::setHelp(const QString& text)
 {
-    setToolTip(text);
+    setToolTip(labels::help(text));
     setAccessibleName(text);
 }
 

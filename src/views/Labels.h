@@ -4,6 +4,7 @@
 #include "Fonts.h"
 
 #include <QLabel>
+#include <QTextDocument>
 
 /// Texts of the windows. All of them wrap, and none of them reads markup.
 namespace labels {
@@ -43,6 +44,12 @@ namespace labels {
     QLabel* label = text(words);
     label->setFont(fonts::scaled(QFont(), 1.25, QFont::Bold));
     return label;
+}
+
+/// A help text that is shown as it is, whatever a name in it looks like.
+[[nodiscard]] inline QString help(const QString& words)
+{
+    return Qt::mightBeRichText(words) ? words.toHtmlEscaped() : words;
 }
 
 } // namespace labels

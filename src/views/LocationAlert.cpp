@@ -50,7 +50,6 @@ void LocationAlert::refresh()
 {
     const bool canAsk = m_status.permission() == AuthorizationStatus::notDetermined;
     m_access->setText(canAsk ? tr("Allow Access") : tr("Open System Settings"));
-    m_access->updateGeometry();
     setVisible(m_status.isTracking() && !isAccessGranted(m_status.permission()));
 }
 

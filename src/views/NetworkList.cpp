@@ -20,7 +20,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         const QString line = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-        setToolTip(line == text() ? QString() : text().toHtmlEscaped());
+        setToolTip(line == text() ? QString() : labels::help(text()));
         QPainter painter(this);
         painter.setPen(palette().color(foregroundRole()));
         painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter, line);
@@ -50,13 +50,23 @@ void NetworkList::setNetworks(const QStringList& networks, const QString& emptyT
         m_rows.append(makeRow());
     while (m_rows.size() > networks.size()) {
         const Row last = m_rows.takeLast();
-        if (last.button->hasFocus() && !m_rows.isEmpty())
-            m_rows.last().button->setFocus(Qt::TabFocusReason);
+        leave(last.button, m_rows.isEmpty() ? nullptr : m_rows.last().button);
         last.whole->hide();
         last.whole->deleteLater();
     }
-    for (qsizetype i = 0; i < networks.size(); ++i)
+    QWidget* before = m_empty;
+    for (qsizetype i = 0; i < networks.size(); ++i) {
         showNetwork(m_rows.at(i), networks.at(i));
+        setTabOrder(before, m_rows.at(i).button);
+        before = m_rows.at(i).button;
+    }
+}
+
+void NetworkList::leave(QWidget* button, QWidget* next)
+{
+    // Left to the toolkit the focus would go on to a button that does something else.
+    if (window()->focusWidget() == button)
+        (next != nullptr ? next : this)->setFocus(Qt::TabFocusReason);
 }
 
 NetworkList::Row NetworkList::makeRow()
@@ -87,5 +97,7 @@ void NetworkList::showNetwork(const Row& row, const QString& ssid)
     const Choice choice = m_choiceOf(ssid);
     row.button->setSymbol(choice.symbol);
     row.button->setHelp(choice.help.arg(row.name->text()));
+    if (!choice.isEnabled)
+        leave(row.button, nullptr);
     row.button->setEnabled(choice.isEnabled);
 }

@@ -42,6 +42,8 @@ private:
 
     [[nodiscard]] Row makeRow();
     void showNetwork(const Row& row, const QString& ssid);
+    /// Hands the focus on where a button that has it is to go; without another one the list itself takes it.
+    void leave(QWidget* button, QWidget* next);
 
     ChoiceOf m_choiceOf;
     QVBoxLayout* m_column;

@@ -3,6 +3,7 @@
 
 #include "Card.h"
 
+#include <QApplication>
 #include <QVBoxLayout>
 
 Page::Page(QWidget* contents, QWidget* parent)
@@ -13,6 +14,20 @@ Page::Page(QWidget* contents, QWidget* parent)
     setWidget(contents);
     // The keys go to what stands on the page.
     setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
+}
+
+Page::~Page()
+{
+    // The focus moves on while the contents are taken down, when this is no more than a widget.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void Page::keepInSight(QWidget* focused)
+{
+    // A page that moved under a pressed button would turn the click into a drag.
+    if (isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
+        ensureWidgetVisible(focused);
 }
 
 Page* makeCardPage(QWidget* contents)

@@ -3,13 +3,17 @@
 
 #include <QScrollArea>
 
-/// A part of a window that scrolls where it does not fit.
+/// A part of a window that scrolls where it does not fit. What has the focus is kept in sight.
 class Page : public QScrollArea {
     Q_OBJECT
 
 public:
     /// Takes the contents over.
     explicit Page(QWidget* contents, QWidget* parent = nullptr);
+    ~Page() override;
+
+private:
+    void keepInSight(QWidget* focused);
 };
 
 /// A page with these contents on a card.

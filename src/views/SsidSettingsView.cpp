@@ -110,14 +110,13 @@ void SsidSettingsView::addInterval(QVBoxLayout& column)
         if (!field->hasFocus())
             field->setText(QLocale().toString(minutes.value()));
     });
-    connect(field, &QLineEdit::textEdited, this, [&minutes](const QString& text) {
+    connect(field, &QLineEdit::editingFinished, field, [field, &minutes] {
         bool isNumber = false;
-        const qint64 number = QLocale().toLongLong(text, &isNumber);
+        const qint64 number = QLocale().toLongLong(field->text(), &isNumber);
         if (isNumber && number >= shortestInterval && number <= longestInterval)
             minutes = number;
+        field->setText(QLocale().toString(minutes.value()));
     });
-    connect(field, &QLineEdit::editingFinished, field,
-            [field, &minutes] { field->setText(QLocale().toString(minutes.value())); });
 
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
@@ -184,7 +183,17 @@ void SsidSettingsView::refresh()
     m_selected->setNetworks(m_parts.settings.inOfficeSsids, tr("No networks selected"));
     m_inRange->setNetworks(m_isScanning ? QStringList() : m_wifiNetworks, emptyListText());
     m_scan->setText(m_isScanning ? tr("Scanning...") : tr("Scan"));
-    m_scan->setEnabled(!m_isScanning && isGranted);
+    enableScan(!m_isScanning && isGranted);
+}
+
+void SsidSettingsView::enableScan(bool isEnabled)
+{
+    // Meanwhile the focus stays here: it would go on to a button that does something else.
+    if (!isEnabled && window()->focusWidget() == m_scan)
+        setFocus(Qt::OtherFocusReason);
+    m_scan->setEnabled(isEnabled);
+    if (isEnabled && window()->focusWidget() == this)
+        m_scan->setFocus(Qt::TabFocusReason);
 }
 
 QString SsidSettingsView::emptyListText() const

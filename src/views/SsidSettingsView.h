@@ -35,6 +35,7 @@ private:
     void addCustomNetwork(QVBoxLayout& column);
     void addNetworksInRange(QVBoxLayout& column);
     void refresh();
+    void enableScan(bool isEnabled);
     [[nodiscard]] QString emptyListText() const;
 
     /// Adds a name exactly as it is, be it empty or in the list already.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingPopover.h"
 
+#include "AppSettings.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "InOfficeCheck.h"
@@ -72,8 +73,9 @@ void TrackingPopover::refresh()
     m_wifi->setText(m_status.isWiFiOn() ? tr("On") : tr("Off"));
     m_location->setText(isAccessGranted(m_status.permission()) ? tr("Allowed") : tr("Missing"));
     m_lastCheck->setText(timeText(m_parts.check.lastCheck));
-    // A check that is due is skipped while tracking is off.
-    m_nextCheck->setText(timeText(m_status.isTracking() ? m_parts.check.nextCheck : QDateTime()));
+    // A check that is due is skipped while tracking is off, and in the first run.
+    const bool isSkipped = !m_status.isTracking() || m_parts.settings.firstTime;
+    m_nextCheck->setText(timeText(isSkipped ? QDateTime() : m_parts.check.nextCheck));
     setAccessibleName(m_title->text());
     adjustSize();
 }

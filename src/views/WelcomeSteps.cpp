@@ -26,9 +26,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString translated(const char* text, int count = -1)
+QString translated(const char* text)
 {
-    return QCoreApplication::translate("WelcomeView", text, nullptr, count);
+    return QCoreApplication::translate("WelcomeView", text);
 }
 
 // A column of a step, under its heading and a few words.

@@ -11,6 +11,7 @@
 #include "WelcomeSteps.h"
 
 #include <QGridLayout>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -39,7 +40,7 @@ WelcomeView::WelcomeView(const ViewParts& parts, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(m_steps);
     column->addWidget(makeFooter());
-    resize(firstSize);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     showStep(0);
 }
 

@@ -11,7 +11,7 @@ class StepDots;
 struct ViewParts;
 
 /// Leads a new person through what Pellory does and what it can be told. What is set on the way is set at once; whoever
-/// leaves midway is led through it again at the next start.
+/// leaves midway is led through it again when the main window is next opened.
 class WelcomeView : public QDialog {
     Q_OBJECT
 

@@ -100,8 +100,10 @@ void Windows::openWelcome()
     if (!m_main)
         makeMain();
     raise(*m_main, {});
-    if (!m_welcome)
+    if (!m_welcome) {
         m_welcome = new WelcomeView(m_parts, m_main);
+        addShortcuts(*m_welcome);
+    }
     raise(*m_welcome, {});
 }
 
@@ -148,8 +150,7 @@ void Windows::addShortcuts(QWidget& window)
     const auto add = [&window](const QKeySequence& keys, auto* receiver, auto action) {
         connect(new QShortcut(keys, &window), &QShortcut::activated, receiver, action);
     };
-    // Not quit(), which closes the windows first and lets each of them have its say.
-    add(Qt::CTRL | Qt::Key_Q, this, [] { QCoreApplication::exit(); });
+    add(Qt::CTRL | Qt::Key_Q, this, &Windows::quitRequested);
     add(Qt::CTRL | Qt::Key_W, &window, &QWidget::close);
     add(Qt::CTRL | Qt::Key_Comma, this, [this] { open(WindowId::settings); });
     add(Qt::Key_F1, this, [this] { open(WindowId::help); });
@@ -162,6 +163,10 @@ bool Windows::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Close) {
         auto* window = static_cast<QWidget*>(watched);
         m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
+        // It is as good as gone: who wants it now is to get another.
+        if (window == m_main)
+            m_main.clear();
+        std::erase_if(m_others, [window](const auto& other) { return other.second == window; });
     }
     return QObject::eventFilter(watched, event);
 }

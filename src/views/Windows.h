@@ -29,10 +29,11 @@ public:
     void openWelcome();
 
 Q_SIGNALS:
-    /// The main window has drawn its contents for the first time.
+    /// A main window has drawn its contents for the first time.
     void mainPainted();
     /// The last window has been closed.
     void lastClosed();
+    void quitRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -101,11 +101,15 @@ TEST_F(SettingsTest, aGoalIsEditedInItsPlaceAndRemoved)
     EXPECT_EQ(days->text(), u"1.50"_s);
     type(*days, u"7"_s);
     EXPECT_FALSE(shownTexts(view).contains(refused));
+    description->setFocus();
     EXPECT_EQ(goals().first(), u"7.00|not fired"_s); // only an addition sorts
     EXPECT_EQ(namesOf(view), (QStringList{u"Add Goal"_s, u"Remove the goal 7.00"_s, u"Remove the goal 4.00"_s}));
+    type(*description, u"all of it"_s); // and what is being typed stays when another goal goes
     const auto buttons = view.findChildren<IconButton*>();
-    click(**std::ranges::find(buttons, u"Remove the goal 7.00"_s, &QWidget::accessibleName));
-    EXPECT_EQ(goals(), QStringList(u"4.00|all"_s));
+    const auto removal = *std::ranges::find(buttons, u"Remove the goal 7.00"_s, &QWidget::accessibleName);
+    removal->setFocus();
+    QTest::keyClick(removal, Qt::Key_Space);
+    EXPECT_EQ(goals(), QStringList(u"4.00|all of it"_s));
     EXPECT_EQ(view.focusWidget()->accessibleName(), u"Remove the goal 4.00"_s);
 }
 
@@ -146,8 +150,16 @@ TEST_F(SettingsTest, networksComeFromAScanAndByName)
     click(button(view, "addCustomNetwork"));
     EXPECT_EQ(settings->inOfficeSsids, (QStringList{u"Office"_s, u"office"_s, u"Guest "_s, u"Guest "_s, {}}));
     EXPECT_TRUE(shownTexts(view).contains(u"(empty name)"_s));
+    settings->inOfficeSsids = QStringList(u"<b>bold</b>"_s);
+    const QString help = view.findChild<NetworkList*>(u"selectedNetworks"_s)->findChild<IconButton*>()->toolTip();
+    EXPECT_TRUE(help.contains(u"&lt;b&gt;bold"_s)) << "no name is markup";
     wifiClient.failure = u"busy"_s;
-    click(scan);
+    wifiClient.isHeld = true;
+    scan.setFocus();
+    QTest::keyClick(&scan, Qt::Key_Space);
+    EXPECT_EQ(view.window()->focusWidget(), &view) << "and no button that a second key would press";
+    wifiClient.isHeld = false;
+    Q_EMIT wifiClient.letGo();
     EXPECT_TRUE(eventually([&] { return shownTexts(view).contains(u"No networks found"_s); }));
     settings->inOfficeSsids = QStringList();
     EXPECT_TRUE(shownTexts(view).contains(u"No networks selected"_s));
@@ -182,14 +194,14 @@ TEST_F(SettingsTest, whatTrackingLacksIsSaid)
     auto& minutes = field(view, "checkEveryInMinutes");
     for (const auto& [typed, kept] : {std::pair(u"45"_s, 45),
                                       {u"1440"_s, 1440},
-                                      {u"1441"_s, 144},
-                                      {u"0"_s, 144},
-                                      {u""_s, 144},
-                                      {u"7.5"_s, 7},
+                                      {u"1441"_s, 1440},
+                                      {u"0"_s, 1440},
+                                      {u""_s, 1440},
+                                      {u"7.5"_s, 1440},
                                       {u"1"_s, 1}}) {
         type(minutes, typed);
-        EXPECT_EQ(settings->checkEveryInMinutes, kept) << qPrintable(typed);
         view.findChild<Switch*>()->setFocus();
+        EXPECT_EQ(settings->checkEveryInMinutes, kept) << qPrintable(typed);
         EXPECT_EQ(minutes.text(), QString::number(kept));
     }
 }
