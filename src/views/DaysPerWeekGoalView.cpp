@@ -109,8 +109,8 @@ std::array<QWidget*, 3> DaysPerWeekGoalView::Row::controls() const
 
 DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal>& goal)
 {
-    const Row row{goal, new TextField(tr("Days Per Week Goal")), new TextField(tr("Description")),
-                  new IconButton(Symbol::Cross, {})};
+    Row row{goal, new TextField(tr("Days Per Week Goal")), new TextField(tr("Description")),
+            new IconButton(Symbol::Cross, {})};
     row.remove->setQuiet();
     bind(row);
     return row;
