@@ -37,18 +37,18 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
     , m_status(new TrackingStatus(parts, this))
+    , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
     , m_pages(new QStackedWidget)
 {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(makeHeader());
-    column->addWidget(new LocationAlert(parts, *m_status));
-    column->addWidget(m_pages);
+    m_column->setContentsMargins({});
+    m_column->setSpacing(0);
+    m_column->addWidget(makeHeader());
+    m_column->addWidget(m_pages);
     addShortcuts();
     // What is asked of the system can wait until there is something to see.
     connect(this, &ContentView::painted, m_status, &TrackingStatus::startMonitoring);
+    connect(m_status, &TrackingStatus::changed, this, &ContentView::alertIfNeeded);
 
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
@@ -101,6 +101,13 @@ void ContentView::addShortcuts()
         auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | arrow), this);
         connect(shortcut, &QShortcut::activated, this, [this, key = key] { turnPage(key); });
     }
+}
+
+void ContentView::alertIfNeeded()
+{
+    // Few people ever see it. Once it is there it knows itself when to be seen.
+    if (m_alert == nullptr && m_status->isTracking() && !isAccessGranted(m_status->permission()))
+        m_column->insertWidget(1, m_alert = new LocationAlert(m_parts, *m_status, this));
 }
 
 void ContentView::turnPage(Qt::Key key)

@@ -7,9 +7,11 @@
 #include <array>
 
 class QHBoxLayout;
+class LocationAlert;
 class Page;
 class QStackedWidget;
 class QTabBar;
+class QVBoxLayout;
 class TrackingStatus;
 struct ViewParts;
 enum class WindowId;
@@ -38,12 +40,15 @@ private:
     [[nodiscard]] QWidget* makeHeader();
     void addToolbar(QHBoxLayout& row);
     void addShortcuts();
+    void alertIfNeeded();
     void turnPage(Qt::Key key);
     void showTab(int index);
     [[nodiscard]] Page* makePage(int index);
 
     const ViewParts& m_parts;
     TrackingStatus* m_status;
+    QVBoxLayout* m_column;
+    LocationAlert* m_alert = nullptr;
     QTabBar* m_tabs;
     QStackedWidget* m_pages;
     std::array<Page*, 2> m_built{};

@@ -104,10 +104,14 @@ TEST_F(WindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
 {
     settings->wifiTrackingEnabled = true;
     windows.openMain();
-    auto* alert = shown<ContentView>()->findChild<LocationAlert*>();
-    EXPECT_FALSE(alert->isVisible());
+    const auto* main = shown<ContentView>();
+    EXPECT_EQ(main->findChild<LocationAlert*>(), nullptr);
     authorization.change(AuthorizationStatus::notDetermined);
-    EXPECT_TRUE(eventually([&] { return alert->isVisible(); }));
+    EXPECT_TRUE(eventually([&] {
+        const auto* alert = main->findChild<LocationAlert*>();
+        return alert != nullptr && alert->isVisible() && alert->y() > 0; // below the header, where it can be clicked
+    }));
+    const auto* alert = main->findChild<LocationAlert*>();
     EXPECT_CALL(authorization, requestAlwaysAuthorization);
     push(*alert, "giveAccess");
     authorization.change(AuthorizationStatus::denied);
