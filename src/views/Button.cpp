@@ -67,9 +67,5 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.dimText);
     painter.drawText(area, Qt::AlignCenter | Qt::TextShowMnemonic, text());
-    if (hasFocus() && m_focusVisible) {
-        painter.setPen(QPen(theme.accent, 2.0));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2, radius + 2);
-    }
+    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2);
 }

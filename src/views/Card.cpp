@@ -4,6 +4,16 @@
 #include "Theme.h"
 
 #include <QPainter>
+#include <QVBoxLayout>
+
+Card* Card::around(QWidget* contents)
+{
+    auto* card = new Card;
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(20, 18, 20, 18);
+    inside->addWidget(contents);
+    return card;
+}
 
 void Card::paintEvent(QPaintEvent* /*event*/)
 {

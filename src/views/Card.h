@@ -10,6 +10,9 @@ class Card : public QWidget {
 public:
     using QWidget::QWidget;
 
+    /// A card that holds these contents, with room around them.
+    [[nodiscard]] static Card* around(QWidget* contents);
+
     /// Inner width of a card, in which trackers and grids stand centred.
     static constexpr int contentWidth = 470;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DaysPerWeekGoalView.h"
 
+#include "EntryRow.h"
 #include "Follow.h"
 #include "IconButton.h"
 #include "Labels.h"
@@ -49,9 +50,7 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     m_table->setHorizontalSpacing(8);
     m_table->setVerticalSpacing(6);
     m_table->setColumnStretch(1, 1);
-    auto* days = labels::dim(tr("Days Per Week Goal"));
-    days->setWordWrap(false);
-    m_table->addWidget(days, 0, 0);
+    m_table->addWidget(labels::unwrapped(labels::dim(tr("Days Per Week Goal"))), 0, 0);
     m_table->addWidget(m_lastHeading, 0, 1);
     column->addLayout(m_table);
     column->addWidget(m_empty);
@@ -60,18 +59,11 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     m_stringValue->setObjectName("stringValue"_L1);
     auto* add = new IconButton(Symbol::Plus, tr("Add Goal"));
     add->setObjectName("addGoal"_L1);
-    auto* entry = new QHBoxLayout;
-    entry->addWidget(m_stringValue);
-    entry->addWidget(add);
+    auto* entry = makeEntryRow(m_stringValue, add, [this](const QString& text) { return addGoal(text); });
     entry->addStretch();
     column->addSpacing(6);
     column->addLayout(entry);
     column->addWidget(m_error);
-    connect(add, &QAbstractButton::clicked, this, &DaysPerWeekGoalView::addGoal);
-    connect(m_stringValue, &QLineEdit::returnPressed, this, [this] {
-        if (addGoal())
-            m_stringValue->clear();
-    });
 }
 
 void DaysPerWeekGoalView::showGoals()
@@ -165,9 +157,9 @@ void DaysPerWeekGoalView::remove(const Goal& goal)
         m_rows.at(std::min(place, m_rows.size() - 1)).remove->setFocus(Qt::TabFocusReason);
 }
 
-bool DaysPerWeekGoalView::addGoal()
+bool DaysPerWeekGoalView::addGoal(const QString& text)
 {
-    const bool isAccepted = m_settings.addGoal(m_stringValue->text());
+    const bool isAccepted = m_settings.addGoal(text);
     m_error->setVisible(!isAccepted);
     return isAccepted;
 }

@@ -36,7 +36,7 @@ private:
     void place(const Row& row, int place);
     void bind(const Row& row);
     void remove(const Goal& goal);
-    bool addGoal();
+    bool addGoal(const QString& text);
 
     AppSettings& m_settings;
     QGridLayout* m_table;

@@ -3,6 +3,10 @@
 
 #include <QFocusEvent>
 
+class QPainter;
+class QRectF;
+class QWidget;
+
 /// Whether a focus ring is of use: it is to somebody who works with the keyboard, and is in the way of the pointer.
 class FocusVisible {
 public:
@@ -17,6 +21,9 @@ public:
 
     /// To be told when a key is used.
     void show() { m_visible = true; }
+
+    /// Draws a ring where the widget has the focus and the ring is of use.
+    void drawRing(QPainter& painter, const QWidget& widget, const QRectF& place, qreal radius) const;
 
     explicit operator bool() const { return m_visible; }
 

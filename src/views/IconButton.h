@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "FocusVisible.h"
+#include "FlatButton.h"
 #include "Symbol.h"
 
-#include <QAbstractButton>
 #include <QColor>
 
 /// A button that is only a symbol. Its text is what a pointer that rests on it is shown and what assistive technology
 /// says.
-class IconButton : public QAbstractButton {
+class IconButton : public FlatButton {
     Q_OBJECT
 
 public:
@@ -28,11 +27,9 @@ protected:
     /// By default that of text.
     [[nodiscard]] virtual QColor color() const;
 
-    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Symbol m_symbol;
     bool m_quiet = false;
-    FocusVisible m_focusVisible;
 };

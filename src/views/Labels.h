@@ -6,23 +6,27 @@
 #include <QLabel>
 #include <QTextDocument>
 
-/// Texts of the windows. All of them wrap, and none of them reads markup.
+/// Texts of the windows. They wrap, and none of them reads markup.
 namespace labels {
 
-[[nodiscard]] inline QLabel* text(const QString& words)
+[[nodiscard]] inline QLabel* text(const QString& words, QPalette::ColorRole role = QPalette::WindowText)
 {
     auto* label = new QLabel(words);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setFont(fonts::body(label->font()));
+    label->setForegroundRole(role);
     return label;
 }
 
 [[nodiscard]] inline QLabel* dim(const QString& words)
 {
-    QLabel* label = text(words);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
+    return text(words, QPalette::PlaceholderText);
+}
+
+[[nodiscard]] inline QLabel* error(const QString& words)
+{
+    return text(words, QPalette::BrightText);
 }
 
 [[nodiscard]] inline QLabel* strong(const QString& words)
@@ -32,17 +36,17 @@ namespace labels {
     return label;
 }
 
-[[nodiscard]] inline QLabel* error(const QString& words)
-{
-    QLabel* label = text(words);
-    label->setForegroundRole(QPalette::BrightText);
-    return label;
-}
-
 [[nodiscard]] inline QLabel* heading(const QString& words)
 {
     QLabel* label = text(words);
     label->setFont(fonts::scaled(QFont(), 1.25, QFont::Bold));
+    return label;
+}
+
+/// The same in one line, however long it is.
+[[nodiscard]] inline QLabel* unwrapped(QLabel* label)
+{
+    label->setWordWrap(false);
     return label;
 }
 

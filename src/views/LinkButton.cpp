@@ -12,32 +12,22 @@ namespace {
 constexpr int symbolSize = 16;
 constexpr int gap = 4;
 constexpr QMargins padding(6, 4, 6, 4);
-constexpr qreal radius = 6.0;
 
 } // namespace
 
 LinkButton::LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent)
-    : QAbstractButton(parent)
+    : FlatButton(parent)
     , m_symbol(symbol)
     , m_side(side)
 {
     setText(text);
     setFont(fonts::body(font()));
-    setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 QSize LinkButton::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
     return QSize(words.width() + gap + symbolSize, qMax(words.height(), symbolSize)).grownBy(padding);
-}
-
-void LinkButton::focusInEvent(QFocusEvent* event)
-{
-    m_focusVisible.update(event->reason());
-    QAbstractButton::focusInEvent(event);
 }
 
 void LinkButton::paintEvent(QPaintEvent* /*event*/)
@@ -49,17 +39,7 @@ void LinkButton::paintEvent(QPaintEvent* /*event*/)
     const Qt::Alignment wordsEdge = m_side == SymbolSide::Leading ? Qt::AlignRight : Qt::AlignLeft;
 
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (isEnabled() && (underMouse() || isDown())) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(isDown() ? theme.border : theme.page);
-        painter.drawRoundedRect(rect(), radius, radius);
-    }
-    if (hasFocus() && m_focusVisible) {
-        painter.setPen(QPen(theme.accent, 2.0));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
-    }
+    paintFace(painter, theme.page);
     painter.setPen(color);
     painter.drawText(QStyle::visualRect(layoutDirection(), inside, inside),
                      static_cast<int>(QStyle::visualAlignment(layoutDirection(), wordsEdge) | Qt::AlignVCenter),

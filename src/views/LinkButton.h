@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "FocusVisible.h"
+#include "FlatButton.h"
 #include "Symbol.h"
 
-#include <QAbstractButton>
-
 /// A button that is only words and a symbol, in the accent colour.
-class LinkButton : public QAbstractButton {
+class LinkButton : public FlatButton {
     Q_OBJECT
 
 public:
@@ -18,11 +16,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Symbol m_symbol;
     SymbolSide m_side;
-    FocusVisible m_focusVisible;
 };

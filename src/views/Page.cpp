@@ -32,14 +32,10 @@ void Page::keepInSight(QWidget* focused)
 
 Page* makeCardPage(QWidget* contents)
 {
-    auto* card = new Card;
-    auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(20, 18, 20, 18);
-    inside->addWidget(contents);
     auto* whole = new QWidget;
     auto* column = new QVBoxLayout(whole);
     column->setContentsMargins(24, 20, 24, 20);
-    column->addWidget(card);
+    column->addWidget(Card::around(contents));
     column->addStretch();
     return new Page(whole);
 }

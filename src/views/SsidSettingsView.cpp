@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "Button.h"
+#include "EntryRow.h"
 #include "Follow.h"
 #include "IconButton.h"
 #include "InOfficeCheck.h"
@@ -60,7 +61,6 @@ SsidSettingsView::SsidSettingsView(const ViewParts& parts, bool headerEnabled, Q
     , m_selected(new NetworkList([](const QString&) -> NetworkList::Choice {
         return {Symbol::Cross, tr("Remove %1", "network")};
     }))
-    , m_customNetwork(new TextField(tr("Add custom network")))
     , m_inRange(new NetworkList([&parts](const QString& ssid) -> NetworkList::Choice {
         if (parts.settings.inOfficeSsids.value().contains(ssid))
             return {Symbol::Check, tr("%1 is an office network"), false};
@@ -120,12 +120,9 @@ void SsidSettingsView::addInterval(QVBoxLayout& column)
 
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
-    for (QWidget* part : std::initializer_list<QWidget*>{labels::text(tr("Check if in office every")), field,
-                                                         labels::text(tr("minutes"))}) {
-        if (auto* label = qobject_cast<QLabel*>(part))
-            label->setWordWrap(false);
-        row->addWidget(part);
-    }
+    row->addWidget(labels::unwrapped(labels::text(tr("Check if in office every"))));
+    row->addWidget(field);
+    row->addWidget(labels::unwrapped(labels::text(tr("minutes"))));
     row->addStretch();
     column.addLayout(row);
     column.addWidget(labels::dim(tr("If any of these networks are in range, you will be counted as in-office.")));
@@ -145,18 +142,14 @@ void SsidSettingsView::addSelectedNetworks(QVBoxLayout& column)
 
 void SsidSettingsView::addCustomNetwork(QVBoxLayout& column)
 {
-    m_customNetwork->setObjectName("customNetwork"_L1);
+    auto* field = new TextField(tr("Add custom network"));
+    field->setObjectName("customNetwork"_L1);
     auto* add = new IconButton(Symbol::Plus, tr("Add custom network"));
     add->setObjectName("addCustomNetwork"_L1);
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_customNetwork);
-    row->addWidget(add);
-    column.addLayout(row);
-    connect(m_customNetwork, &QLineEdit::returnPressed, this, [this] {
-        append(m_customNetwork->text());
-        m_customNetwork->clear();
-    });
-    connect(add, &QAbstractButton::clicked, this, [this] { append(m_customNetwork->text()); });
+    column.addLayout(makeEntryRow(field, add, [this](const QString& text) {
+        append(text);
+        return true;
+    }));
 }
 
 void SsidSettingsView::addNetworksInRange(QVBoxLayout& column)

@@ -11,7 +11,6 @@
 class Button;
 class NetworkList;
 class QLabel;
-class QLineEdit;
 class QVBoxLayout;
 class WiFiMonitor;
 struct ViewParts;
@@ -53,7 +52,6 @@ private:
     QLabel* m_wifiAdvice;
     QLabel* m_locationWarning;
     NetworkList* m_selected;
-    QLineEdit* m_customNetwork;
     NetworkList* m_inRange;
     Button* m_scan;
 };

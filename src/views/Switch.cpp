@@ -78,9 +78,5 @@ void Switch::paintTrack(QPainter& painter, const QRectF& track) const
     painter.setBrush(isChecked() ? QColor(Qt::white) : theme.dimText);
     painter.drawEllipse(QRectF(left, track.top() + knobInset, diameter, diameter));
 
-    if (hasFocus() && m_focusVisible) {
-        painter.setPen(QPen(theme.accent, 2.0));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(track.adjusted(-2.5, -2.5, 2.5, 2.5), radius + 2.5, radius + 2.5);
-    }
+    m_focusVisible.drawRing(painter, *this, track.adjusted(-2.5, -2.5, 2.5, 2.5), radius + 2.5);
 }

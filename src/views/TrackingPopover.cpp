@@ -20,11 +20,8 @@ namespace {
 
 QLabel* addRow(QFormLayout& rows, const QString& name)
 {
-    auto* value = labels::text({});
-    value->setWordWrap(false);
-    auto* label = labels::dim(name);
-    label->setWordWrap(false);
-    rows.addRow(label, value);
+    auto* value = labels::unwrapped(labels::text({}));
+    rows.addRow(labels::unwrapped(labels::dim(name)), value);
     return value;
 }
 
@@ -34,7 +31,7 @@ TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status,
     : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
     , m_parts(parts)
     , m_status(status)
-    , m_title(labels::strong({}))
+    , m_title(labels::unwrapped(labels::strong({})))
     , m_rows(new QFormLayout)
     , m_wifi(addRow(*m_rows, tr("Wi-Fi")))
     , m_location(addRow(*m_rows, tr("Location access")))
@@ -42,7 +39,6 @@ TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status,
     , m_nextCheck(addRow(*m_rows, tr("Next check")))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    m_title->setWordWrap(false);
     m_rows->setHorizontalSpacing(24);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 16);

@@ -45,11 +45,7 @@ QVBoxLayout* makeColumn(QWidget* step, const char* heading, const char* words)
 
 void addCard(QVBoxLayout& column, QWidget* contents)
 {
-    auto* card = new Card;
-    auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(20, 18, 20, 18);
-    inside->addWidget(contents);
-    column.addWidget(card);
+    column.addWidget(Card::around(contents));
     column.addStretch();
 }
 

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "EntryRow.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QLineEdit>
+
+QHBoxLayout* makeEntryRow(QLineEdit* field, QAbstractButton* button,
+                          const std::function<bool(const QString& text)>& take)
+{
+    QObject::connect(button, &QAbstractButton::clicked, field, [=] { take(field->text()); });
+    QObject::connect(field, &QLineEdit::returnPressed, field, [=] {
+        if (take(field->text()))
+            field->clear();
+    });
+    auto* row = new QHBoxLayout;
+    row->addWidget(field);
+    row->addWidget(button);
+    return row;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FlatButton.h"
+
+#include "Theme.h"
+
+#include <QPainter>
+
+FlatButton::FlatButton(QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void FlatButton::focusInEvent(QFocusEvent* event)
+{
+    m_focusVisible.update(event->reason());
+    QAbstractButton::focusInEvent(event);
+}
+
+void FlatButton::paintFace(QPainter& painter, const QColor& hovered) const
+{
+    constexpr qreal radius = 6.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isEnabled() && (underMouse() || isDown())) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isDown() ? themeFor(palette()).border : hovered);
+        painter.drawRoundedRect(rect(), radius, radius);
+    }
+    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius);
+}
