@@ -12,7 +12,7 @@
 #include "WelcomeView.h"
 #include "WindowId.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -53,6 +53,9 @@ Windows::Windows(const ViewParts& parts)
 
 Windows::~Windows()
 {
+    // What is being typed is taken when its field is left.
+    if (QWidget* focused = QApplication::focusWidget())
+        focused->clearFocus();
     for (QWidget* window : std::exchange(m_open, {})) {
         m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
         window->disconnect(this);

@@ -14,6 +14,7 @@
 #include "WelcomeView.h"
 #include "WindowId.h"
 
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTranslator>
@@ -73,6 +74,20 @@ TEST_F(WindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
     EXPECT_TRUE(eventually([&] { return closed.size() == 1; }));
     windows.openMain();
     EXPECT_EQ(shown<ContentView>()->size(), QSize(700, 640));
+}
+
+TEST_F(WindowsTest, whatIsBeingTypedIsTakenWhenTheProgramEnds)
+{
+    {
+        Windows ending(parts);
+        ending.open(WindowId::settings);
+        const auto fields = shown<SettingsView>()->findChildren<QLineEdit*>();
+        auto* days = *std::ranges::find(fields, u"4.00"_s, &QLineEdit::text);
+        days->setFocus();
+        days->selectAll();
+        QTest::keyClicks(days, u"5"_s);
+    }
+    EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek, u"5.00"_s);
 }
 
 TEST_F(WindowsTest, aSwitchIsTheSameInEveryWindow)
