@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr QMargins padding(16, 7, 16, 7);
-constexpr qreal radius = 8.0;
-constexpr int roomForRing = 3;
+constexpr QMargins buttonPadding(16, 7, 16, 7);
+constexpr qreal buttonRadius = 8.0;
+constexpr int buttonRoomForRing = 3;
 
 } // namespace
 
@@ -33,7 +33,7 @@ void Button::setProminent(bool prominent)
 
 QSize Button::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(padding + roomForRing);
+    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(buttonPadding + buttonRoomForRing);
 }
 
 void Button::focusInEvent(QFocusEvent* event)
@@ -59,13 +59,13 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     QColor face = isFilled ? palette().color(QPalette::Highlight) : theme.card;
     if (isEnabled() && (underMouse() || isDown()))
         face = isFilled ? face.darker(isDown() ? 125 : 112) : (isDown() ? theme.border : theme.trough);
-    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + roomForRing));
+    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + buttonRoomForRing));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(isFilled ? QPen(face, 1.0) : QPen(theme.border, 1.0));
     painter.setBrush(face);
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), buttonRadius, buttonRadius);
     painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.dimText);
     painter.drawText(area, Qt::AlignCenter | Qt::TextShowMnemonic, text());
-    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2);
+    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius + 2);
 }

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr QSize smallestFace(35, 26);
-constexpr int radius = 8;
+constexpr int cellRadius = 8;
 constexpr int roomForRings = 5;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
@@ -23,7 +23,8 @@ void drawRing(QPainter& painter, const QRectF& face, qreal outset, const QPen& p
 {
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(face.marginsAdded({outset, outset, outset, outset}), radius + outset, radius + outset);
+    painter.drawRoundedRect(face.marginsAdded({outset, outset, outset, outset}), cellRadius + outset,
+                            cellRadius + outset);
 }
 
 } // namespace
@@ -181,7 +182,7 @@ void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(isDown() ? m_tint.darker(115) : m_tint);
-    painter.drawRoundedRect(area, radius, radius);
+    painter.drawRoundedRect(area, cellRadius, cellRadius);
     painter.setPen(readableTextOn(m_tint));
     painter.drawText(area, Qt::AlignCenter, text());
     if (m_ringed)

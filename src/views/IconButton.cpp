@@ -10,7 +10,7 @@
 namespace {
 
 constexpr QSize wholeSize(32, 32);
-constexpr QSize symbolSize(20, 20);
+constexpr QSize iconSymbolSize(20, 20);
 
 } // namespace
 
@@ -55,5 +55,6 @@ void IconButton::paintEvent(QPaintEvent* /*event*/)
     const Theme& theme = themeFor(palette());
     QPainter painter(this);
     paintFace(painter, theme.trough);
-    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, symbolSize, rect()), m_symbol, color());
+    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, iconSymbolSize, rect()), m_symbol,
+               color());
 }

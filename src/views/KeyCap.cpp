@@ -8,14 +8,14 @@
 
 namespace {
 
-constexpr QMargins padding(5, 2, 5, 2);
-constexpr qreal radius = 4.0;
+constexpr QMargins keyPadding(5, 2, 5, 2);
+constexpr qreal keyRadius = 4.0;
 
 } // namespace
 
 QSize keyCapSize(const QString& name, const QFont& font)
 {
-    return QFontMetrics(font).size(Qt::TextSingleLine, name).grownBy(padding);
+    return QFontMetrics(font).size(Qt::TextSingleLine, name).grownBy(keyPadding);
 }
 
 void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, const QPalette& palette)
@@ -23,7 +23,7 @@ void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, con
     const Theme& theme = themeFor(palette);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme.dimText);
-    painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), keyRadius, keyRadius);
     painter.setPen(theme.text);
     painter.drawText(place, Qt::AlignCenter, name);
 }

@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr int symbolSize = 16;
-constexpr int gap = 4;
-constexpr QMargins padding(6, 4, 6, 4);
+constexpr int linkSymbolSize = 16;
+constexpr int linkGap = 4;
+constexpr QMargins linkPadding(6, 4, 6, 4);
 
 } // namespace
 
@@ -27,14 +27,14 @@ LinkButton::LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWid
 QSize LinkButton::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return QSize(words.width() + gap + symbolSize, qMax(words.height(), symbolSize)).grownBy(padding);
+    return QSize(words.width() + linkGap + linkSymbolSize, qMax(words.height(), linkSymbolSize)).grownBy(linkPadding);
 }
 
 void LinkButton::paintEvent(QPaintEvent* /*event*/)
 {
     const Theme& theme = themeFor(palette());
     const QColor color = isEnabled() ? theme.accent : theme.dimText;
-    const QRect inside = rect().marginsRemoved(padding);
+    const QRect inside = rect().marginsRemoved(linkPadding);
     const Qt::Alignment symbolEdge = m_side == SymbolSide::Leading ? Qt::AlignLeft : Qt::AlignRight;
     const Qt::Alignment wordsEdge = m_side == SymbolSide::Leading ? Qt::AlignRight : Qt::AlignLeft;
 
@@ -45,7 +45,7 @@ void LinkButton::paintEvent(QPaintEvent* /*event*/)
                      static_cast<int>(QStyle::visualAlignment(layoutDirection(), wordsEdge) | Qt::AlignVCenter),
                      text());
     const QRect symbolPlace =
-        QStyle::alignedRect(layoutDirection(), symbolEdge | Qt::AlignVCenter, {symbolSize, symbolSize}, inside);
+        QStyle::alignedRect(layoutDirection(), symbolEdge | Qt::AlignVCenter, {linkSymbolSize, linkSymbolSize}, inside);
     // A symbol that points back points the other way in a layout from right to left.
     painter.save();
     if (layoutDirection() == Qt::RightToLeft) {

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int columnWidth = 375;
-constexpr int overhang = static_cast<int>(ProgressBarGeometry::captionOverhang);
+constexpr int wordsInset = static_cast<int>(ProgressBarGeometry::captionOverhang);
 
 QString captionOf(const ValuedGoal& goal)
 {
@@ -43,7 +43,7 @@ ProgressWidgetView::ProgressWidgetView(const ViewParts& parts, PeriodWord period
     m_goal->setPlainRole(QPalette::PlaceholderText);
 
     auto* words = new QVBoxLayout;
-    words->setContentsMargins(overhang, 0, overhang, 4);
+    words->setContentsMargins(wordsInset, 0, wordsInset, 4);
     words->setSpacing(4);
     words->addWidget(m_headline);
     words->addWidget(m_goal);
@@ -51,7 +51,7 @@ ProgressWidgetView::ProgressWidgetView(const ViewParts& parts, PeriodWord period
     column->setContentsMargins({});
     column->addLayout(words);
     column->addWidget(m_bar);
-    setFixedWidth(columnWidth + 2 * overhang);
+    setFixedWidth(columnWidth + 2 * wordsInset);
     m_follower = m_shown.addNotifier([this] { refresh(); });
 }
 

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr qreal radius = 7.0;
-constexpr int gap = 3;
+constexpr qreal segmentRadius = 7.0;
+constexpr int segmentGap = 3;
 
 QFont chosenFont(const QWidget& tabs)
 {
@@ -60,14 +60,15 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.trough);
-    painter.drawRoundedRect(rect(), radius + gap, radius + gap);
+    painter.drawRoundedRect(rect(), segmentRadius + segmentGap, segmentRadius + segmentGap);
     for (int i = 0; i < count(); ++i) {
-        const QRectF segment = QRectF(tabRect(i)).marginsRemoved(QMarginsF(gap, gap, gap, gap));
+        const QRectF segment =
+            QRectF(tabRect(i)).marginsRemoved(QMarginsF(segmentGap, segmentGap, segmentGap, segmentGap));
         const bool isCurrent = i == currentIndex();
         if (isCurrent) {
             painter.setPen(hasFocus() && m_focusVisible ? QPen(theme.accent, 2.0) : QPen(theme.border, 1.0));
             painter.setBrush(theme.chosen);
-            painter.drawRoundedRect(segment, radius, radius);
+            painter.drawRoundedRect(segment, segmentRadius, segmentRadius);
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
         painter.setFont(isCurrent ? chosenFont(*this) : font());

@@ -10,8 +10,8 @@
 namespace {
 
 constexpr QSize trackSize(38, 22);
-constexpr int gap = 16;
-constexpr int roomForRing = 4;
+constexpr int switchGap = 16;
+constexpr int trackRoomForRing = 4;
 constexpr qreal knobInset = 3.5;
 
 } // namespace
@@ -27,8 +27,8 @@ Switch::Switch(const QString& text, QWidget* parent)
 QSize Switch::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return {words.width() + gap + trackSize.width() + roomForRing,
-            qMax(words.height(), trackSize.height()) + 2 * roomForRing};
+    return {words.width() + switchGap + trackSize.width() + trackRoomForRing,
+            qMax(words.height(), trackSize.height()) + 2 * trackRoomForRing};
 }
 
 bool Switch::hitButton(const QPoint& position) const
@@ -50,7 +50,7 @@ void Switch::keyPressEvent(QKeyEvent* event)
 
 void Switch::paintEvent(QPaintEvent* /*event*/)
 {
-    const QRect inside = rect().marginsRemoved({0, 0, roomForRing, 0});
+    const QRect inside = rect().marginsRemoved({0, 0, trackRoomForRing, 0});
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr QMargins padding(7, 4, 7, 4);
-constexpr qreal radius = 7.0;
+constexpr QMargins fieldPadding(7, 4, 7, 4);
+constexpr qreal fieldRadius = 7.0;
 
 } // namespace
 
@@ -22,7 +22,7 @@ TextField::TextField(const QString& prompt, QWidget* parent)
     setAccessibleName(prompt);
     // The border is drawn here, so that it fits the cards.
     setFrame(false);
-    setTextMargins(padding);
+    setTextMargins(fieldPadding);
     QPalette clear;
     clear.setColor(QPalette::Base, Qt::transparent);
     setPalette(clear);
@@ -43,7 +43,7 @@ void TextField::paintEvent(QPaintEvent* event)
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.fieldBorder, 1.0));
         painter.setBrush(theme.field);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), fieldRadius, fieldRadius);
     }
     QLineEdit::paintEvent(event);
 }

@@ -15,8 +15,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(logNotifier, "pellory.notifier", QtInfoMsg)
 
-const auto service = u"org.freedesktop.Notifications"_s;
-const auto path = u"/org/freedesktop/Notifications"_s;
+const auto notificationsService = u"org.freedesktop.Notifications"_s;
+const auto notificationsPath = u"/org/freedesktop/Notifications"_s;
 const auto applicationId = u"io.github.pellory.Pellory"_s;
 const auto defaultAction = u"default"_s;
 constexpr int timeoutOfTheServer = -1;
@@ -24,7 +24,7 @@ constexpr uchar urgencyNormal = 1;
 
 QDBusMessage callOf(const QString& method)
 {
-    return QDBusMessage::createMethodCall(service, path, service, method);
+    return QDBusMessage::createMethodCall(notificationsService, notificationsPath, notificationsService, method);
 }
 
 QVariantMap hints()
@@ -96,16 +96,19 @@ void FreedesktopNotifier::followServer()
     if (m_serverWatcher)
         return;
     QDBusConnection bus = QDBusConnection::sessionBus();
-    m_serverWatcher = std::make_unique<QDBusServiceWatcher>(service, bus);
+    m_serverWatcher = std::make_unique<QDBusServiceWatcher>(notificationsService, bus);
     // The numbers of a server mean nothing to the next one: there they may be those of another program.
     connect(m_serverWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
         m_abilities.reset();
         m_numbers.clear();
         m_days.clear();
     });
-    bus.connect(service, path, service, u"ActivationToken"_s, this, SLOT(handleActivationToken(uint, QString)));
-    bus.connect(service, path, service, u"ActionInvoked"_s, this, SLOT(handleActionInvoked(uint, QString)));
-    bus.connect(service, path, service, u"NotificationClosed"_s, this, SLOT(handleNotificationClosed(uint)));
+    bus.connect(notificationsService, notificationsPath, notificationsService, u"ActivationToken"_s, this,
+                SLOT(handleActivationToken(uint, QString)));
+    bus.connect(notificationsService, notificationsPath, notificationsService, u"ActionInvoked"_s, this,
+                SLOT(handleActionInvoked(uint, QString)));
+    bus.connect(notificationsService, notificationsPath, notificationsService, u"NotificationClosed"_s, this,
+                SLOT(handleNotificationClosed(uint)));
 }
 
 void FreedesktopNotifier::handleActionInvoked(uint number, const QString& action)

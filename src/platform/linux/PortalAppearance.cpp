@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto service = u"org.freedesktop.portal.Desktop"_s;
-const auto path = u"/org/freedesktop/portal/desktop"_s;
+const auto portalService = u"org.freedesktop.portal.Desktop"_s;
+const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
 const auto settingsInterface = u"org.freedesktop.portal.Settings"_s;
 const auto appearanceGroup = u"org.freedesktop.appearance"_s;
 const auto colorSchemeKey = u"color-scheme"_s;
@@ -23,10 +23,10 @@ void PortalAppearance::start()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     // The match on group and key keeps every other setting of the desktop from waking this process.
-    bus.connect(service, path, settingsInterface, u"SettingChanged"_s, {appearanceGroup, colorSchemeKey}, u"ssv"_s,
-                this, SLOT(handleSettingChanged(QDBusMessage)));
+    bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, {appearanceGroup, colorSchemeKey},
+                u"ssv"_s, this, SLOT(handleSettingChanged(QDBusMessage)));
 
-    auto read = QDBusMessage::createMethodCall(service, path, settingsInterface, u"Read"_s);
+    auto read = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
     read << appearanceGroup << colorSchemeKey;
     auto* call = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, &PortalAppearance::handleAnswer);

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto service = u"org.kde.StatusNotifierWatcher"_s;
-const auto path = u"/StatusNotifierWatcher"_s;
+const auto watcherService = u"org.kde.StatusNotifierWatcher"_s;
+const auto watcherPath = u"/StatusNotifierWatcher"_s;
 
 } // namespace
 
@@ -22,8 +22,8 @@ void StatusNotifierHost::start()
     QDBusConnection bus = QDBusConnection::sessionBus();
     // QtDBus would wait for the owner of a service. Whoever sends these, it is the watcher that is asked.
     for (const QString& signal : {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s})
-        bus.connect({}, path, service, signal, this, SLOT(ask()));
-    auto* watcher = new QDBusServiceWatcher(service, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+        bus.connect({}, watcherPath, watcherService, signal, this, SLOT(ask()));
+    auto* watcher = new QDBusServiceWatcher(watcherService, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
         report(false);
         ask();
@@ -33,8 +33,9 @@ void StatusNotifierHost::start()
 
 void StatusNotifierHost::ask()
 {
-    auto get = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-    get << service << u"IsStatusNotifierHostRegistered"_s;
+    auto get =
+        QDBusMessage::createMethodCall(watcherService, watcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    get << watcherService << u"IsStatusNotifierHostRegistered"_s;
     get.setAutoStartService(false);
     auto* call = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(get), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, question = ++m_questions] {
