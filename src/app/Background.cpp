@@ -36,8 +36,7 @@ Background::~Background() = default;
 
 void Background::lastClosed()
 {
-    // Before the first run is completed nothing is checked.
-    if (!m_parts.settings.wifiTrackingEnabled || m_parts.settings.firstTime) {
+    if (!isTracking()) {
         Q_EMIT quitRequested();
         return;
     }
@@ -49,10 +48,24 @@ void Background::lastClosed()
                      {}});
 }
 
+void Background::runCheck()
+{
+    if (isTracking())
+        m_parts.check.checkNow(true);
+    else
+        m_windows.openMain();
+}
+
+// Before the first run is completed nothing is checked.
+bool Background::isTracking() const
+{
+    return m_parts.settings.wifiTrackingEnabled && !m_parts.settings.firstTime;
+}
+
 void Background::showTrayIcon()
 {
     m_trayIcon = std::make_unique<TrayIcon>(m_parts);
     connect(m_trayIcon.get(), &TrayIcon::openRequested, &m_windows, [this] { m_windows.openMain(); });
-    connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, [this] { m_parts.check.checkNow(true); });
+    connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, &Background::runCheck);
     connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::quitRequested);
 }

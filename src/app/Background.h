@@ -24,11 +24,14 @@ public:
     /// The last window has been closed: with tracking on the checks go on, and the first time ever the person is told
     /// so; with tracking off there is nothing left to do.
     void lastClosed();
+    /// One check, or the window where none is made: there is what has to be set first.
+    void runCheck();
 
 Q_SIGNALS:
     void quitRequested();
 
 private:
+    [[nodiscard]] bool isTracking() const;
     void showTrayIcon();
 
     const ViewParts& m_parts;

@@ -2,6 +2,7 @@
 #include "Accessibility.h"
 #include "AutostartEntry.h"
 #include "Background.h"
+#include "CommandLine.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
@@ -27,6 +28,8 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -76,7 +79,7 @@ void quit()
     QCoreApplication::exit();
 }
 
-int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, bool isAtLogin)
+int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, Start start)
 {
     Computer computer;
     InOfficeCheck check(
@@ -96,6 +99,7 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
     followColorScheme(computer.appearance, settings);
 
     QObject::connect(&instance, &SingleInstance::activated, &windows, &Windows::openMain);
+    QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
     QObject::connect(&computer.quitSignals, &QuitSignals::requested, &windows, quit);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
     QObject::connect(&windows, &Windows::quitRequested, &windows, quit);
@@ -103,7 +107,7 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
     QObject::connect(&computer.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
-    if (isAtLogin) {
+    if (start == Start::AtLogin) {
         computer.trayHost.start();
     } else {
         // What is asked of the desktop can wait until there is something to see.
@@ -116,15 +120,28 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
     return QApplication::exec();
 }
 
+SingleInstance::Errand errandOf(Start start)
+{
+    switch (start) {
+    case Start::AtLogin:
+        return SingleInstance::Errand::None;
+    case Start::WithCheck:
+        return SingleInstance::Errand::Check;
+    case Start::Shown:
+        break;
+    }
+    return SingleInstance::Errand::Show;
+}
+
 int run(SingleInstance& instance)
 {
-    const bool isAtLogin = QApplication::arguments().contains("--at-login"_L1);
+    const Start start = readCommandLine(QApplication::arguments());
     installAccessibleRoles();
     QSettings settings;
     wearLastScheme(settings);
     MessageBoxAlerts alerts;
     // Before anything touches the store: two programs would each hold their own copies of the records.
-    switch (instance.claim(!isAtLogin)) {
+    switch (instance.claim(errandOf(start))) {
     case SingleInstance::Claim::Owned:
         break;
     case SingleInstance::Claim::HandedOver:
@@ -136,19 +153,30 @@ int run(SingleInstance& instance)
         throw FatalStop(u"Pellory is running already and does not answer"_s);
     }
     PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
-    return work(pellory, settings, alerts, instance, isAtLogin);
+    return work(pellory, settings, alerts, instance, start);
+}
+
+void introduce()
+{
+    QCoreApplication::setOrganizationName(u"Pellory"_s);
+    QCoreApplication::setApplicationName(u"Pellory"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(PELLORY_VERSION));
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    introduce();
+    if (isTextWanted(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        std::ignore = readCommandLine(QCoreApplication::arguments());
+        return EXIT_SUCCESS;
+    }
     logToJournalIfPresent();
     SingleInstance instance;
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
-    QApplication::setOrganizationName(u"Pellory"_s);
-    QApplication::setApplicationName(u"Pellory"_s);
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -13,6 +13,7 @@
 
 using namespace std::chrono_literals;
 using Claim = SingleInstance::Claim;
+using Errand = SingleInstance::Errand;
 
 TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
 {
@@ -59,21 +60,24 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
     qunsetenv("DESKTOP_STARTUP_ID");
     const auto interface = u"org.freedesktop.Application"_s;
     PlayedService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
-    const std::tuple<const char*, bool, Claim> rows[]{
-        {"raise ValueError", false, Claim::HandedOver},
-        {"assert args[0] == {'activation-token': 'token'}", true, Claim::HandedOver},
-        {"raise ValueError", true, Claim::Refused},
-        {"import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", true, Claim::Refused},
-        {"import os; os._exit(1)", true, Claim::Owned}};
-    for (const auto& [code, isToBeShown, outcome] : rows) {
+    const std::tuple<const char*, Errand, Claim> rows[]{
+        {"raise ValueError", Errand::None, Claim::HandedOver},
+        {"assert args[-1] == {'activation-token': 'token'}", Errand::Show, Claim::HandedOver},
+        {"assert list(args[:2]) == ['run-check', []]", Errand::Check, Claim::HandedOver},
+        {"raise ValueError", Errand::Show, Claim::Refused},
+        {"import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", Errand::Check, Claim::Refused},
+        {"import os; os._exit(1)", Errand::Show, Claim::Owned}};
+    for (const auto& [code, errand, outcome] : rows) {
         first.startMock({first.name, first.path, interface});
-        first.tell("AddMethod", interface, u"Activate"_s, u"a{sv}"_s, QString(), QString::fromLatin1(code));
-        EXPECT_EQ(SingleInstance(200ms).claim(isToBeShown), outcome) << code;
+        const bool isCheck = errand == Errand::Check;
+        first.tell("AddMethod", interface, isCheck ? u"ActivateAction"_s : u"Activate"_s,
+                   isCheck ? u"sava{sv}"_s : u"a{sv}"_s, QString(), QString::fromLatin1(code));
+        EXPECT_EQ(SingleInstance(200ms).claim(errand), outcome) << code;
         first.bus.unregisterService(first.name);
         first.stop();
     }
     SingleInstance instance;
-    EXPECT_EQ(instance.claim(true), Claim::Owned);
+    EXPECT_EQ(instance.claim(Errand::Show), Claim::Owned);
     QSignalSpy activated(&instance, &SingleInstance::activated);
     const auto bus = QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"other"_s);
     const QVariantMap id{{u"desktop-startup-id"_s, u"id"_s}};
@@ -89,13 +93,16 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
         EXPECT_TRUE(eventually([&] { return answer.isFinished(); }) && !answer.isError() && activated.size() == 1);
         EXPECT_EQ(activated.takeFirst().value(0).toString(), token);
     }
+    QSignalSpy checkRequested(&instance, &SingleInstance::checkRequested);
+    instance.ActivateAction(u"run-check"_s, {}, {});
+    EXPECT_TRUE(checkRequested.size() == 1 && activated.isEmpty());
     QDBusConnection::disconnectFromBus(u"other"_s);
     first.bus.unregisterService(first.name);
-    EXPECT_EQ(instance.claim(true, noBus), Claim::Owned);
+    EXPECT_EQ(instance.claim(Errand::Show, noBus), Claim::Owned);
     QFile lock(folder.filePath(u"pellory.lock"_s));
     EXPECT_TRUE(lock.open(QFile::ReadWrite) &&
                 lock.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFile::FileModificationTime));
-    EXPECT_EQ(SingleInstance().claim(true, noBus), Claim::Refused) << "of whatever age the lock is";
+    EXPECT_EQ(SingleInstance().claim(Errand::Show, noBus), Claim::Refused) << "of whatever age the lock is";
 }
 
 TEST(QuitSignalsTest, areHeardOfAndAreTheSystemsOwnAfterwards)

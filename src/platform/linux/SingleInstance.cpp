@@ -10,8 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto service = u"io.github.pellory.Pellory"_s;
-const auto path = u"/io/github/pellory/Pellory"_s;
+const auto ownService = u"io.github.pellory.Pellory"_s;
+const auto ownPath = u"/io/github/pellory/Pellory"_s;
+const auto interface = u"org.freedesktop.Application"_s;
+const auto checkAction = u"run-check"_s;
 const auto tokenKey = u"activation-token"_s;
 const auto startupIdKey = u"desktop-startup-id"_s;
 
@@ -26,33 +28,43 @@ SingleInstance::SingleInstance(std::chrono::milliseconds patience)
         m_platformData.insert(startupIdKey, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
 }
 
-SingleInstance::Claim SingleInstance::claim(bool isToBeShown)
+SingleInstance::Claim SingleInstance::claim(Errand errand)
 {
-    return claim(isToBeShown, QDBusConnection::sessionBus());
+    return claim(errand, QDBusConnection::sessionBus());
 }
 
-SingleInstance::Claim SingleInstance::claim(bool isToBeShown, QDBusConnection bus)
+SingleInstance::Claim SingleInstance::claim(Errand errand, QDBusConnection bus)
 {
     // Before the name, so that nobody finds the name without an object behind it.
-    if (!bus.isConnected() || !bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots))
+    if (!bus.isConnected() || !bus.registerObject(ownPath, this, QDBusConnection::ExportScriptableSlots))
         return claimLock();
-    auto activate = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.Application"_s, u"Activate"_s);
-    activate << m_platformData;
-    activate.setAutoStartService(false);
     for (int attempt = 0; attempt < 3; ++attempt) {
-        const auto name = bus.interface()->registerService(service, QDBusConnectionInterface::DontQueueService);
+        const auto name = bus.interface()->registerService(ownService, QDBusConnectionInterface::DontQueueService);
         if (!name.isValid()) // a bus on which this program may have no name
             return claimLock();
         if (name == QDBusConnectionInterface::ServiceRegistered)
             return Claim::Owned;
-        const QString owner = bus.interface()->serviceOwner(service);
-        if (!isToBeShown || bus.call(activate, QDBus::Block, m_patience).type() == QDBusMessage::ReplyMessage)
+        const QString owner = bus.interface()->serviceOwner(ownService);
+        if (errand == Errand::None ||
+            bus.call(messageFor(errand), QDBus::Block, m_patience).type() == QDBusMessage::ReplyMessage)
             return Claim::HandedOver;
         // One that has died without an answer is no longer the owner.
-        if (!owner.isEmpty() && bus.interface()->serviceOwner(service) == owner)
+        if (!owner.isEmpty() && bus.interface()->serviceOwner(ownService) == owner)
             break;
     }
     return Claim::Refused;
+}
+
+QDBusMessage SingleInstance::messageFor(Errand errand) const
+{
+    const bool isCheck = errand == Errand::Check;
+    auto message =
+        QDBusMessage::createMethodCall(ownService, ownPath, interface, isCheck ? u"ActivateAction"_s : u"Activate"_s);
+    if (isCheck)
+        message << checkAction << QVariantList();
+    message << m_platformData;
+    message.setAutoStartService(false);
+    return message;
 }
 
 // For a session without a bus. No age makes a lock invalid, only the death of its owner.
@@ -67,4 +79,12 @@ SingleInstance::Claim SingleInstance::claimLock()
 void SingleInstance::Activate(const QVariantMap& data)
 {
     Q_EMIT activated(data.value(tokenKey, data.value(startupIdKey)).toString());
+}
+
+void SingleInstance::ActivateAction(const QString& name, const QVariantList&, const QVariantMap& data)
+{
+    if (name == checkAction)
+        Q_EMIT checkRequested();
+    else
+        Activate(data);
 }

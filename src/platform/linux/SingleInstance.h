@@ -9,6 +9,7 @@
 #include <optional>
 
 class QDBusConnection;
+class QDBusMessage;
 
 /// Sees to it that a session runs this program once (org.freedesktop.Application on the session bus).
 class SingleInstance : public QObject {
@@ -17,25 +18,29 @@ class SingleInstance : public QObject {
 
 public:
     enum class Claim { Owned, HandedOver, Refused };
+    /// What the one that is there already has to do.
+    enum class Errand { None, Show, Check };
 
     /// Reads from the environment what the desktop gave for the start. A QApplication takes some of that away.
     explicit SingleInstance(std::chrono::milliseconds patience = std::chrono::seconds(5));
 
-    /// Becomes the one instance or hands over to the one that is there; refused when that is to be shown and is deaf.
-    [[nodiscard]] Claim claim(bool isToBeShown);
-    [[nodiscard]] Claim claim(bool isToBeShown, QDBusConnection bus);
+    /// Becomes the one instance or hands over to the one that is there; refused when that has an errand and is deaf.
+    [[nodiscard]] Claim claim(Errand errand);
+    [[nodiscard]] Claim claim(Errand errand, QDBusConnection bus);
 
     // NOLINTBEGIN(readability-identifier-naming): the names of the interface
     Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& data);
     Q_SCRIPTABLE Q_SLOT void Open(const QStringList&, const QVariantMap& data) { Activate(data); }
-    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString&, const QVariantList&, const QVariantMap& d) { Activate(d); }
+    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList&, const QVariantMap& data);
     // NOLINTEND(readability-identifier-naming)
 
 Q_SIGNALS:
     /// Somebody wants to see the program. With the token its window may come to the front; it can be empty.
     void activated(const QString& token);
+    void checkRequested();
 
 private:
+    [[nodiscard]] QDBusMessage messageFor(Errand errand) const;
     [[nodiscard]] Claim claimLock();
 
     int m_patience;
