@@ -5,8 +5,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <array>
-#include <string_view>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -31,10 +30,7 @@ Start readCommandLine(const QStringList& arguments)
     return parser.isSet(checkNow) ? Start::WithCheck : Start::Shown;
 }
 
-bool isTextWanted(int argc, char* argv[])
+bool hasOption(std::span<char* const> arguments, std::initializer_list<std::string_view> options)
 {
-    constexpr std::array<std::string_view, 5> options{"-h", "--help", "--help-all", "-v", "--version"};
-    return std::any_of(argv + 1, argv + argc, [&](const char* argument) {
-        return std::find(options.begin(), options.end(), argument) != options.end();
-    });
+    return std::ranges::find_first_of(arguments, options, std::equal_to<std::string_view>()) != arguments.end();
 }

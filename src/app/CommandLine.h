@@ -3,6 +3,10 @@
 
 #include <QStringList>
 
+#include <initializer_list>
+#include <span>
+#include <string_view>
+
 /// What a start is asked for on the command line.
 enum class Start {
     Shown,
@@ -15,5 +19,5 @@ enum class Start {
 /// Help, version and what cannot be understood are printed and end the process.
 [[nodiscard]] Start readCommandLine(const QStringList& arguments);
 
-/// Whether all that is wanted is a text, which can be had without a display.
-[[nodiscard]] bool isTextWanted(int argc, char* argv[]);
+/// Whether one of the options is there, for what has to be known before there is an application.
+[[nodiscard]] bool hasOption(std::span<char* const> arguments, std::initializer_list<std::string_view> options);

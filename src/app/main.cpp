@@ -4,6 +4,7 @@
 #include "Background.h"
 #include "CommandLine.h"
 #include "DesktopSystemSettings.h"
+#include "FontsAhead.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
@@ -26,14 +27,26 @@
 #include "Windows.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <chrono>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(logStart, "pellory.start", QtInfoMsg)
+
+// For whoever measures a start: the time is that of the monotonic clock.
+void logReached(const char* stage)
+{
+    using Milliseconds = std::chrono::duration<double, std::milli>;
+    const Milliseconds now = std::chrono::steady_clock::now().time_since_epoch();
+    qCDebug(logStart, "%s: %.3f ms", stage, now.count());
+}
 
 // The desktop tells its colour scheme only after the window has been drawn: until then the last one holds.
 const auto lastSchemeIsDark = u"appearanceLastSchemeIsDark"_s;
@@ -114,9 +127,12 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
         QObject::connect(&windows, &Windows::mainPainted, &computer.trayHost, &TrayHost::start,
                          Qt::SingleShotConnection);
         windows.openMain();
+        logReached("window built");
     }
     QObject::connect(&windows, &Windows::mainPainted, &computer.appearance, &Appearance::start,
                      Qt::SingleShotConnection);
+    QObject::connect(
+        &windows, &Windows::mainPainted, &windows, [] { logReached("window painted"); }, Qt::SingleShotConnection);
     return QApplication::exec();
 }
 
@@ -152,7 +168,9 @@ int run(SingleInstance& instance)
             QApplication::translate("main", "It does not answer. End it, or log out and in again, and start anew."));
         throw FatalStop(u"Pellory is running already and does not answer"_s);
     }
+    logReached("name owned");
     PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
+    logReached("store open");
     return work(pellory, settings, alerts, instance, start);
 }
 
@@ -168,15 +186,24 @@ void introduce()
 int main(int argc, char* argv[])
 {
     introduce();
-    if (isTextWanted(argc, argv)) {
+    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    // A text can be had without a display.
+    if (hasOption(arguments, {"-h", "--help", "--help-all", "-v", "--version"})) {
         const QCoreApplication application(argc, argv);
         std::ignore = readCommandLine(QCoreApplication::arguments());
         return EXIT_SUCCESS;
     }
     logToJournalIfPresent();
+    logReached("program loaded");
     SingleInstance instance;
     QApplication::setStyle(u"Fusion"_s);
+    std::jthread fonts;
+    if (!hasOption(arguments, {"--at-login"}))
+        fonts = readFontsAhead();
     const QApplication application(argc, argv);
+    if (fonts.joinable())
+        fonts.join();
+    logReached("toolkit ready");
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
     QApplication::setQuitOnLastWindowClosed(false);

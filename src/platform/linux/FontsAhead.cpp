@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FontsAhead.h"
+
+#include <fontconfig/fontconfig.h>
+#include <malloc.h>
+
+std::jthread readFontsAhead()
+{
+    // Threads would each get a heap of their own, and what this one allocates stays for good.
+    mallopt(M_ARENA_MAX, 1);
+    return std::jthread([] { FcInit(); });
+}

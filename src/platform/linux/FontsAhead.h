@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <thread>
+
+/// Begins to read the system's configuration of fonts. It takes a good part of a start, and the toolkit waits for it
+/// with its first text. To be joined before that: two that read it at once would each read all of it.
+[[nodiscard]] std::jthread readFontsAhead();
