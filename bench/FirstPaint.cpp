@@ -17,11 +17,13 @@
 // FirstPaint <program> [argument...]
 //
 // Starts a program on the X display and measures from outside, without its help, how long it takes until its window is
-// drawn. Writes that, the window and the process as one line of JSON. Ends the program when its own input ends.
+// drawn. Writes that, its own begin on the monotonic clock, the window and the process as one line of JSON. Ends the
+// program when its own input ends.
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr auto longestWait = std::chrono::seconds(30);
 constexpr int smallestWindow = 100;
@@ -105,13 +107,15 @@ void reportFirstPaint(Clock::time_point start)
 {
     for (;;) {
         while (const auto event = owned(xcb_poll_for_event(display))) {
-            const std::chrono::duration<double, std::milli> taken = Clock::now() - start;
+            const Milliseconds taken = Clock::now() - start;
             const Picture picture = pictureAfter(*event);
             if (picture.colours == 0)
                 continue;
-            std::printf(R"({"milliseconds": %.3f, "width": %d, "height": %d, "colours": %td, "pid": %d})"
-                        "\n",
-                        taken.count(), picture.width, picture.height, picture.colours, child);
+            std::printf(
+                R"({"milliseconds": %.3f, "started": %.3f, "width": %d, "height": %d, "colours": %td, "pid": %d})"
+                "\n",
+                taken.count(), Milliseconds(start.time_since_epoch()).count(), picture.width, picture.height,
+                picture.colours, child);
             std::fflush(stdout);
             return;
         }
