@@ -1,49 +1,54 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrayIcon.h"
 
-#include "Theme.h"
+#include "AppIcon.h"
 #include "TrackingStatus.h"
 #include "ViewParts.h"
 
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QMenu>
-#include <QPainter>
+#include <QStandardPaths>
 #include <QSystemTrayIcon>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-// A calendar page that can be read on a light panel as on a dark one.
-QPixmap picture(int size)
-{
-    constexpr qreal grid = 16.0;
-    const Theme& theme = themeFor(ColorScheme::Light);
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / grid, size / grid);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.inOffice);
-    painter.drawRoundedRect(QRectF(1, 1, 14, 14), 3.5, 3.5);
-    painter.setBrush(Qt::white);
-    for (const QPointF day : {QPointF(4, 5), {7, 5}, {10, 5}, {4, 9}, {7, 9}})
-        painter.drawRoundedRect(QRectF(day, QSizeF(2, 2)), 0.6, 0.6);
-    return pixmap;
-}
+// A panel that finds the symbolic icon by its name gives it its own colours. It is shown as a picture where the system
+// has none, or the panel asks for no name.
+class PanelIcon : public QIconEngine {
+public:
+    QString iconName() override
+    {
+        const auto file = u"icons/hicolor/symbolic/apps/%1.svg"_s.arg(m_name);
+        return QStandardPaths::locate(QStandardPaths::GenericDataLocation, file).isEmpty() ? QString() : m_name;
+    }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override
+    {
+        return m_picture.availableSizes(mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return m_picture.pixmap(size, mode, state);
+    }
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override
+    {
+        m_picture.paint(painter, place, Qt::AlignCenter, mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new PanelIcon(*this); }
 
-QIcon makeIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48})
-        icon.addPixmap(picture(size));
-    return icon;
-}
+private:
+    const QString m_name = QGuiApplication::desktopFileName() + "-symbolic"_L1;
+    const QIcon m_picture = appIcon();
+};
 
 } // namespace
 
 TrayIcon::TrayIcon(const ViewParts& parts)
     : m_status(std::make_unique<TrackingStatus>(parts))
     , m_menu(std::make_unique<QMenu>())
-    , m_icon(std::make_unique<QSystemTrayIcon>(makeIcon()))
+    , m_icon(std::make_unique<QSystemTrayIcon>(QIcon(new PanelIcon)))
 {
     connect(m_menu->addAction(tr("Open")), &QAction::triggered, this, &TrayIcon::openRequested);
     connect(m_menu->addAction(tr("Run In-Office Check")), &QAction::triggered, this, &TrayIcon::checkRequested);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Windows.h"
 
+#include "AppIcon.h"
 #include "AppSettings.h"
 #include "CalendarViewSettingsView.h"
 #include "ContentView.h"
@@ -85,6 +86,8 @@ void Windows::makeMain()
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), firstMainSize);
     connect(m_main, &ContentView::windowRequested, this, &Windows::open);
     connect(m_main, &ContentView::painted, this, &Windows::mainPainted);
+    // A title bar can wait for it until there is something to see.
+    connect(m_main, &ContentView::painted, this, [] { QApplication::setWindowIcon(appIcon()); });
     // The first run is led through over the window, once that is there.
     if (m_parts.settings.firstTime)
         connect(m_main, &ContentView::painted, this, &Windows::openWelcome);

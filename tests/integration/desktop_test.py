@@ -171,6 +171,9 @@ class DesktopTest(unittest.TestCase):
         watcher("AddMethod", "sssss", WATCHER, "RegisterStatusNotifierItem", "s", "", "")
         watcher("AddProperty", "ssv", WATCHER, "IsStatusNotifierHostRegistered", False)
         items = partial(watcher, "GetMethodCalls", "s", "RegisterStatusNotifierItem")
+        symbolic = self.folder / f"icons/hicolor/symbolic/apps/{NAME}-symbolic.svg"
+        symbolic.parent.mkdir(parents=True)
+        symbolic.touch()
         program = self.start("sh", "-c", f"exec {command}", service=NAME)
         eventually(lambda: "Sleeping for" in program.said())
         self.assertEqual((items(), self.titles(), self.on_display(program), items()), ([], [], b"", []))
@@ -178,6 +181,9 @@ class DesktopTest(unittest.TestCase):
         watcher("EmitSignal", "sssav", WATCHER, "StatusNotifierHostRegistered", "", [])
         [(_, [item])] = eventually(items)
         self.assertEqual((self.titles(), self.on_display(program)), ([], b""))
+        shown = self.tell((item, "/StatusNotifierItem"), PROPERTIES, "GetAll", "s", "org.kde.StatusNotifierItem")
+        corners = [bytes(pixels[:4]) for _, _, pixels in shown["IconPixmap"]]
+        self.assertEqual((shown["IconName"], corners), (symbolic.stem, [bytes(4)] * 2))
         self.assert_handed_over(program)
         self.press("Help", then=lambda: self.titles(ACTIVE) == ["Help"])
         self.tell((item, "/StatusNotifierItem"), "org.kde.StatusNotifierItem", "Activate", "ii", 0, 0)

@@ -51,6 +51,7 @@ TEST_F(WindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
     const QSignalSpy closed(&windows, &Windows::lastClosed);
     windows.openMain();
     auto* main = shown<ContentView>();
+    EXPECT_TRUE(eventually([&] { return !main->windowIcon().isNull(); }));
     for (int i = 0; i < 2; ++i) {
         press(*main, Qt::Key_Comma, Qt::ControlModifier);
         press(*main, Qt::Key_F1);
