@@ -80,8 +80,7 @@ struct Computer {
     FreedesktopNotifier notifier;
     NetworkManagerAuthorization authorization;
     DesktopSystemSettings systemSettings;
-    AutostartEntry loginItem{QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
-                             QApplication::applicationFilePath()};
+    AutostartEntry loginItem = AutostartEntry::ofThisProgram();
     PortalAppearance appearance;
     StatusNotifierHost trayHost;
 };

@@ -19,7 +19,7 @@ TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"new/autostart/io.github.pellory.Pellory.desktop"_s));
-    AutostartEntry entry(folder.filePath(u"new"_s), uR"(/opt/a b/%f "$HOME" `\)"_s);
+    AutostartEntry entry(folder.filePath(u"new"_s), {uR"(/opt/a b/%f "$HOME" `\)"_s});
     AutostartEntry nowhere(file.fileName(), {});
     LaunchAtLogin login(entry), broken(nowhere);
     for (const bool isWanted : {false, true, true}) {
@@ -49,6 +49,27 @@ TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "pellory.login: Failed to enable launch at login: File exists\n"
               "pellory.login: Failed to disable launch at login: Not a directory\n");
+}
+
+TEST(LaunchAtLoginTest, startsTheProgramAsTheDesktopCan)
+{
+    const QTemporaryDir folder;
+    const QByteArray home = folder.path().toUtf8(), self = QCoreApplication::applicationFilePath().toUtf8();
+    const QByteArray flatpak = R"("flatpak" "run" "io.github.pellory.Pellory")";
+    qputenv("HOME", home);
+    qputenv("XDG_CONFIG_HOME", home + "/own");
+    const std::tuple<QString, QByteArray, QString, QByteArray> rows[]{
+        {u"/nonexistent"_s, home + "/host", u"own"_s, '"' + self + '"'},
+        {folder.path(), home + "/host", u"host"_s, flatpak},
+        {folder.path(), {}, u".config"_s, flatpak}};
+    for (const auto& [sandboxMark, hostFolder, place, command] : rows) {
+        EXPECT_TRUE(hostFolder.isEmpty() ? qunsetenv("HOST_XDG_CONFIG_HOME")
+                                         : qputenv("HOST_XDG_CONFIG_HOME", hostFolder));
+        AutostartEntry::ofThisProgram(sandboxMark).registerItem();
+        QFile file(folder.filePath(place + u"/autostart/io.github.pellory.Pellory.desktop"_s));
+        EXPECT_TRUE(file.open(QFile::ReadOnly)) << place.toStdString();
+        EXPECT_TRUE(file.readAll().contains("\nExec=" + command + " --at-login\n")) << place.toStdString();
+    }
 }
 
 TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)

@@ -3,9 +3,11 @@
 
 #include "PlatformError.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <cerrno>
 #include <unistd.h>
@@ -32,6 +34,15 @@ bool makeFolder(const QString& path)
 
 } // namespace
 
+AutostartEntry AutostartEntry::ofThisProgram(const QString& sandboxMark)
+{
+    if (!QFile::exists(sandboxMark))
+        return {QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                {QCoreApplication::applicationFilePath()}};
+    return {qEnvironmentVariable("HOST_XDG_CONFIG_HOME", QDir::homePath() + u"/.config"_s),
+            {u"flatpak"_s, u"run"_s, u"io.github.pellory.Pellory"_s}};
+}
+
 bool AutostartEntry::isEnabled() const
 {
     QFile file(m_path);
@@ -53,8 +64,11 @@ void AutostartEntry::registerItem()
 {
     if (!makeFolder(m_folder))
         throw PlatformError(qt_error_string());
+    QStringList arguments = m_command;
+    for (QString& argument : arguments)
+        argument = quoted(argument);
     const QString entry = u"[Desktop Entry]\nType=Application\nName=Pellory\nIcon=io.github.pellory.Pellory\n"
-                          "Exec=%1 --at-login\nTerminal=false\nStartupNotify=false\n"_s.arg(quoted(m_program));
+                          "Exec=%1 --at-login\nTerminal=false\nStartupNotify=false\n"_s.arg(arguments.join(u' '));
     QSaveFile file(m_path);
     if (!file.open(QFile::WriteOnly) || file.write(entry.toUtf8()) < 0 || !file.commit())
         throw PlatformError(file.errorString());

@@ -3,17 +3,22 @@
 
 #include "LoginItem.h"
 
-#include <QString>
+#include <QStringList>
 
 /// The entry of this program in the folder that the desktop goes through at login (XDG autostart).
 class AutostartEntry : public LoginItem {
 public:
-    /// `configFolder` is $XDG_CONFIG_HOME, `program` the absolute path of the executable.
-    AutostartEntry(const QString& configFolder, const QString& program)
+    /// `configFolder` is $XDG_CONFIG_HOME. `command` is what the desktop starts: the absolute path of an executable or
+    /// a name on its PATH, and arguments.
+    AutostartEntry(const QString& configFolder, const QStringList& command)
         : m_folder(configFolder + QStringLiteral("/autostart"))
-        , m_program(program)
+        , m_command(command)
     {
     }
+
+    /// That of the running program. The desktop sees neither the folders nor the executable of a Flatpak, and a program
+    /// runs in one where the file `sandboxMark` exists.
+    [[nodiscard]] static AutostartEntry ofThisProgram(const QString& sandboxMark = QStringLiteral("/.flatpak-info"));
 
     /// False as well where a desktop has switched the entry off, which leaves the file in place.
     [[nodiscard]] bool isEnabled() const override;
@@ -23,5 +28,5 @@ public:
 private:
     QString m_folder;
     QString m_path = m_folder + QStringLiteral("/io.github.pellory.Pellory.desktop");
-    QString m_program;
+    QStringList m_command;
 };
