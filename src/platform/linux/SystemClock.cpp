@@ -76,7 +76,7 @@ void SystemClock::wake()
 {
     // The read fails with ECANCELED when the clock was set: either way the day may be another one now.
     quint64 expirations = 0;
-    static_cast<void>(read(m_timer, &expirations, sizeof expirations));
+    [[maybe_unused]] const ssize_t size = read(m_timer, &expirations, sizeof expirations);
     sleepUntilMidnight();
     Q_EMIT dayChanged();
 }
