@@ -9,7 +9,6 @@
 #include "StoreError.h"
 #include "StoreFile.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
 
@@ -20,11 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Q_LOGGING_CATEGORY(logApp, "pellory.app", QtInfoMsg)
-
-QString translated(const char* key)
-{
-    return QCoreApplication::translate("PelloryApp", key);
-}
 
 } // namespace
 
@@ -54,8 +48,7 @@ void PelloryApp::createFolder()
     if (!error)
         return;
     const QString reason = QString::fromStdString(error.message());
-    m_alerts.showCritical(translated("Cannot start Pellory Tracker"),
-                          translated("Could not create app directory: %1").arg(reason));
+    m_alerts.showCritical(tr("Cannot start Pellory Tracker"), tr("Could not create app directory: %1").arg(reason));
     throw FatalStop(u"Could not create directory at %1 for Pellory SwiftData app store. %2"_s.arg(m_folder, reason));
 }
 
@@ -63,11 +56,12 @@ void PelloryApp::openStore()
 {
     const QFileInfo file(m_storeFile);
     if (file.exists() && !file.isReadable()) {
-        const QString reason =
-            translated("Cannot read app swift data store. You do not have read permissions on %1.").arg(m_storeFile);
-        m_alerts.showCritical(translated("Fatal Error"),
-                              reason + translated(" Fix the permissions and restart the app."));
-        throw FatalStop(reason + u" Fix the permissions and re-start app."_s);
+        m_alerts.showCritical(tr("Fatal Error"),
+                              tr("Cannot read app swift data store. You do not have read permissions on %1. Fix the "
+                                 "permissions and restart the app.")
+                                  .arg(m_storeFile));
+        throw FatalStop(u"Cannot read app swift data store. You do not have read permissions on %1. Fix the "
+                        "permissions and re-start app."_s.arg(m_storeFile));
     }
     QString failure;
     if (tryToOpen(failure))
@@ -75,8 +69,7 @@ void PelloryApp::openStore()
     offerToDelete();
     if (tryToOpen(failure))
         return;
-    m_alerts.showCritical(translated("Fatal Error"),
-                          translated("Could not load data store at %1. %2").arg(m_storeFile, failure));
+    m_alerts.showCritical(tr("Fatal Error"), tr("Could not load data store at %1. %2").arg(m_storeFile, failure));
     throw FatalStop(u"Could not load data store, giving up.: %1: %2"_s.arg(m_storeFile, failure));
 }
 
@@ -95,19 +88,17 @@ bool PelloryApp::tryToOpen(QString& failure)
 void PelloryApp::offerToDelete()
 {
     const bool isDelete = m_alerts.confirmWarning(
-        translated("Delete File?"),
-        translated(
-            "Could not load the app's data store. It's probably corrupted. Do you want reset all the app's data? "
-            "You will lose all data. This action cannot be undone."),
-        translated("Delete"), translated("Cancel"));
+        tr("Delete File?"),
+        tr("Could not load the app's data store. It's probably corrupted. Do you want reset all the app's data? "
+           "You will lose all data. This action cannot be undone."),
+        tr("Delete"), tr("Cancel"));
     if (!isDelete)
         return;
     try {
         removeStoreFile(m_storeFile);
     } catch (const StoreError& error) {
-        const QString reason = translated("Could not remove app data store: %1").arg(error.description());
-        m_alerts.showCritical(translated("Fatal Error"), reason);
-        throw FatalStop(reason);
+        m_alerts.showCritical(tr("Fatal Error"), tr("Could not remove app data store: %1").arg(error.description()));
+        throw FatalStop(u"Could not remove app data store: "_s + error.description());
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 
 #include <memory>
 #include <stdexcept>
@@ -22,6 +22,8 @@ public:
 /// The application: it opens the data store, with the person's help where that fails, and holds the records that every
 /// other part works on.
 class PelloryApp {
+    Q_DECLARE_TR_FUNCTIONS(PelloryApp)
+
 public:
     /// Starts up. `dataFolder` is the folder of the user in which programs keep their data. Throws a FatalStop when
     /// there is no store to work on.

@@ -10,8 +10,6 @@
 #include "Notifier.h"
 #include "Pause.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <limits>
 
@@ -92,10 +90,10 @@ QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
 void InOfficeCheck::report(const char* failure)
 {
     qCCritical(logDetection, "Error while checking if in office via Wi-Fi: %s", failure);
-    const QString problem = QCoreApplication::translate(
-        "InOfficeCheck", "There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n");
-    m_parts.notifier.post({QCoreApplication::translate("InOfficeCheck", "Pellory"),
-                           problem + QString::fromUtf8(failure), u"detection-problem"_s});
+    m_parts.notifier.post({tr("Pellory"),
+                           tr("There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n%1")
+                               .arg(QString::fromUtf8(failure)),
+                           u"detection-problem"_s});
 }
 
 QCoro::Task<> InOfficeCheck::sleep()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QProperty>
 
@@ -28,6 +29,8 @@ struct CheckParts {
 
 /// Finds out whether the person is at the office and writes it down: once when asked, and by itself again and again.
 class InOfficeCheck {
+    Q_DECLARE_TR_FUNCTIONS(InOfficeCheck)
+
 public:
     explicit InOfficeCheck(CheckParts parts)
         : m_parts(parts)

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 
 #include <stdexcept>
 
 /// Why the automatic marking could not do its work.
 class InOfficeDetectionError : public std::runtime_error {
+    Q_DECLARE_TR_FUNCTIONS(InOfficeDetectionError)
+
 public:
     enum Case { duplicateMonthModels, locationAccessDenied, couldNotFindDefaultInterface, wifiTurnedOff };
 
@@ -17,5 +19,7 @@ public:
     [[nodiscard]] QString description() const { return QString::fromUtf8(what()); }
 
 private:
+    [[nodiscard]] static QString descriptionOf(Case code);
+
     Case m_code;
 };

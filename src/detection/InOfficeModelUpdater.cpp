@@ -9,14 +9,7 @@
 #include "Month.h"
 #include "Notifier.h"
 
-#include <QCoreApplication>
-
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("InOfficeModelUpdater", text);
-}
 
 QDate workdayBefore(QDate date)
 {
@@ -43,16 +36,13 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
     if (isMarked) {
         qCInfo(logDetection, "Logged as in office on %d-%d-%d", today.year(), today.month(), today.day());
         if (notificationsEnabled)
-            m_notifier.post(
-                {translated("Pellory"), translated("You have been marked as in the office today"), {}, today});
+            m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today});
     }
     if (markPreviousWorkday && markIfOpen(*findOrCreateMonth(previous), previous, DayState::OUT_OF_OFFICE)) {
         qCInfo(logDetection, "Logged as out of office on %d-%d-%d", previous.year(), previous.month(), previous.day());
         if (notificationsEnabled)
-            m_notifier.post({translated("(Not) Pellory"),
-                             translated("You have been marked as out of office for yesterday"),
-                             {},
-                             previous});
+            m_notifier.post(
+                {tr("(Not) Pellory"), tr("You have been marked as out of office for yesterday"), {}, previous});
     }
     return isMarked;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QDate>
 
 #include <memory>
@@ -14,6 +15,8 @@ enum class DayState;
 /// Writes what a detection has found into the records. No other part marks days by itself, and a state that the person
 /// has chosen is never touched: only unknown and planned days are.
 class InOfficeModelUpdater {
+    Q_DECLARE_TR_FUNCTIONS(InOfficeModelUpdater)
+
 public:
     InOfficeModelUpdater(ModelContainer& container, Clock& clock, Notifier& notifier)
         : m_container(container)

@@ -7,10 +7,11 @@ using namespace Qt::StringLiterals;
 
 const AppSettings::Goals& AppSettings::defaultGoals()
 {
+    //: What the goals that everyone starts with are good for: descriptions that the person can change.
     static const Goals goals{
-        Goal::create(u"2.00"_s, u"not fired"_s),
-        Goal::create(u"3.00"_s, u"no probation"_s),
-        Goal::create(u"4.00"_s, u"ideal"_s),
+        Goal::create(u"2.00"_s, tr("not fired")),
+        Goal::create(u"3.00"_s, tr("no probation")),
+        Goal::create(u"4.00"_s, tr("ideal")),
     };
     return goals;
 }

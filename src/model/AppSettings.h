@@ -3,11 +3,14 @@
 
 #include "Goal.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
 /// What the person has set up. A store holds one such record.
 class AppSettings {
+    Q_DECLARE_TR_FUNCTIONS(AppSettings)
+
 public:
     using Goals = QList<std::shared_ptr<Goal>>;
 
@@ -16,7 +19,8 @@ public:
     AppSettings& operator=(const AppSettings&) = delete;
     ~AppSettings() = default;
 
-    /// The goals that a new record starts with: built once per process and shared by every new record.
+    /// The goals that a new record starts with, described in the person's language: built once per process and shared
+    /// by every new record.
     [[nodiscard]] static const Goals& defaultGoals();
 
     /// Adds a goal without a description and sorts all goals by value. False, and nothing is changed, when the text is

@@ -6,52 +6,72 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
+#include <limits>
 
 namespace {
 
-QString translated(const char* key)
+constexpr int decimals = 2;
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(AttendanceStatistics)
+};
+
+// A text has a form for each number of days, and takes that number as an int.
+constexpr qint64 largestNumber = std::numeric_limits<int>::max();
+
+int numberOf(qint64 days)
 {
-    return QCoreApplication::translate("AttendanceStatistics", key);
+    return static_cast<int>(std::clamp<qint64>(days, 0, largestNumber));
+}
+
+QString withLargeNumber(QString text, qint64 days)
+{
+    return days <= largestNumber ? text : text.replace(QString::number(largestNumber), QString::number(days));
 }
 
 } // namespace
 
 MarkedText headlineText(qint64 inOffice, PeriodWord period)
 {
-    const QString word = period == PeriodWord::Month ? translated("month") : translated("quarter");
-    return markedText(translated("%1 days in the office this **%2**"), {QString::number(inOffice), word});
+    const int days = numberOf(inOffice);
+    return markedText(period == PeriodWord::Month ? Texts::tr("%n days in the office this **month**", nullptr, days)
+                                                  : Texts::tr("%n days in the office this **quarter**", nullptr, days),
+                      {});
 }
 
 MarkedText goalText(const AttendanceStatistics& statistics)
 {
     if (!statistics.targetGoal)
         return {};
-    const QString days = QString::number(std::max<qint64>(statistics.remainingDays, 0));
+    const qint64 days = statistics.remainingDays;
     const QString description = statistics.targetGoal->goal->desc;
-    if (description.isEmpty())
-        return markedText(translated("**%1 more days** to reach **%2**"),
-                          {days, goalValueText(statistics.targetGoal->value)});
-    return markedText(translated("**%1 more days** to reach goal **%2**"), {days, description});
+    if (description.isEmpty()) {
+        const QString pattern = Texts::tr("**%n more days** to reach **%1**", nullptr, numberOf(days));
+        return markedText(withLargeNumber(pattern, days), {goalValueText(statistics.targetGoal->value)});
+    }
+    const QString pattern = Texts::tr("**%n more days** to reach goal **%1**", nullptr, numberOf(days));
+    return markedText(withLargeNumber(pattern, days), {description});
 }
 
 QString averageText(double average)
 {
-    return translated("You've reached %1 average days in office per week").arg(twoDecimals(average));
+    //: %L1 in place of %1 writes the number as the person's locale has it.
+    return Texts::tr("You've reached %1 average days in office per week").arg(average, 0, 'f', decimals);
 }
 
 QString workdaysText(qint64 workdays)
 {
-    return translated("%1 workdays").arg(workdays);
+    return Texts::tr("%n workdays", nullptr, numberOf(workdays));
 }
 
 QString twoDecimals(double value)
 {
-    return QString::number(value, 'f', 2);
+    //: An average of days per week. %L1 in place of %1 writes the number as the person's locale has it.
+    return Texts::tr("%1", "days per week").arg(value, 0, 'f', decimals);
 }
 
 QString goalValueText(double value)
 {
-    return twoDecimals(value) + "/5"_L1;
+    //: The value of a goal, of five days in a week. %L1 in place of %1 writes it as the person's locale has it.
+    return Texts::tr("%1/5", "days per week").arg(value, 0, 'f', decimals);
 }

@@ -21,7 +21,7 @@ enum class PeriodWord { Month, Quarter };
 /// "64 workdays"
 [[nodiscard]] QString workdaysText(qint64 workdays);
 
-/// "2.50": two decimals, as every number of days per week is shown.
+/// "2.50": two decimals, as every average of days per week is shown, with the point or comma of its language.
 [[nodiscard]] QString twoDecimals(double value);
 
 /// The value of a goal as it is named where it has no description, such as "2.50/5".

@@ -5,7 +5,6 @@
 
 #include <nlohmann/json.hpp>
 
-using namespace Qt::StringLiterals;
 using Json = nlohmann::ordered_json;
 
 namespace {
@@ -25,7 +24,7 @@ qint64 numberOf(const Json& json)
     // The library keeps a number of 0 and more as an unsigned one, and would wrap it.
     const bool isTooLarge = json.is_number_unsigned() && json.get<quint64>() > std::numeric_limits<qint64>::max();
     if (!json.is_number_integer() || isTooLarge)
-        throw StoreError(u"the number of a day is no whole number"_s);
+        throw StoreError(StoreError::tr("the number of a day is no whole number"));
     return json.get<qint64>();
 }
 
@@ -35,7 +34,7 @@ Day decodedDay(const Json& json)
     const QString raw = textOf(json.at("state"));
     const auto state = dayStateFromRawValue(raw);
     if (!state)
-        throw StoreError(u"\"%1\" is no state of a day"_s.arg(raw));
+        throw StoreError(StoreError::tr("\"%1\" is no state of a day").arg(raw));
     return {.id = id, .state = *state, .isWorkday = json.at("isWorkday").get_ref<const bool&>()};
 }
 
@@ -45,7 +44,7 @@ template <class Item> QList<Item> decodedList(const std::string& text, Item (*de
     try {
         const Json json = Json::parse(text);
         if (!json.is_array())
-            throw StoreError(u"it is no list"_s);
+            throw StoreError(StoreError::tr("it is no list"));
         QList<Item> items;
         items.reserve(static_cast<qsizetype>(json.size()));
         for (const Json& item : json)

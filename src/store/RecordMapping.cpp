@@ -7,8 +7,6 @@
 #include <algorithm>
 #include <limits>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr Column monthColumns[]{
@@ -49,7 +47,7 @@ int smallNumber(const Row& row, std::size_t column)
 {
     const auto value = number(row, column);
     if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
-        throw StoreError(u"a number is out of range"_s);
+        throw StoreError(StoreError::tr("a number is out of range"));
     return static_cast<int>(value);
 }
 
@@ -68,7 +66,7 @@ std::shared_ptr<Goal> goalWithId(const AppSettings::Goals& goals, const QString&
     const QUuid uuid(id);
     const auto found = std::ranges::find_if(goals, [&](const auto& goal) { return goal->id == uuid; });
     if (found == goals.end())
-        throw StoreError(u"the goal %1 is missing"_s.arg(id));
+        throw StoreError(StoreError::tr("the goal %1 is missing").arg(id));
     return *found;
 }
 
@@ -87,7 +85,7 @@ std::shared_ptr<Month> MonthMapping::record(const Row& row)
 {
     const QList<Day> days = decodedDays(text(row, 4));
     if (days.size() != Month::cellCount)
-        throw StoreError(u"it has %1 cells instead of %2"_s.arg(days.size()).arg(Month::cellCount));
+        throw StoreError(StoreError::tr("it has %1 cells instead of %2").arg(days.size()).arg(Month::cellCount));
     return std::make_shared<Month>(Month::Fields{.year = smallNumber(row, 0),
                                                  .month = smallNumber(row, 1),
                                                  .name = string(row, 2),

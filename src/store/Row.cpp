@@ -10,8 +10,6 @@
 #define XXH_INLINE_ALL
 #include <xxhash.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int firstField = 1; // the key stands before it
@@ -37,7 +35,8 @@ Value readField(const SQLite::Column& field, ColumnType type)
         return field.getInt64();
     if (type == ColumnType::Text && field.isText())
         return field.getString();
-    throw StoreError(u"the field \"%1\" holds a value of the wrong type"_s.arg(QLatin1StringView(field.getName())));
+    throw StoreError(
+        StoreError::tr("the field \"%1\" holds a value of the wrong type").arg(QLatin1StringView(field.getName())));
 }
 
 } // namespace
@@ -88,7 +87,7 @@ Row readRow(SQLite::Statement& statement, const TableLayout& layout)
     for (const Column& column : layout.columns)
         row.push_back(readField(statement.getColumn(index++), column.type));
     if (statement.getColumn(index).getInt64() != checksum(row))
-        throw StoreError(u"its checksum differs"_s);
+        throw StoreError(StoreError::tr("its checksum differs"));
     return row;
 }
 

@@ -11,8 +11,6 @@
 #include <SQLiteCpp/Transaction.h>
 #include <sqlite3.h>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int applicationId = 0x50656c6c; // "Pell"
@@ -30,14 +28,16 @@ int pragma(SQLite::Database& database, const char* name)
 void verifyMarks(SQLite::Database& database)
 {
     if (pragma(database, "application_id") != applicationId)
-        throw StoreError(u"The file is not a data store of Pellory."_s);
+        throw StoreError(StoreError::tr("The file is not a data store of Pellory."));
     const int version = pragma(database, "user_version");
     if (version > storeVersion)
-        throw StoreError(u"The data store was written by a newer version of Pellory (format %1, this version knows "
-                         "format %2). Install that version to open it."_s.arg(version)
-                             .arg(storeVersion));
+        throw StoreError(
+            StoreError::tr("The data store was written by a newer version of Pellory (format %1, this version knows "
+                           "format %2). Install that version to open it.")
+                .arg(version)
+                .arg(storeVersion));
     if (version < storeVersion)
-        throw StoreError(u"The data store has the unknown format %1."_s.arg(version));
+        throw StoreError(StoreError::tr("The data store has the unknown format %1.").arg(version));
 }
 
 void verifyHas(SQLite::Database& database, const std::string& createSql, const char* name)
@@ -45,9 +45,10 @@ void verifyHas(SQLite::Database& database, const std::string& createSql, const c
     SQLite::Statement query(database, "SELECT sql FROM sqlite_schema WHERE name = ?");
     query.bind(1, name);
     if (!query.executeStep())
-        throw StoreError(u"The data store lacks \"%1\"."_s.arg(QLatin1StringView(name)));
+        throw StoreError(StoreError::tr("The data store lacks \"%1\".").arg(QLatin1StringView(name)));
     if (query.getColumn(0).getString() != createSql)
-        throw StoreError(u"\"%1\" in the data store has another form than expected."_s.arg(QLatin1StringView(name)));
+        throw StoreError(
+            StoreError::tr("\"%1\" in the data store has another form than expected.").arg(QLatin1StringView(name)));
 }
 
 // SQLite takes a file whose header names an unknown version of its format for one that may only be read.
@@ -55,7 +56,7 @@ void verifyWritable(SQLite::Database& database)
 {
     const bool isReadOnly = sqlite3_db_readonly(database.getHandle(), "main") == 1;
     if (isReadOnly && QFileInfo(QString::fromStdString(database.getFilename())).isWritable())
-        throw StoreError(u"The data store is damaged: its header does not allow writing."_s);
+        throw StoreError(StoreError::tr("The data store is damaged: its header does not allow writing."));
 }
 
 void verifySchema(SQLite::Database& database)
@@ -69,7 +70,7 @@ void verifyPages(SQLite::Database& database)
 {
     const std::string finding = database.execAndGet("PRAGMA integrity_check(1)").getString();
     if (finding != "ok")
-        throw StoreError(u"The data store is damaged: %1"_s.arg(QString::fromStdString(finding)));
+        throw StoreError(StoreError::tr("The data store is damaged: %1").arg(QString::fromStdString(finding)));
 }
 
 template <class Mapping> void verifyRecords(SQLite::Database& database)
@@ -79,7 +80,7 @@ template <class Mapping> void verifyRecords(SQLite::Database& database)
         try {
             static_cast<void>(readRow(rows, Mapping::layout));
         } catch (const StoreError& error) {
-            throw StoreError(u"The data store is damaged: record %1 of \"%2\" cannot be read, %3."_s
+            throw StoreError(StoreError::tr("The data store is damaged: record %1 of \"%2\" cannot be read, %3.")
                                  .arg(rows.getColumn(0).getInt64())
                                  .arg(QLatin1StringView(Mapping::layout.name), error.description()));
         }
@@ -129,18 +130,19 @@ QString descriptionOf(const SQLite::Exception& error)
     switch (error.getErrorCode()) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return u"The data store is in use by another program. Close that program and start Pellory again."_s;
+        return StoreError::tr(
+            "The data store is in use by another program. Close that program and start Pellory again.");
     case SQLITE_NOTADB:
-        return u"The file is not a data store of Pellory (%1)."_s.arg(detail);
+        return StoreError::tr("The file is not a data store of Pellory (%1).").arg(detail);
     case SQLITE_CORRUPT:
-        return u"The data store is damaged (%1)."_s.arg(detail);
+        return StoreError::tr("The data store is damaged (%1).").arg(detail);
     case SQLITE_FULL:
-        return u"The disk is full (%1)."_s.arg(detail);
+        return StoreError::tr("The disk is full (%1).").arg(detail);
     case SQLITE_READONLY:
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:
-        return u"The data store or its folder cannot be written (%1)."_s.arg(detail);
+        return StoreError::tr("The data store or its folder cannot be written (%1).").arg(detail);
     default:
-        return u"The data store cannot be used (%1)."_s.arg(detail);
+        return StoreError::tr("The data store cannot be used (%1).").arg(detail);
     }
 }

@@ -26,7 +26,7 @@ void createStoreFile(const QString& path)
 {
     QTemporaryFile draft(path + ".new-XXXXXX"_L1);
     if (!draft.open())
-        throw StoreError(u"The data store cannot be created: %1"_s.arg(draft.errorString()));
+        throw StoreError(StoreError::tr("The data store cannot be created: %1").arg(draft.errorString()));
     {
         SQLite::Database database(draft.fileName().toStdString(), SQLite::OPEN_READWRITE);
         // The draft is dropped whole if this fails: it needs no way back.
@@ -36,7 +36,7 @@ void createStoreFile(const QString& path)
     if (draft.rename(path))
         draft.setAutoRemove(false);
     else if (!QFile::exists(path))
-        throw StoreError(u"The data store cannot be created: %1"_s.arg(draft.errorString()));
+        throw StoreError(StoreError::tr("The data store cannot be created: %1").arg(draft.errorString()));
 }
 
 void removeStoreFile(const QString& path)

@@ -20,8 +20,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int columns = 7;
@@ -67,12 +65,12 @@ void CalendarView::addHeader(QGridLayout& grid)
 
 void CalendarView::addWeekdays(QGridLayout& grid)
 {
-    static constexpr const char* letters[columns]{
-        QT_TR_NOOP("S"), QT_TR_NOOP("M"), QT_TR_NOOP("T"), QT_TR_NOOP("W"),
-        QT_TR_NOOP("T"), QT_TR_NOOP("F"), QT_TR_NOOP("S"),
+    const QString letters[columns]{
+        tr("S", "Sunday"),   tr("M", "Monday"), tr("T", "Tuesday"),  tr("W", "Wednesday"),
+        tr("T", "Thursday"), tr("F", "Friday"), tr("S", "Saturday"),
     };
     for (int column = 0; column < columns; ++column) {
-        auto* letter = new QLabel(tr(letters[column]));
+        auto* letter = new QLabel(letters[column]);
         letter->setFont(fonts::body(font(), QFont::Medium));
         letter->setForegroundRole(QPalette::PlaceholderText);
         letter->setAlignment(Qt::AlignCenter);
@@ -143,7 +141,7 @@ QString CalendarView::title(QDate today) const
 {
     if (m_month->year == today.year())
         return m_month->name;
-    return u"%1 %2"_s.arg(m_month->name.value(), QString::number(m_month->year));
+    return tr("%1 %2", "month and year").arg(m_month->name.value(), QString::number(m_month->year));
 }
 
 void CalendarView::refresh()
@@ -170,8 +168,9 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
     cell.setTint(dayColor(themeFor(palette()), day));
     cell.setTooltipText(description(day.state));
     cell.setRinged(date == today);
-    cell.setAccessibleName(
-        u"%1, %2"_s.arg(QLocale().toString(date, tr("dddd d MMMM yyyy", "date of a day")), description(day.state)));
+    //: The date of a day, as it is read out. Letters stand for its parts, words go between single quotes: 'the' d.
+    const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
+    cell.setAccessibleName(tr("%1, %2", "date and state").arg(written, description(day.state)));
 }
 
 int CalendarView::focusedDay() const

@@ -66,7 +66,7 @@ void QuarterStatsView::refresh()
 {
     const QString name = tr("Q%1", "a quarter of the year").arg(m_quarter.quarter);
     const bool thisYear = m_quarter.year == m_parts.clock.today().year();
-    m_title->setText(thisYear ? name : u"%1 %2"_s.arg(name, QString::number(m_quarter.year)));
+    m_title->setText(thisYear ? name : tr("%1 %2", "quarter and year").arg(name, QString::number(m_quarter.year)));
     qint64 workdays = 0;
     for (const auto& month : m_months)
         workdays += month->workdayCount();

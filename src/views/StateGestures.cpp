@@ -1,26 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StateGestures.h"
 
-#include <QKeySequence>
+#include <QCoreApplication>
 
 #include <array>
-#include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
+struct ModifierKey {
+    ClickModifier modifier = ClickModifier::None;
+    Qt::KeyboardModifier key = Qt::NoModifier;
+    const char* name = nullptr;
+};
+
 constexpr std::array modifierKeys{
-    std::pair(ClickModifier::Command, Qt::ControlModifier),
-    std::pair(ClickModifier::Option, Qt::AltModifier),
-    std::pair(ClickModifier::Shift, Qt::ShiftModifier),
+    ModifierKey{ClickModifier::Command, Qt::ControlModifier, QT_TRANSLATE_NOOP("StateGestures", "Ctrl")},
+    ModifierKey{ClickModifier::Option, Qt::AltModifier, QT_TRANSLATE_NOOP("StateGestures", "Alt")},
+    ModifierKey{ClickModifier::Shift, Qt::ShiftModifier, QT_TRANSLATE_NOOP("StateGestures", "Shift")},
 };
 
 } // namespace
 
 ClickModifier clickModifier(Qt::KeyboardModifiers held)
 {
-    for (const auto& [modifier, key] : modifierKeys) {
+    for (const auto& [modifier, key, name] : modifierKeys) {
         if (held.testFlag(key))
             return modifier;
     }
@@ -45,9 +48,9 @@ ClickModifier modifierReaching(DayState state)
 
 QString keyName(ClickModifier modifier)
 {
-    for (const auto& [candidate, key] : modifierKeys) {
-        if (candidate == modifier) // the native text of a modifier alone ends in a plus sign
-            return QKeySequence(static_cast<int>(key)).toString(QKeySequence::NativeText).chopped(1);
+    for (const auto& [candidate, key, name] : modifierKeys) {
+        if (candidate == modifier)
+            return QCoreApplication::translate("StateGestures", name);
     }
     return {};
 }

@@ -18,27 +18,22 @@
 #include "ProgressWidgetView.h"
 #include "SsidSettingsView.h"
 #include "ViewParts.h"
+#include "WelcomeView.h"
 
-#include <QCoreApplication>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("WelcomeView", text);
-}
-
 // A column of a step, under its heading and a few words.
-QVBoxLayout* makeColumn(QWidget* step, const char* heading, const char* words)
+QVBoxLayout* makeColumn(QWidget* step, const QString& heading, const QString& words)
 {
     auto* column = new QVBoxLayout(step);
     column->setContentsMargins(32, 28, 32, 20);
     column->setSpacing(10);
-    column->addWidget(labels::heading(translated(heading)));
-    column->addWidget(labels::dim(translated(words)));
+    column->addWidget(labels::heading(heading));
+    column->addWidget(labels::dim(words));
     column->addSpacing(8);
     return column;
 }
@@ -69,8 +64,8 @@ class LocationStatus : public QWidget {
 public:
     explicit LocationStatus(LocationManager& manager)
         : m_text(labels::text({}))
-        , m_grant(new Button(translated("Grant Location Permission")))
-        , m_open(new Button(translated("Open System Settings")))
+        , m_grant(new Button(WelcomeView::tr("Grant Location Permission")))
+        , m_open(new Button(WelcomeView::tr("Open System Settings")))
     {
         m_grant->setObjectName("grant"_L1);
         auto* column = new QVBoxLayout(this);
@@ -92,8 +87,8 @@ private:
     void show(AuthorizationStatus status)
     {
         const bool isGranted = isAccessGranted(status);
-        m_text->setText(isGranted ? translated("Location access: allowed. Pellory can see the names of networks.")
-                                  : translated("Location access: missing. Pellory cannot scan for networks."));
+        m_text->setText(isGranted ? WelcomeView::tr("Location access: allowed. Pellory can see the names of networks.")
+                                  : WelcomeView::tr("Location access: missing. Pellory cannot scan for networks."));
         m_grant->setVisible(!isGranted);
         m_grant->setEnabled(status == AuthorizationStatus::notDetermined);
         m_open->setVisible(!isGranted);
@@ -109,11 +104,10 @@ private:
 QWidget* welcome::makeIntroduction(const ViewParts& parts)
 {
     auto* step = new QWidget;
-    auto* column = makeColumn(
-        step, QT_TRANSLATE_NOOP("WelcomeView", "Welcome to Pellory"),
-        QT_TRANSLATE_NOOP("WelcomeView",
-                          "Mark where you spend each day, and see how far you are from your goals. Try it on "
-                          "this sample month: a click changes a day, a right click offers all states."));
+    auto* column =
+        makeColumn(step, WelcomeView::tr("Welcome to Pellory"),
+                   WelcomeView::tr("Mark where you spend each day, and see how far you are from your goals. Try it on "
+                                   "this sample month: a click changes a day, a right click offers all states."));
     const auto sample = makeSampleMonth(parts.clock.today());
     auto* calendar = new CalendarView(parts, true);
     calendar->setContentsMargins(16, 12, 16, 12);
@@ -131,10 +125,9 @@ QWidget* welcome::makeGoals(const ViewParts& parts)
 {
     auto* step = new QWidget;
     auto* column =
-        makeColumn(step, QT_TRANSLATE_NOOP("WelcomeView", "Your goals"),
-                   QT_TRANSLATE_NOOP("WelcomeView",
-                                     "How many days a week do you want, or have, to be in the office on average? The "
-                                     "progress tracker shows how many days you still need for each goal."));
+        makeColumn(step, WelcomeView::tr("Your goals"),
+                   WelcomeView::tr("How many days a week do you want, or have, to be in the office on average? The "
+                                   "progress tracker shows how many days you still need for each goal."));
     addCard(*column, new DaysPerWeekGoalView(parts.settings, false));
     return step;
 }
@@ -142,10 +135,10 @@ QWidget* welcome::makeGoals(const ViewParts& parts)
 QWidget* welcome::makeGeneral(const ViewParts& parts)
 {
     auto* step = new QWidget;
-    auto* column = makeColumn(
-        step, QT_TRANSLATE_NOOP("WelcomeView", "Always there, never in the way"),
-        QT_TRANSLATE_NOOP("WelcomeView", "Pellory can start with your session, without a window, and tell you what it "
-                                         "has marked."));
+    auto* column =
+        makeColumn(step, WelcomeView::tr("Always there, never in the way"),
+                   WelcomeView::tr("Pellory can start with your session, without a window, and tell you what it "
+                                   "has marked."));
     addCard(*column, new GeneralSettingsView(parts, true));
     return step;
 }
@@ -153,10 +146,9 @@ QWidget* welcome::makeGeneral(const ViewParts& parts)
 QWidget* welcome::makeWiFi(const ViewParts& parts)
 {
     auto* step = new QWidget;
-    auto* column =
-        makeColumn(step, QT_TRANSLATE_NOOP("WelcomeView", "Days that mark themselves"),
-                   QT_TRANSLATE_NOOP("WelcomeView", "When a Wi-Fi network of your office is in range, Pellory can mark "
-                                                    "the day for you. Nothing about it leaves this computer."));
+    auto* column = makeColumn(step, WelcomeView::tr("Days that mark themselves"),
+                              WelcomeView::tr("When a Wi-Fi network of your office is in range, Pellory can mark "
+                                              "the day for you. Nothing about it leaves this computer."));
     column->addWidget(new LocationStatus(parts.locationManager.defaultValue()));
     column->addSpacing(4);
     addCard(*column, new SsidSettingsView(parts, false));
@@ -167,10 +159,9 @@ QWidget* welcome::makeSummary(const ViewParts& parts)
 {
     const AppSettings& settings = parts.settings;
     auto* step = new QWidget;
-    auto* column = makeColumn(step, QT_TRANSLATE_NOOP("WelcomeView", "All set"),
-                              QT_TRANSLATE_NOOP("WelcomeView",
-                                                "This is what you have chosen. You can change all of it later in the "
-                                                "settings (Ctrl+,), and F1 explains the colours."));
+    auto* column = makeColumn(step, WelcomeView::tr("All set"),
+                              WelcomeView::tr("This is what you have chosen. You can change all of it later in the "
+                                              "settings (Ctrl+,), and F1 explains the colours."));
     auto* list = new QWidget;
     auto* lines = new QVBoxLayout(list);
     lines->setContentsMargins({});
@@ -179,13 +170,15 @@ QWidget* welcome::makeSummary(const ViewParts& parts)
     QStringList goals;
     for (const auto& goal : settings.daysPerWeekGoals.value())
         goals.append(goal->wantedDaysPerWeek);
-    add(goals.isEmpty() ? translated("No goals") : translated("Goals: %1 days per week").arg(goals.join(", "_L1)));
-    add(settings.wifiTrackingEnabled ? translated("Automatic tracking is on")
-                                     : translated("Automatic tracking is off"));
-    add(translated("Office networks: %1").arg(settings.inOfficeSsids.value().size()));
-    add(settings.notificationsEnabled ? translated("Notifications are on") : translated("Notifications are off"));
-    add(parts.launchAtLogin.isEnabled() ? translated("Pellory starts at login")
-                                        : translated("Pellory does not start at login"));
+    add(goals.isEmpty() ? WelcomeView::tr("No goals")
+                        : WelcomeView::tr("Goals: %1 days per week").arg(goals.join(", "_L1)));
+    add(settings.wifiTrackingEnabled ? WelcomeView::tr("Automatic tracking is on")
+                                     : WelcomeView::tr("Automatic tracking is off"));
+    add(WelcomeView::tr("Office networks: %1").arg(settings.inOfficeSsids.value().size()));
+    add(settings.notificationsEnabled ? WelcomeView::tr("Notifications are on")
+                                      : WelcomeView::tr("Notifications are off"));
+    add(parts.launchAtLogin.isEnabled() ? WelcomeView::tr("Pellory starts at login")
+                                        : WelcomeView::tr("Pellory does not start at login"));
     addCard(*column, list);
     return step;
 }
