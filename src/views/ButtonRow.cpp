@@ -9,6 +9,7 @@ ButtonRow::ButtonRow(Qt::Alignment edge, QWidget* parent)
     , m_edge(edge)
     , m_buttons(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // one below the other they must not spread
     m_buttons->setContentsMargins({});
     m_buttons->setSizeConstraint(QLayout::SetNoConstraint);
     m_buttons->addStretch(edge == Qt::AlignRight ? 1 : 0);
