@@ -17,8 +17,10 @@ pellory_test(views
     LINKS Pellory::views SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
+add_dependencies(views_test pellory_app_lrelease)
+target_compile_definitions(views_test PRIVATE GERMAN_TEXTS="${PROJECT_BINARY_DIR}/src/app/pellory_de.qm")
 pellory_test(app
-    SOURCES app/PelloryAppTest.cpp
+    SOURCES app/PelloryAppTest.cpp app/TranslationsTest.cpp
     LINKS Pellory::app
 )
 pellory_test(platform

@@ -22,12 +22,14 @@
 #include "StatusNotifierHost.h"
 #include "SystemClock.h"
 #include "Theme.h"
+#include "Translations.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "Windows.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -180,18 +182,28 @@ void introduce()
     QCoreApplication::setApplicationVersion(QStringLiteral(PELLORY_VERSION));
 }
 
+// A text can be had without a display.
+bool isTextWanted(std::span<char* const> arguments)
+{
+    return hasOption(arguments, {"-h", "--help", "--help-all", "-v", "--version"});
+}
+
+int printText(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const Translations translations(QLocale::system().uiLanguages());
+    std::ignore = readCommandLine(QCoreApplication::arguments());
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
     introduce();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
-    // A text can be had without a display.
-    if (hasOption(arguments, {"-h", "--help", "--help-all", "-v", "--version"})) {
-        const QCoreApplication application(argc, argv);
-        std::ignore = readCommandLine(QCoreApplication::arguments());
-        return EXIT_SUCCESS;
-    }
+    if (isTextWanted(arguments))
+        return printText(argc, argv);
     logToJournalIfPresent();
     logReached("program loaded");
     SingleInstance instance;
@@ -206,6 +218,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
     QApplication::setQuitOnLastWindowClosed(false);
+    const Translations translations(QLocale::system().uiLanguages());
     try {
         return run(instance);
     } catch (const FatalStop& stop) {

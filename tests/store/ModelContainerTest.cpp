@@ -121,6 +121,18 @@ TEST_F(ModelContainerTest, waitsForAnotherProgramAndThenGivesUp)
     EXPECT_EQ(refusal(60'000), "");
 }
 
+TEST_F(ModelContainerTest, isTheSameInEveryLocale)
+{
+    const auto locale = scopedLocale(QLocale(QLocale::German));
+    putSample();
+    const QStringList german = stored();
+    QLocale::setDefault(QLocale::c());
+    EXPECT_THAT(german.join(u' ').toStdString(), AllOf(HasSubstr("\"2.50\""), HasSubstr("\"Februar\"")));
+    const QByteArray before = bytes();
+    EXPECT_EQ(stored(), german);
+    EXPECT_EQ(bytes(), before);
+}
+
 class StoreFileTest : OrdinaryUser, public StoreTest {
 protected:
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }

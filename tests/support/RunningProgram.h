@@ -15,6 +15,8 @@ public:
     Home()
     {
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.remove(u"LANGUAGE"_s);
         environment.insert(u"XDG_DATA_HOME"_s, m_folder.filePath(u"data"_s));
         environment.insert(u"XDG_CONFIG_HOME"_s, m_folder.filePath(u"config"_s));
         environment.insert(u"QT_LOGGING_RULES"_s, u"pellory.*=true"_s);

@@ -15,6 +15,7 @@
 #include "WindowId.h"
 
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTranslator>
@@ -204,25 +205,53 @@ QStringList clippedTexts(int& texts)
     return clipped;
 }
 
-TEST_F(WindowsTest, clipNoTextThatIsLonger)
+// What is seen, is read out or comes up under the pointer, as far as it is more than a number or a letter.
+QSet<QString> visibleTexts()
 {
-    LongerTexts texts;
-    QCoreApplication::installTranslator(&texts);
-    const auto restore = qScopeGuard([&] { QCoreApplication::removeTranslator(&texts); });
+    QSet<QString> texts;
+    for (const QWidget* each : QApplication::allWidgets()) {
+        const auto* tabs = qobject_cast<const QTabBar*>(each);
+        QStringList own = tabs != nullptr ? QStringList(tabs->tabText(tabs->currentIndex())) : QStringList();
+        for (const char* name : {"text", "placeholderText", "windowTitle", "toolTip", "accessibleName"})
+            own.append(each->property(name).toString());
+        for (const QString& text : each->isVisible() ? own.filter(QRegularExpression(u"\\p{L}{2}"_s)) : QStringList())
+            texts.insert(text);
+    }
+    return texts;
+}
+
+TEST_F(WindowsTest, clipNoTextInAnyLanguageAndSpeakOne)
+{
+    LongerTexts longer;
+    QTranslator german, none;
+    ASSERT_TRUE(german.load(QStringLiteral(GERMAN_TEXTS)));
     settings->wifiTrackingEnabled = true;
     wifiClient.interface->powerOn = false;
     authorization.status = AuthorizationStatus::denied;
-    windows.openWelcome();
-    windows.open(WindowId::settings);
-    windows.open(WindowId::help);
-    windows.open(WindowId::calendarViewSettings);
-    auto* tabs = shown<SettingsView>()->findChild<QTabBar*>();
-    int count = 0;
-    for (int step = 0; step < 5; ++step) {
-        tabs->setCurrentIndex(step % tabs->count());
-        EXPECT_TRUE(eventually([&] { return clippedTexts(count).isEmpty(); }))
-            << qPrintable(clippedTexts(count).join(u'\n'));
-        push(*shown<WelcomeView>(), "next");
+    std::map<QTranslator*, QSet<QString>> seen;
+    for (QTranslator* language : {&none, static_cast<QTranslator*>(&longer), &german}) {
+        QCoreApplication::installTranslator(language);
+        const auto restore = qScopeGuard([&] { QCoreApplication::removeTranslator(language); });
+        stored.clear(); // the sizes of the windows
+        Windows all(parts);
+        all.openWelcome();
+        for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::calendarViewSettings})
+            all.open(id);
+        auto* tabs = shown<SettingsView>()->findChild<QTabBar*>();
+        int count = 0;
+        for (int step = 0; step < 5; ++step) {
+            tabs->setCurrentIndex(step % tabs->count());
+            shown<ContentView>()->findChild<QTabBar*>()->setCurrentIndex(step % 2);
+            EXPECT_TRUE(eventually([&] { return clippedTexts(count).isEmpty(); }))
+                << qPrintable(clippedTexts(count).join(u'\n'));
+            seen[language] += visibleTexts();
+            EXPECT_LT(shown<ContentView>()->findChild<LocationAlert*>()->height(), 300); // even where its buttons stack
+            push(*shown<WelcomeView>(), "next");
+        }
+        EXPECT_GT(count, 100);
     }
-    EXPECT_GT(count, 100);
+    // Names, and what is stored already.
+    EXPECT_EQ(seen[&none] & seen[&german],
+              (QSet{QCoreApplication::applicationName(), u"Alt"_s, u"\u2068Office\u2069"_s, u"not fired"_s, u"ideal"_s,
+                    u"October"_s, u"November"_s, u"December"_s}));
 }

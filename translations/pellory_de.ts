@@ -1,0 +1,964 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AppSettings</name>
+    <message>
+        <source>not fired</source>
+        <extracomment>What the goals that everyone starts with are good for: descriptions that the person can change.</extracomment>
+        <translation>keine Kündigung</translation>
+    </message>
+    <message>
+        <source>no probation</source>
+        <translation>keine Abmahnung</translation>
+    </message>
+    <message>
+        <source>ideal</source>
+        <translation>ideal</translation>
+    </message>
+</context>
+<context>
+    <name>AttendanceStatistics</name>
+    <message numerus="yes">
+        <source>%n days in the office this **month**</source>
+        <translation>
+            <numerusform>%n Tag im Büro in diesem **Monat**</numerusform>
+            <numerusform>%n Tage im Büro in diesem **Monat**</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days in the office this **quarter**</source>
+        <translation>
+            <numerusform>%n Tag im Büro in diesem **Quartal**</numerusform>
+            <numerusform>%n Tage im Büro in diesem **Quartal**</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>**%n more days** to reach **%1**</source>
+        <translation>
+            <numerusform>Noch **%n Tag** bis **%1**</numerusform>
+            <numerusform>Noch **%n Tage** bis **%1**</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>**%n more days** to reach goal **%1**</source>
+        <translation>
+            <numerusform>Noch **%n Tag** bis zum Ziel **%1**</numerusform>
+            <numerusform>Noch **%n Tage** bis zum Ziel **%1**</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You&apos;ve reached %1 average days in office per week</source>
+        <extracomment>%L1 in place of %1 writes the number as the person&apos;s locale has it.</extracomment>
+        <translation>Bisher durchschnittlich %L1 Bürotage pro Woche</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n workdays</source>
+        <translation>
+            <numerusform>%n Arbeitstag</numerusform>
+            <numerusform>%n Arbeitstage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>days per week</comment>
+        <extracomment>An average of days per week. %L1 in place of %1 writes the number as the person&apos;s locale has it.</extracomment>
+        <translation>%L1</translation>
+    </message>
+    <message>
+        <source>%1/5</source>
+        <comment>days per week</comment>
+        <extracomment>The value of a goal, of five days in a week. %L1 in place of %1 writes it as the person&apos;s locale has it.</extracomment>
+        <translation>%L1/5</translation>
+    </message>
+</context>
+<context>
+    <name>Background</name>
+    <message>
+        <source>Pellory</source>
+        <translation>Pellory</translation>
+    </message>
+    <message>
+        <source>Pellory goes on checking whether you are in the office. Start it again to see its window.</source>
+        <translation>Pellory prüft weiterhin, ob Sie im Büro sind. Ein erneuter Start zeigt das Fenster wieder.</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarView</name>
+    <message>
+        <source>S</source>
+        <comment>Sunday</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>Monday</comment>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <comment>Tuesday</comment>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <comment>Wednesday</comment>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <comment>Thursday</comment>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <comment>Friday</comment>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>Saturday</comment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>month and year</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>dddd d MMMM yyyy</source>
+        <extracomment>The date of a day, as it is read out. Letters stand for its parts, words go between single quotes: &apos;the&apos; d.</extracomment>
+        <translation>dddd, d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date and state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarViewSettingsView</name>
+    <message>
+        <source>Show Progress Trackers</source>
+        <translation>Fortschrittsbalken anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Quarter Stats</source>
+        <translation>Quartalsstatistik anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Month Stats</source>
+        <translation>Monatsstatistik anzeigen</translation>
+    </message>
+    <message>
+        <source>Show &quot;Will be In Office&quot; in Progress Tracker</source>
+        <translation>„Im Büro geplant“ im Fortschrittsbalken anzeigen</translation>
+    </message>
+    <message>
+        <source>Show day status on hover</source>
+        <translation>Tagesstatus beim Darüberfahren anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ContentView</name>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Quarter</source>
+        <translation>Quartal</translation>
+    </message>
+    <message>
+        <source>Calendar View Settings</source>
+        <translation>Einstellungen der Kalenderansicht</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>DayState</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>In the Office</source>
+        <translation>Im Büro</translation>
+    </message>
+    <message>
+        <source>Out of Office</source>
+        <translation>Nicht im Büro</translation>
+    </message>
+    <message>
+        <source>Vacation Day</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>Will Be In Office</source>
+        <translation>Im Büro geplant</translation>
+    </message>
+</context>
+<context>
+    <name>DaysPerWeekGoalView</name>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>No &quot;days in office per week&quot; goals</source>
+        <translation>Keine Ziele für „Bürotage pro Woche“</translation>
+    </message>
+    <message>
+        <source>New goal</source>
+        <translation>Neues Ziel</translation>
+    </message>
+    <message>
+        <source>Input must be a number between 0.0 and 7.0</source>
+        <translation>Bitte eine Zahl zwischen 0.0 und 7.0 eingeben, mit Punkt statt Komma (etwa 2.5)</translation>
+    </message>
+    <message>
+        <source>Days Per Week must be a number between 0.0 and 7.0</source>
+        <translation>„Tage pro Woche“ muss eine Zahl zwischen 0.0 und 7.0 sein, mit Punkt statt Komma (etwa 2.5)</translation>
+    </message>
+    <message>
+        <source>Days Per Week Goals</source>
+        <translation>Ziele (Tage pro Woche)</translation>
+    </message>
+    <message>
+        <source>These are the goals used by the progress tracker, in average days in-office per week.</source>
+        <translation>An diesen Zielen misst der Fortschrittsbalken: durchschnittliche Bürotage pro Woche, mit Punkt statt Komma geschrieben.</translation>
+    </message>
+    <message>
+        <source>Days Per Week Goal</source>
+        <translation>Tage pro Woche</translation>
+    </message>
+    <message>
+        <source>Add Goal</source>
+        <translation>Ziel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the goal %1</source>
+        <translation>Ziel %1 entfernen</translation>
+    </message>
+    <message>
+        <source>Description of the goal %1</source>
+        <translation>Beschreibung des Ziels %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopSystemSettings</name>
+    <message>
+        <source>This desktop has no settings page for it. Whoever administers this computer can let you see Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan.</source>
+        <translation>Diese Desktop-Umgebung hat dafür keine Einstellungsseite. Wer diesen Computer verwaltet, kann die Suche nach WLAN-Netzwerken erlauben: Die Berechtigung heißt org.freedesktop.NetworkManager.wifi.scan.</translation>
+    </message>
+</context>
+<context>
+    <name>FreedesktopNotifier</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralSettingsView</name>
+    <message>
+        <source>Enable notifiations</source>
+        <translation>Benachrichtigungen einschalten</translation>
+    </message>
+    <message>
+        <source>Get notified when you&apos;re automatically tracked as in or out of office</source>
+        <translation>Meldet, wenn ein Tag automatisch als „Im&#xa0;Büro“ oder „Nicht&#xa0;im&#xa0;Büro“ erfasst wurde</translation>
+    </message>
+    <message>
+        <source>Vacation days count as in the office</source>
+        <translation>Urlaubstage zählen als Bürotage</translation>
+    </message>
+    <message>
+        <source>Re-run Welcome Tutorial</source>
+        <translation>Einführung erneut zeigen</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>So you don&apos;t have to remember to open for automatic tracking</source>
+        <translation>Damit die automatische Erfassung läuft, ohne dass man daran denken muss</translation>
+    </message>
+</context>
+<context>
+    <name>InOfficeCheck</name>
+    <message>
+        <source>Pellory</source>
+        <translation>Pellory</translation>
+    </message>
+    <message>
+        <source>There was a problem using to Wi-Fi to detect if you&apos;re in the office or not.
+
+%1</source>
+        <translation>Über das WLAN ließ sich nicht feststellen, ob Sie im Büro sind.
+
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>InOfficeDetectionError</name>
+    <message>
+        <source>There is a problem with the database.</source>
+        <translation>Es gibt ein Problem mit der Datenbank.</translation>
+    </message>
+    <message>
+        <source>The app does not have location access.</source>
+        <translation>Die App hat keinen Standortzugriff.</translation>
+    </message>
+    <message>
+        <source>Could not find the default Wi-Fi interface.</source>
+        <translation>Die Standard-WLAN-Schnittstelle wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi is turned off.</source>
+        <translation>Das WLAN ist ausgeschaltet.</translation>
+    </message>
+</context>
+<context>
+    <name>InOfficeModelUpdater</name>
+    <message>
+        <source>Pellory</source>
+        <translation>Pellory</translation>
+    </message>
+    <message>
+        <source>You have been marked as in the office today</source>
+        <translation>Der heutige Tag wurde als „Im Büro“ erfasst</translation>
+    </message>
+    <message>
+        <source>(Not) Pellory</source>
+        <translation>(Nicht) Pellory</translation>
+    </message>
+    <message>
+        <source>You have been marked as out of office for yesterday</source>
+        <translation>Der gestrige Tag wurde als „Nicht im Büro“ erfasst</translation>
+    </message>
+</context>
+<context>
+    <name>LegendView</name>
+    <message>
+        <source>Weekend Day</source>
+        <translation>Wochenendtag</translation>
+    </message>
+    <message>
+        <source>Change to Next Status</source>
+        <translation>Zum nächsten Status wechseln</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <comment>key</comment>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>: Open Status Picker Menu </source>
+        <translation>Statusmenü öffnen</translation>
+    </message>
+    <message>
+        <source>Show day status on hover</source>
+        <translation>Tagesstatus beim Darüberfahren anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>LocationAlert</name>
+    <message>
+        <source>Disable Automatic Tracking</source>
+        <translation>Erfassung ausschalten</translation>
+    </message>
+    <message>
+        <source>Location Permissions Needed</source>
+        <translation>Standortberechtigung erforderlich</translation>
+    </message>
+    <message>
+        <source>You have automatic in office tracking enabled, but the app doesn&apos;t have access to your location.</source>
+        <translation>Die automatische Erfassung ist eingeschaltet, aber die App hat keinen Standortzugriff.</translation>
+    </message>
+    <message>
+        <source>Allow Access</source>
+        <translation>Zugriff erlauben</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>MarkedProgressBar</name>
+    <message>
+        <source>%1: reached</source>
+        <translation>%1: erreicht</translation>
+    </message>
+    <message>
+        <source>%1: not reached</source>
+        <comment>goal on the bar</comment>
+        <translation>%1: nicht erreicht</translation>
+    </message>
+</context>
+<context>
+    <name>MonthView</name>
+    <message>
+        <source>Last Month</source>
+        <translation>Voriger Monat</translation>
+    </message>
+    <message>
+        <source>Next Month</source>
+        <translation>Nächster Monat</translation>
+    </message>
+    <message>
+        <source>Error loading month!</source>
+        <translation>Der Monat konnte nicht geladen werden!</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkList</name>
+    <message>
+        <source>(empty name)</source>
+        <translation>(leerer Name)</translation>
+    </message>
+</context>
+<context>
+    <name>PelloryApp</name>
+    <message>
+        <source>Cannot start Pellory Tracker</source>
+        <translation>Pellory kann nicht starten</translation>
+    </message>
+    <message>
+        <source>Could not create app directory: %1</source>
+        <translation>Der Ordner der App konnte nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Fatal Error</source>
+        <translation>Schwerwiegender Fehler</translation>
+    </message>
+    <message>
+        <source>Cannot read app swift data store. You do not have read permissions on %1. Fix the permissions and restart the app.</source>
+        <translation>Der Datenspeicher der App kann nicht gelesen werden: Für %1 fehlt die Leseberechtigung. Bitte die Berechtigung ändern und die App neu starten.</translation>
+    </message>
+    <message>
+        <source>Could not load data store at %1. %2</source>
+        <translation>Der Datenspeicher %1 konnte nicht geladen werden. %2</translation>
+    </message>
+    <message>
+        <source>Delete File?</source>
+        <translation>Datei löschen?</translation>
+    </message>
+    <message>
+        <source>Could not load the app&apos;s data store. It&apos;s probably corrupted. Do you want reset all the app&apos;s data? You will lose all data. This action cannot be undone.</source>
+        <translation>Der Datenspeicher der App konnte nicht geladen werden. Vermutlich ist er beschädigt. Sollen alle Daten der App zurückgesetzt werden? Dabei gehen alle Daten verloren. Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Could not remove app data store: %1</source>
+        <translation>Der Datenspeicher der App konnte nicht gelöscht werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuarterStatsView</name>
+    <message>
+        <source>Last Quarter</source>
+        <translation>Voriges Quartal</translation>
+    </message>
+    <message>
+        <source>Next Quarter</source>
+        <translation>Nächstes Quartal</translation>
+    </message>
+    <message>
+        <source>Q%1</source>
+        <comment>a quarter of the year</comment>
+        <translation>%1. Quartal</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>quarter and year</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuarterView</name>
+    <message>
+        <source>Error loading month!</source>
+        <translation>Der Monat konnte nicht geladen werden!</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Settings page</source>
+        <translation>Seite der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation>Ziele</translation>
+    </message>
+    <message>
+        <source>Office Networks</source>
+        <translation>Büronetzwerke</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Please enable location access in %1</source>
+        <translation>Bitte den Standortzugriff in den %1 erlauben</translation>
+    </message>
+    <message>
+        <source>Location Settings</source>
+        <translation>Standorteinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>SsidSettingsView</name>
+    <message>
+        <source>Wi-Fi tracking is enabled, but Wi-Fi is turned off.</source>
+        <translation>Die Erfassung per WLAN ist eingeschaltet, aber das WLAN ist aus.</translation>
+    </message>
+    <message>
+        <source>Turn on Wi-Fi in MacOS to allow tracking.</source>
+        <translation>Für die Erfassung bitte das WLAN einschalten.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi tracking is enabled, but location tracking is turned off.</source>
+        <translation>Die Erfassung per WLAN ist eingeschaltet, aber der Standortzugriff fehlt.</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <comment>network</comment>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>%1 is an office network</source>
+        <translation>%1 ist ein Büronetzwerk</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <comment>network</comment>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Automatic In Office Tracking</source>
+        <translation>Automatische Erfassung im Büro</translation>
+    </message>
+    <message>
+        <source>Enable Automatic Tracking</source>
+        <translation>Automatische Erfassung einschalten</translation>
+    </message>
+    <message>
+        <source>Check Every (mins)</source>
+        <translation>Alle (Min.)</translation>
+    </message>
+    <message>
+        <source>Check if in office every</source>
+        <translation>Anwesenheit prüfen alle</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>If any of these networks are in range, you will be counted as in-office.</source>
+        <translation>Ist eines dieser Netzwerke in Reichweite, zählt der Tag als Bürotag.</translation>
+    </message>
+    <message>
+        <source>Run In-Office Check</source>
+        <translation>Anwesenheit prüfen</translation>
+    </message>
+    <message>
+        <source>In-Office Networks</source>
+        <translation>Büronetzwerke</translation>
+    </message>
+    <message>
+        <source>Add custom network</source>
+        <translation>Eigenes Netzwerk hinzufügen</translation>
+    </message>
+    <message>
+        <source>In-Range Networks</source>
+        <translation>Netzwerke in Reichweite</translation>
+    </message>
+    <message>
+        <source>These networks are currently in range of your device.</source>
+        <translation>Diese Netzwerke sind gerade in Reichweite des Geräts.</translation>
+    </message>
+    <message>
+        <source>No networks selected</source>
+        <translation>Keine Netzwerke ausgewählt</translation>
+    </message>
+    <message>
+        <source>Scanning...</source>
+        <translation>Sucht …</translation>
+    </message>
+    <message>
+        <source>Scanning for networks...</source>
+        <translation>Netzwerke werden gesucht …</translation>
+    </message>
+    <message>
+        <source>No networks found</source>
+        <translation>Keine Netzwerke gefunden</translation>
+    </message>
+    <message>
+        <source>Wi-Fi disabled. Turn on Wi-Fi in MacOS to allow scanning.</source>
+        <translation>Das WLAN ist aus. Für die Suche bitte das WLAN einschalten.</translation>
+    </message>
+</context>
+<context>
+    <name>StateGestures</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+</context>
+<context>
+    <name>StepDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreError</name>
+    <message>
+        <source>the number of a day is no whole number</source>
+        <translation>die Nummer eines Tages ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no state of a day</source>
+        <translation>„%1“ ist kein Status eines Tages</translation>
+    </message>
+    <message>
+        <source>it is no list</source>
+        <translation>er ist keine Liste</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>eine Zahl liegt außerhalb des zulässigen Bereichs</translation>
+    </message>
+    <message>
+        <source>the goal %1 is missing</source>
+        <translation>das Ziel %1 fehlt</translation>
+    </message>
+    <message>
+        <source>it has %1 cells instead of %2</source>
+        <translation>er hat %1 statt %2 Zellen</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; holds a value of the wrong type</source>
+        <translation>das Feld „%1“ enthält einen Wert der falschen Art</translation>
+    </message>
+    <message>
+        <source>its checksum differs</source>
+        <translation>seine Prüfsumme stimmt nicht</translation>
+    </message>
+    <message>
+        <source>The file is not a data store of Pellory.</source>
+        <translation>Die Datei ist kein Datenspeicher von Pellory.</translation>
+    </message>
+    <message>
+        <source>The data store was written by a newer version of Pellory (format %1, this version knows format %2). Install that version to open it.</source>
+        <translation>Der Datenspeicher stammt von einer neueren Version von Pellory (Format %1, diese Version kennt Format %2). Zum Öffnen bitte die neuere Version installieren.</translation>
+    </message>
+    <message>
+        <source>The data store has the unknown format %1.</source>
+        <translation>Der Datenspeicher hat das unbekannte Format %1.</translation>
+    </message>
+    <message>
+        <source>The data store lacks &quot;%1&quot;.</source>
+        <translation>Im Datenspeicher fehlt „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the data store has another form than expected.</source>
+        <translation>„%1“ hat im Datenspeicher eine andere Form als erwartet.</translation>
+    </message>
+    <message>
+        <source>The data store is damaged: its header does not allow writing.</source>
+        <translation>Der Datenspeicher ist beschädigt: Sein Kopf lässt kein Schreiben zu.</translation>
+    </message>
+    <message>
+        <source>The data store is damaged: %1</source>
+        <translation>Der Datenspeicher ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The data store is damaged: record %1 of &quot;%2&quot; cannot be read, %3.</source>
+        <translation>Der Datenspeicher ist beschädigt: Der Eintrag %1 in „%2“ ist nicht lesbar, %3.</translation>
+    </message>
+    <message>
+        <source>The data store is in use by another program. Close that program and start Pellory again.</source>
+        <translation>Der Datenspeicher wird von einem anderen Programm benutzt. Bitte das andere Programm beenden und Pellory erneut starten.</translation>
+    </message>
+    <message>
+        <source>The file is not a data store of Pellory (%1).</source>
+        <translation>Die Datei ist kein Datenspeicher von Pellory (%1).</translation>
+    </message>
+    <message>
+        <source>The data store is damaged (%1).</source>
+        <translation>Der Datenspeicher ist beschädigt (%1).</translation>
+    </message>
+    <message>
+        <source>The disk is full (%1).</source>
+        <translation>Der Datenträger ist voll (%1).</translation>
+    </message>
+    <message>
+        <source>The data store or its folder cannot be written (%1).</source>
+        <translation>Der Datenspeicher oder sein Ordner kann nicht beschrieben werden (%1).</translation>
+    </message>
+    <message>
+        <source>The data store cannot be used (%1).</source>
+        <translation>Der Datenspeicher kann nicht benutzt werden (%1).</translation>
+    </message>
+    <message>
+        <source>The data store cannot be created: %1</source>
+        <translation>Der Datenspeicher kann nicht angelegt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TrackingPopover</name>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Location access</source>
+        <translation>Standortzugriff</translation>
+    </message>
+    <message>
+        <source>Last check</source>
+        <translation>Letzte Prüfung</translation>
+    </message>
+    <message>
+        <source>Next check</source>
+        <translation>Nächste Prüfung</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Allowed</source>
+        <translation>Erlaubt</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>check</comment>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>TrackingStatus</name>
+    <message>
+        <source>Tracking Off</source>
+        <translation>Erfassung aus</translation>
+    </message>
+    <message>
+        <source>Tracking On</source>
+        <translation>Erfassung an</translation>
+    </message>
+    <message>
+        <source>Wi-Fi or Location Off</source>
+        <translation>WLAN oder Standort aus</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Run In-Office Check</source>
+        <translation>Anwesenheit prüfen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeView</name>
+    <message>
+        <source>Grant Location Permission</source>
+        <translation>Standortberechtigung erteilen</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Location access: allowed. Pellory can see the names of networks.</source>
+        <translation>Standortzugriff: erlaubt. Pellory kann die Namen von Netzwerken sehen.</translation>
+    </message>
+    <message>
+        <source>Location access: missing. Pellory cannot scan for networks.</source>
+        <translation>Standortzugriff: fehlt. Pellory kann nicht nach Netzwerken suchen.</translation>
+    </message>
+    <message>
+        <source>Welcome to Pellory</source>
+        <translation>Willkommen bei Pellory</translation>
+    </message>
+    <message>
+        <source>Mark where you spend each day, and see how far you are from your goals. Try it on this sample month: a click changes a day, a right click offers all states.</source>
+        <translation>Markieren Sie, wo Sie jeden Tag verbringen, und sehen Sie, wie weit Sie von Ihren Zielen entfernt sind. Probieren Sie es an diesem Beispielmonat aus: Ein Klick ändert einen Tag, ein Rechtsklick bietet jeden Status an.</translation>
+    </message>
+    <message>
+        <source>Your goals</source>
+        <translation>Ihre Ziele</translation>
+    </message>
+    <message>
+        <source>How many days a week do you want, or have, to be in the office on average? The progress tracker shows how many days you still need for each goal.</source>
+        <translation>An wie vielen Tagen pro Woche möchten oder müssen Sie im Durchschnitt im Büro sein? Der Fortschrittsbalken zeigt, wie viele Tage für jedes Ziel noch fehlen. Zahlen stehen mit Punkt statt Komma.</translation>
+    </message>
+    <message>
+        <source>Always there, never in the way</source>
+        <translation>Immer da, nie im Weg</translation>
+    </message>
+    <message>
+        <source>Pellory can start with your session, without a window, and tell you what it has marked.</source>
+        <translation>Pellory kann mit Ihrer Sitzung starten, ohne Fenster, und melden, was es markiert hat.</translation>
+    </message>
+    <message>
+        <source>Days that mark themselves</source>
+        <translation>Tage, die sich selbst markieren</translation>
+    </message>
+    <message>
+        <source>When a Wi-Fi network of your office is in range, Pellory can mark the day for you. Nothing about it leaves this computer.</source>
+        <translation>Ist ein WLAN Ihres Büros in Reichweite, kann Pellory den Tag für Sie markieren. Nichts davon verlässt diesen Computer.</translation>
+    </message>
+    <message>
+        <source>All set</source>
+        <translation>Alles bereit</translation>
+    </message>
+    <message>
+        <source>This is what you have chosen. You can change all of it later in the settings (Ctrl+,), and F1 explains the colours.</source>
+        <translation>Das haben Sie gewählt. Alles lässt sich später in den Einstellungen (Strg+,) ändern, und F1 erklärt die Farben.</translation>
+    </message>
+    <message>
+        <source>No goals</source>
+        <translation>Keine Ziele</translation>
+    </message>
+    <message>
+        <source>Goals: %1 days per week</source>
+        <translation>Ziele: %1 Tage pro Woche</translation>
+    </message>
+    <message>
+        <source>Automatic tracking is on</source>
+        <translation>Die automatische Erfassung ist an</translation>
+    </message>
+    <message>
+        <source>Automatic tracking is off</source>
+        <translation>Die automatische Erfassung ist aus</translation>
+    </message>
+    <message>
+        <source>Office networks: %1</source>
+        <translation>Büronetzwerke: %1</translation>
+    </message>
+    <message>
+        <source>Notifications are on</source>
+        <translation>Benachrichtigungen sind an</translation>
+    </message>
+    <message>
+        <source>Notifications are off</source>
+        <translation>Benachrichtigungen sind aus</translation>
+    </message>
+    <message>
+        <source>Pellory starts at login</source>
+        <translation>Pellory startet bei der Anmeldung</translation>
+    </message>
+    <message>
+        <source>Pellory does not start at login</source>
+        <translation>Pellory startet nicht bei der Anmeldung</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>WiFiClient</name>
+    <message>
+        <source>The Wi-Fi interface %1 is no longer there.</source>
+        <translation>Die WLAN-Schnittstelle %1 ist nicht mehr da.</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>Calendar View Settings</source>
+        <translation>Einstellungen der Kalenderansicht</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Location Settings</source>
+        <translation>Standorteinstellungen</translation>
+    </message>
+    <message>
+        <source>Pellory is running already</source>
+        <translation>Pellory läuft bereits</translation>
+    </message>
+    <message>
+        <source>It does not answer. End it, or log out and in again, and start anew.</source>
+        <translation>Es antwortet nicht. Bitte das laufende Programm beenden oder neu anmelden und noch einmal starten.</translation>
+    </message>
+</context>
+</TS>
