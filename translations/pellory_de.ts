@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>So you don&apos;t have to remember to open for automatic tracking</source>
-        <translation>Damit die automatische Erfassung läuft, ohne dass man daran denken muss</translation>
+        <translation>Damit die automatische Erfassung ohne Zutun läuft</translation>
     </message>
 </context>
 <context>
