@@ -43,6 +43,11 @@ inline QStringList shownTexts(const QWidget& root)
     return texts;
 }
 
+template <class Control> Control& named(const QWidget& root, const char* name)
+{
+    return *root.findChild<Control*>(QString::fromLatin1(name));
+}
+
 inline QPoint inWindow(const QWidget& widget)
 {
     return widget.mapTo(widget.window(), widget.rect().center());
@@ -75,19 +80,16 @@ public:
 class FakeLoginItem : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override { return enabled; }
-    void registerItem() override { set(true); }
-    void unregisterItem() override { set(false); }
-
-    bool enabled = false;
-    bool isBroken = false;
-
-private:
-    void set(bool on)
+    void registerItem() override
     {
         if (isBroken)
             throw PlatformError(u"no room"_s);
-        enabled = on;
+        enabled = true;
     }
+    void unregisterItem() override { enabled = false; }
+
+    bool enabled = false;
+    bool isBroken = false;
 };
 
 /// What the calendar views work on: a real store, on the morning of Friday 20 November 2026.
@@ -110,6 +112,14 @@ protected:
             context.save();
         }
         return found.first();
+    }
+
+    void setRadio(bool isOn, int permission)
+    {
+        wifiClient.interface->powerOn = isOn;
+        Q_EMIT wifiClient.powerStateDidChange(u"wlan0"_s);
+        authorization.change(AuthorizationStatus(permission));
+        QCoreApplication::processEvents();
     }
 
     static void show(QWidget& window)
