@@ -1,19 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 pellory_test(views
-    SOURCES
-        support/FakeWiFiClient.h
-        support/WindowTestMain.cpp
-        views/CalendarViewTest.cpp
-        views/ContentViewTest.cpp
-        views/DayClickTest.cpp
-        views/HoverTest.cpp
-        views/PagesTest.cpp
-        views/ProgressBarTest.cpp
-        views/ProgressWidgetViewTest.cpp
-        views/SettingsTest.cpp
-        views/ThemeTest.cpp
-        views/TrackingIndicatorTest.cpp
-        views/WindowsTest.cpp
+    SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
+        views/CalendarViewTest.cpp views/ContentViewTest.cpp views/DayClickTest.cpp views/HoverTest.cpp
+        views/PagesTest.cpp views/ProgressBarTest.cpp views/ProgressWidgetViewTest.cpp views/SettingsTest.cpp
+        views/ThemeTest.cpp views/TrackingIndicatorTest.cpp views/WindowsTest.cpp
     LINKS Pellory::views SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
@@ -24,15 +14,12 @@ pellory_test(app
     LINKS Pellory::app
 )
 pellory_test(platform
-    SOURCES platform/PortalAppearanceTest.cpp platform/SystemClockTest.cpp
-    LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
-)
-pellory_test(network
     SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
+        platform/PortalAppearanceTest.cpp platform/SystemClockTest.cpp
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
     PRECOMPILES <QCoroTask> <QTest> <QtDBus>
 )
-target_compile_definitions(network_test PRIVATE
+target_compile_definitions(platform_test PRIVATE
     NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
 pellory_test(integration
     SOURCES integration/AutomaticMarkingTest.cpp integration/ProgramTest.cpp

@@ -1,35 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SystemClock.h"
+#include "Emission.h"
+#include "PrivateBuses.h"
 #include "TimeOfDay.h"
 
-#include <QCoreApplication>
-#include <QScopeGuard>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 
-#include <gmock/gmock.h>
-
-#include <ctime>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Moves this process to a time zone in which it will be midnight in so many seconds.
-void moveToMidnight(int seconds)
-{
-    qputenv("TZ", whereItIsNow(secondsOfDay - seconds).zone.toUtf8());
-    tzset();
-}
-
-} // namespace
+using namespace std::chrono_literals;
 
 TEST(SystemClockTest, tellsOfLocalMidnightAndOfNothingElse)
 {
-    const auto restore = qScopeGuard([] {
-        qputenv("TZ", "UTC");
-        tzset();
-    });
-    moveToMidnight(3);
+    const auto restore = qScopeGuard([zone = qgetenv("TZ")] { qputenv("TZ", zone), tzset(); });
+    qputenv("TZ", whereItIsNow(secondsOfDay - 3).zone.toUtf8()); // three seconds before midnight
+    tzset();
     const SystemClock clock;
     QSignalSpy newDay(&clock, &Clock::dayChanged);
     const QDateTime before = QDateTime::currentDateTime();
@@ -40,4 +24,19 @@ TEST(SystemClockTest, tellsOfLocalMidnightAndOfNothingElse)
     for (int turn = 0; turn < 3; ++turn)
         QCoreApplication::processEvents();
     EXPECT_EQ(newDay.size(), 1);
+}
+
+TEST(SystemClockTest, aSleepLastsSoLongAndEndsWithTheClock)
+{
+    auto clock = std::make_unique<SystemClock>();
+    const auto longSleep = clock->sleep(1h);
+    for (const auto duration : {0s, 1s}) {
+        QElapsedTimer slept;
+        slept.start();
+        endOf(clock->sleep(duration));
+        EXPECT_GE(slept.elapsed() * 1ms, duration);
+    }
+    EXPECT_FALSE(longSleep.isReady());
+    clock.reset();
+    EXPECT_THROW(endOf(longSleep), Abandoned);
 }
