@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgressWidgetView.h"
 #include "CalendarViewTest.h"
+#include "StatisticsTexts.h"
 
 class ProgressWidgetViewTest : public CalendarViewTest {
 protected:
@@ -40,13 +41,16 @@ TEST_F(ProgressWidgetViewTest, theBarFollowsToo)
     for (int day = 2; day <= 6; ++day)
         mark(*november, day, DayState::IN_OFFICE);
     mark(*november, 20, DayState::WILL_BE_IN_OFFICE);
-    const auto& shown = tracker.findChild<MarkedProgressBar*>()->contents();
+    const auto& bar = *tracker.findChild<MarkedProgressBar*>();
+    const auto& shown = bar.contents();
     EXPECT_NEAR(shown.progress, 25.0 / 21 / 4, 1e-9);
     EXPECT_NEAR(shown.progressPrediction, 30.0 / 21 / 4, 1e-9);
     EXPECT_NEAR(shown.label.value(), 25.0 / 21, 1e-9);
     ASSERT_EQ(shown.markers.size(), 2);
     EXPECT_EQ(shown.markers.at(0).position, 0.5);
     EXPECT_EQ(shown.markers.at(1).description, u"ideal"_s);
+    settings->daysPerWeekGoals.value().first()->wantedDaysPerWeek = u"1.00"_s;
+    EXPECT_EQ(bar.accessibleName(), averageText(25.0 / 21) + u"; not fired: reached; ideal: not reached"_s);
     wear(ColorScheme::Dark);
     EXPECT_EQ(shown.progressColor, themeFor(ColorScheme::Dark).inOffice);
     viewSettings.showWillBeInOfficeStats = false;
