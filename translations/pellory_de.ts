@@ -960,5 +960,17 @@
         <source>It does not answer. End it, or log out and in again, and start anew.</source>
         <translation>Es antwortet nicht. Bitte das laufende Programm beenden oder neu anmelden und noch einmal starten.</translation>
     </message>
+    <message>
+        <source>Start without a window, as at the beginning of a session.</source>
+        <translation>Ohne Fenster starten, wie am Anfang einer Sitzung.</translation>
+    </message>
+    <message>
+        <source>Have the running Pellory look for office networks now.</source>
+        <translation>Das laufende Pellory sofort nach Büronetzwerken suchen lassen.</translation>
+    </message>
+    <message>
+        <source>A calendar of days in the office that marks them by the Wi-Fi networks in range.</source>
+        <translation>Ein Kalender der Tage im Büro, der sie an den WLANs in Reichweite erkennt.</translation>
+    </message>
 </context>
 </TS>
