@@ -203,8 +203,8 @@ void MarkedProgressBar::paintMarkers(QPainter& painter, const ProgressBarGeometr
         const ProgressMarker& marker = m_contents.markers.at(i);
         painter.fillRect(line, colorOf(marker));
         painter.setPen(colorOf(marker));
-        painter.drawText(
-            caption, Qt::AlignCenter,
-            painter.fontMetrics().elidedText(marker.description, Qt::ElideRight, static_cast<int>(caption.width())));
+        // Rounded, for a width that is a difference of places can lack the last bit of a whole number.
+        painter.drawText(caption, Qt::AlignCenter,
+                         painter.fontMetrics().elidedText(marker.description, Qt::ElideRight, qRound(caption.width())));
     }
 }
