@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppSettings.h"
+#include "ExpectedMarks.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
 #include "InOfficeCheck.h"
-#include "Marking.h"
 #include "ModelContainer.h"
-#include "ModelContext.h"
 #include "Notifier.h"
 #include "Testing.h"
 
@@ -36,28 +35,11 @@ protected:
         });
     }
     ~InOfficeTest() override { qInstallMessageHandler(nullptr); }
-    void post(const Notification& n) override { days += n.day, posted += n.title + u'|' + n.subtitle + u'|' + n.topic; }
+    void post(const Notification& n) override { posted += n.title + u'|' + n.subtitle + u'|' + n.topic; }
     bool checkNow(bool markPrevious = true)
     {
         auto task = check.check(markPrevious);
         return task.isReady() ? QCoro::waitFor(task) : throw std::logic_error("the check waits");
-    }
-
-    /// The stored days that are not unknown, such as "2026-11-20 IN_OFFICE "; those of a weekend end with "!".
-    QStringList marks() const
-    {
-        QStringList found;
-        ModelContainer onDisk(container.configuration());
-        for (const auto& month : onDisk.mainContext().fetchMonths()) {
-            for (const Day& day : month->days.value()) {
-                if (day.state == DayState::UNKNOWN)
-                    continue;
-                const QString date = month->dateOf(day.id).toString(u"yyyy-M-d ");
-                found.append(date + rawValue(day.state) + (day.isWorkday ? u' ' : u'!'));
-            }
-        }
-        found.sort();
-        return found;
     }
 
     FixedClock clock; // goes last with the client: what still waits for them must not touch the rest
@@ -67,7 +49,6 @@ protected:
     AppSettings settings;
     InOfficeCheck check{{container, settings, client, *this, clock}};
     QStringList posted;
-    QList<QDate> days;
 };
 
 TEST_F(InOfficeTest, isWhereAWholeNameIsTheSameByItsCharacters)
@@ -117,50 +98,6 @@ TEST_F(InOfficeTest, isCheckedAgainAfterFailuresThatThePersonIsToldOf)
     failsWith(u"Could not find the default Wi-Fi interface."_s);
     EXPECT_TRUE(logged.contains(lonely));
     EXPECT_EQ(client.scans.size(), 6); // none without power
-}
-
-TEST_F(InOfficeTest, isMarkedForTodayAndTheWorkdayBefore)
-{
-    QStringList expected; // the rows are of days of their own
-    for (const char* row : {"2026-11-17 2026-11-16 ", "2026-8-10 2026-8-7 ", "2026-7-12 2026-7-10!",
-                            "2026-6-13 2026-6-12!", "2026-5-1 2026-4-30 ", "2027-1-1 2026-12-31 "}) {
-        const QString dates = QString::fromUtf8(row);
-        const QString today = dates.section(u' ', 0, 0);
-        const QString before = dates.section(u' ', 1, 1).remove(u'!');
-        clock.beginDay(QDate::fromString(today, u"yyyy-M-d"_s));
-        EXPECT_TRUE(checkNow());
-        QCoreApplication::processEvents(); // nobody has saved, but the turn has ended
-        expected += {today + u" IN_OFFICE"_s + dates.back(), before + u" OUT_OF_OFFICE "_s};
-        expected.sort();
-        EXPECT_EQ(marks(), expected);
-        EXPECT_EQ(days.takeFirst().toString(u"yyyy-M-d"), today);
-        EXPECT_EQ(days.takeFirst().toString(u"yyyy-M-d"), before);
-        EXPECT_EQ(logged.mid(logged.size() - 2).join(u'|'),
-                  u"Logged as in office on %1|Logged as out of office on %2"_s.arg(today, before));
-    }
-    EXPECT_EQ(container.mainContext().fetchMonths().size(), 8);
-}
-
-TEST_F(InOfficeTest, isMarkedOnlyOnOpenDaysAndToldOfOnce)
-{
-    checkNow();
-    const auto month = container.mainContext().fetchMonths().constFirst();
-    for (int i = 0; i < 5 * 8; ++i) {
-        const DayState prior = allDayStates.at(std::size_t(i / 8));
-        const bool isOpen = prior == DayState::UNKNOWN || prior == DayState::WILL_BE_IN_OFFICE;
-        const bool isIn = isOpen && (i & 2);
-        const bool isOut = isOpen && (i & 4);
-        mark(*month, 19, prior);
-        mark(*month, 20, prior);
-        settings.notificationsEnabled = i & 1;
-        settings.inOfficeSsids = {i & 2 ? u"Office"_s : u"Home"_s};
-        posted.clear();
-        EXPECT_EQ(checkNow(i & 4), isIn);
-        EXPECT_FALSE(checkNow(i & 4));
-        EXPECT_EQ(month->days.value()[*month->indexOf(19)].state, isOut ? DayState::OUT_OF_OFFICE : prior) << i;
-        EXPECT_EQ(month->days.value()[*month->indexOf(20)].state, isIn ? DayState::IN_OFFICE : prior) << i;
-        EXPECT_EQ(posted, i & 1 ? notices.mid(!isIn, isIn + isOut) : QStringList()) << i;
-    }
 }
 
 TEST_F(InOfficeTest, isCheckedWhereThePersonWantsItAfterEachInterval)
@@ -213,7 +150,9 @@ TEST_F(InOfficeTest, isMarkedOnceOnTheDayOfTheAnswerAndGivenUpWithoutOne)
     Q_EMIT client.letGo();
     EXPECT_TRUE(second.isReady() && client.scans.size() == 2);
     QCoreApplication::processEvents();
-    EXPECT_EQ(marks(), QStringList({u"2026-11-20 OUT_OF_OFFICE "_s, u"2026-11-21 IN_OFFICE!"_s}));
+    ModelContainer onDisk(container.configuration()); // nobody has saved, but the turn has ended
+    EXPECT_EQ(storedMarks(onDisk.mainContext()),
+              (Marks{{QDate(2026, 11, 20), DayState::OUT_OF_OFFICE}, {QDate(2026, 11, 21), DayState::IN_OFFICE}}));
     EXPECT_EQ(std::exchange(posted, {}), notices);
     for (const int held : {0, 1, 2, 3}) { // in a sleep, in a rest on the timer, in a lookup, in a scan
         auto ownClock = std::make_unique<FixedClock>();

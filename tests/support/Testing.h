@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QScopeGuard>
 
@@ -10,6 +12,10 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+/// Where a QTemporaryDir has its files in memory, if it can: thousands of saves would wait for the disk.
+inline const QString inMemory =
+    (QFileInfo(u"/dev/shm"_s).isWritable() ? u"/dev/shm"_s : QDir::tempPath()) + u"/pellory-XXXXXX"_s;
 
 /// Shows the strings of a failed comparison.
 inline void PrintTo(const QString& string, std::ostream* out) // NOLINT(readability-identifier-naming)
