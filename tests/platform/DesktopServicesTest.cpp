@@ -3,6 +3,8 @@
 #include "FreedesktopNotifier.h"
 #include "PrivateBuses.h"
 
+#include <QDBusPendingCallWatcher>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QStandardPaths>
 
@@ -75,6 +77,35 @@ TEST_F(FreedesktopNotifierTest, leadsToTheDayOfANotificationOnScreen)
         server.tell("EmitSignal", server.name, parts[0], signature, QVariantList{parts[1].toUInt(), second});
         QCoreApplication::processEvents();
         EXPECT_EQ(std::exchange(opened, {}), parts[3]) << row;
+    }
+}
+
+TEST_F(FreedesktopNotifierTest, goesOnAfterAServerThatHangsOrDiesOrTalksNonsense)
+{
+    FreedesktopNotifier impatient(3s);
+    const QTemporaryDir folder;
+    QFile log(folder.filePath(u"log"_s));
+    const auto startServer = [&] { server.startMock({u"-l"_s, log.fileName(), u"-t"_s, u"notification_daemon"_s}); };
+    const auto isToldOf = [&](const QString& title) {
+        notifier.post({title, {}, {}}), impatient.post({title + u'!', {}, {}});
+        return eventually([&, heard = QByteArray()]() mutable {
+            heard += log.isOpen() || log.open(QFile::ReadOnly) ? log.readAll() : QByteArray();
+            return heard.contains(title.toUtf8() + '"') && heard.contains(title.toUtf8() + '!');
+        });
+    };
+    startServer(), server.suspend();
+    notifier.post({}), impatient.post({});
+    EXPECT_TRUE(eventually([&] { return impatient.findChild<QDBusPendingCallWatcher*>() != nullptr; }));
+    EXPECT_TRUE(eventually([&] { return impatient.findChild<QDBusPendingCallWatcher*>() == nullptr; }));
+    EXPECT_NE(notifier.findChild<QDBusPendingCallWatcher*>(), nullptr); // until the server is known to be dead
+    server.stop(), startServer();
+    EXPECT_TRUE(isToldOf(u"Again"_s));
+    for (const auto& [signature, code] : nonsense) {
+        for (const auto& [method, taken] :
+             {std::pair(u"GetCapabilities"_s, QString()), {u"Notify"_s, u"susssasa{sv}i"_s}})
+            server.tell("AddMethod", server.name, method, taken, QString::fromLatin1(signature),
+                        QString::fromLatin1(code));
+        EXPECT_TRUE(isToldOf(QString::number(quintptr(code)))) << code;
     }
 }
 

@@ -3,7 +3,9 @@
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerNames.h"
 #include "NetworkManagerWiFiClient.h"
+#include "PortalAppearance.h"
 #include "PrivateBuses.h"
+#include "StatusNotifierHost.h"
 
 #include <QDBusObjectPath>
 #include <QSignalSpy>
@@ -137,6 +139,58 @@ TEST_F(NetworkManagerTest, whatGoesAwayIsAnErrorUntilItIsBack)
         manager.stop(), start(), addRadio(0), addNetwork("a"_ba);
         EXPECT_EQ(found(patientClient.scanForNetworks(wlan0)), Names{u"a"_s});
         manager.stop(), start(), addRadio(0);
+    }
+}
+
+TEST_F(NetworkManagerTest, whatDoesNotAnswerHoldsUpNothingAndIsGivenUp)
+{
+    PlayedService desktop{QDBusConnection::sessionBus(), u"org.freedesktop.portal.Desktop"_s, u"/desktop"_s};
+    PlayedService tray{QDBusConnection::sessionBus(), u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s};
+    for (PlayedService* service : {&desktop, &tray})
+        service->startMock({service->name, service->path, service->name}), service->suspend();
+    addNetwork("a"_ba), manager.suspend();
+    NetworkManagerWiFiClient impatient{{300ms, 20ms, 3s}};
+    NetworkManagerAuthorization authorization;
+    PortalAppearance appearance;
+    StatusNotifierHost host;
+    QElapsedTimer blocked;
+    blocked.start();
+    authorization.start(), authorization.requestAlwaysAuthorization(), appearance.start(), host.start();
+    impatient.startMonitoringPowerEvents();
+    const auto interface = impatient.defaultInterface();
+    const Scan scan = impatient.scanForNetworks(wlan0);
+    for (int beats = 0; beats < 100; ++beats)
+        QCoreApplication::processEvents();
+    EXPECT_FALSE(interface.isReady() || scan.isReady());
+    EXPECT_LT(blocked.elapsed() * 1ms, busPatience); // so long a call that waits would wait
+    EXPECT_EQ(endOf(interface), std::nullopt);
+    EXPECT_GT(found(scan).value(0).value_or(QString()), u"error: "_s);
+    manager.resume();
+    EXPECT_EQ(found(impatient.scanForNetworks(wlan0)), Names{u"a"_s});
+}
+
+TEST_F(NetworkManagerTest, nonsenseIsTakenForNothing)
+{
+    addNetwork("a"_ba);
+    client.startMonitoringPowerEvents();
+    const auto answer = [&](const QString& interface, const char* method, const char* signature, const char* code) {
+        manager.tell("AddMethod", interface, QString::fromLatin1(method), QString(), QString::fromLatin1(signature),
+                     QString::fromLatin1(code));
+    };
+    manager.path = networkManagerPath;
+    for (const auto& [signature, code] : nonsense) {
+        answer(managerInterface, "GetPermissions", signature, code);
+        EXPECT_EQ(found(client.scanForNetworks(wlan0)) == Names{u"a"_s}, code[1] != 'a') << code; // not an error
+    }
+    answer(managerInterface, "GetPermissions", "a{ss}", "ret = {'a': 'b'}");
+    manager.tell("EmitSignal", propertiesInterface, u"PropertiesChanged"_s, u"s(ss)as"_s,
+                 QVariantList{managerInterface, QStringList{u"a"_s, u"b"_s}, QStringList()});
+    EXPECT_EQ(found(client.scanForNetworks(wlan0)), Names{u"a"_s});
+    manager.path = networkManagerObjects;
+    for (const auto& [signature, code] : nonsense) {
+        answer(u"org.freedesktop.DBus.ObjectManager"_s, "GetManagedObjects", signature, code);
+        EXPECT_GT(found(client.scanForNetworks(wlan0)).value(0).value_or(QString()), u"error: "_s) << code;
+        EXPECT_EQ(endOf(client.defaultInterface()), std::nullopt) << code;
     }
 }
 

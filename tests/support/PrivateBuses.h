@@ -47,6 +47,20 @@ class PrivateBuses : public testing::Environment {
 };
 inline testing::Environment* const privateBuses = testing::AddGlobalTestEnvironment(new PrivateBuses);
 
+/// What a broken service could answer: a signature, and the code of it.
+inline constexpr std::pair<const char*, const char*> nonsense[]{
+    {"", ""},
+    {"s", "ret = 'x'"},
+    {"i", "ret = -1"},
+    {"as", "ret = []"},
+    {"(ss)", "ret = ('a', 'b')"},
+    {"a(ss)", "ret = [('a', 'b')] * 100000"},
+    {"a{sv}", "ret = {'a': ('b', 1)}"},
+    {"a{oa{sa{sv}}}", "ret = {'/a': {'org.freedesktop.NetworkManager.Device': {'Interface': 7, 'State': 'x'}, "
+                      "'org.freedesktop.NetworkManager.Device.Wireless': {'AccessPoints': [('a', 1)]}}}"},
+    {"s", "raise ValueError"},
+};
+
 /// A service that is played here. It is spoken to over the connection of the code under test: whatever it told
 /// everybody before it answers has arrived here, too, when its answer has.
 struct PlayedService {
@@ -69,6 +83,17 @@ struct PlayedService {
         daemon.reset();
         ASSERT_TRUE(eventually([this] { return !isThere(); }));
     }
+    /// Keeps it from answering until it is signalled to continue.
+    void suspend() const
+    {
+        const auto process = static_cast<pid_t>(daemon->processId());
+        ASSERT_EQ(kill(process, SIGSTOP), 0);
+        ASSERT_TRUE(eventually([&] {
+            QFile status(u"/proc/%1/stat"_s.arg(process));
+            return status.open(QFile::ReadOnly) && status.readAll().contains(") T ");
+        }));
+    }
+    void resume() const { kill(static_cast<pid_t>(daemon->processId()), SIGCONT); }
 
     template <class... Arguments>
     QVariant call(const QString& interface, const char* method, const Arguments&... arguments)

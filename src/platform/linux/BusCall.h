@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BusPatience.h"
 #include "PlatformError.h"
 
 #include <QDBusMessage>
 
 #include <QCoroTask>
-
-#include <chrono>
 
 class QDBusConnection;
 
@@ -26,8 +25,6 @@ public:
 private:
     QString m_name;
 };
-
-inline constexpr std::chrono::milliseconds busPatience = std::chrono::seconds(25);
 
 /// Calls a service and waits for its answer. Throws a BusError when there is none, and Abandoned when `caller` is
 /// destroyed meanwhile.

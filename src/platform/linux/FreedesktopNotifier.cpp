@@ -36,7 +36,10 @@ QVariantMap hints()
 
 } // namespace
 
-FreedesktopNotifier::FreedesktopNotifier() = default;
+FreedesktopNotifier::FreedesktopNotifier(std::chrono::milliseconds patience)
+    : m_patience(patience)
+{
+}
 
 FreedesktopNotifier::~FreedesktopNotifier() = default;
 
@@ -70,7 +73,7 @@ QCoro::Task<> FreedesktopNotifier::send(Notification notification)
         auto call = callOf(u"Notify"_s);
         call << u"Pellory"_s << m_numbers.value(notification.topic) << applicationId << notification.title << body
              << actions << hints() << timeoutOfTheServer;
-        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call);
+        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call, m_patience);
         const auto number = reply.arguments().value(0).toUInt();
         if (!notification.topic.isEmpty())
             m_numbers.insert(notification.topic, number);
@@ -78,14 +81,15 @@ QCoro::Task<> FreedesktopNotifier::send(Notification notification)
         if (m_days.size() > 20) // some servers never tell that one has gone
             m_days.erase(m_days.begin());
     } catch (const BusError& error) {
-        qCDebug(logNotifier, "Could not notify: %s", error.what());
+        qCWarning(logNotifier, "Could not notify: %s", error.what());
     }
 }
 
 QCoro::Task<QStringList> FreedesktopNotifier::abilitiesOfTheServer()
 {
     if (!m_abilities) {
-        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s));
+        const QDBusMessage reply =
+            co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s), m_patience);
         m_abilities = reply.arguments().value(0).toStringList();
     }
     co_return std::as_const(*m_abilities); // which the task would take away otherwise

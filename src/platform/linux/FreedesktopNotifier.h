@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BusPatience.h"
 #include "Notifier.h"
 
 #include <QHash>
@@ -21,7 +22,8 @@ class FreedesktopNotifier : public Notifier {
     Q_OBJECT
 
 public:
-    FreedesktopNotifier();
+    /// `patience` is how long the server may take for each answer.
+    explicit FreedesktopNotifier(std::chrono::milliseconds patience = busPatience);
     ~FreedesktopNotifier() override;
 
     void post(const Notification& notification) override;
@@ -32,6 +34,7 @@ private:
     QCoro::Task<QStringList> abilitiesOfTheServer();
     void followServer();
 
+    std::chrono::milliseconds m_patience;
     QQueue<Notification> m_waiting;
     bool m_isSending = false;
     std::optional<QStringList> m_abilities;

@@ -36,7 +36,7 @@ AuthorizationStatus statusOf(const QString& permission)
 QCoro::Task<NetworkManagerState> NetworkManager::readState()
 {
     const auto call = callOf(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call);
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_patience);
     NetworkManagerReader reader(reply);
     while (reader.readSome())
         co_await pauseFor(0ms, this);
@@ -46,8 +46,11 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()
 {
     const auto call = callOf(networkManagerPath, managerInterface, u"GetPermissions"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call);
-    const auto permissions = qdbus_cast<QMap<QString, QString>>(reply.arguments().value(0));
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_patience);
+    // To read an answer of another type as this one would end the program.
+    QMap<QString, QString> permissions;
+    if (reply.signature() == "a{ss}"_L1)
+        permissions = qdbus_cast<QMap<QString, QString>>(reply.arguments().value(0));
     const auto scan = permissions.constFind(u"org.freedesktop.NetworkManager.wifi.scan"_s);
     // A version that does not know this permission lets everybody scan.
     co_return scan == permissions.cend() ? AuthorizationStatus::authorizedAlways : statusOf(*scan);
@@ -58,5 +61,5 @@ QCoro::Task<> NetworkManager::requestScan(QString devicePath, bool isInteractive
     auto call = callOf(devicePath, wirelessInterface, u"RequestScan"_s);
     call << QVariantMap();
     call.setInteractiveAuthorizationAllowed(isInteractive);
-    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : busPatience);
+    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : m_patience);
 }

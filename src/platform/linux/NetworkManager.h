@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BusPatience.h"
 #include "LocationAuthorization.h"
 #include "NetworkManagerState.h"
 
@@ -11,6 +12,12 @@
 /// Calls to NetworkManager on the system bus. They throw a BusError, and Abandoned when this is destroyed meanwhile.
 class NetworkManager : public QObject {
 public:
+    /// `patience` is how long each call waits for its answer.
+    explicit NetworkManager(std::chrono::milliseconds patience = busPatience)
+        : m_patience(patience)
+    {
+    }
+
     /// All that it knows of Wi-Fi, in one round trip.
     [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
 
@@ -20,4 +27,7 @@ public:
     /// Asks a device to scan, which it then does in its own time. With `isInteractive` the system may ask the person
     /// for the permission, and is given time for that.
     QCoro::Task<> requestScan(QString devicePath, bool isInteractive);
+
+private:
+    std::chrono::milliseconds m_patience;
 };

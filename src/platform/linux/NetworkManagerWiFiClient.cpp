@@ -29,6 +29,10 @@ constexpr auto longestMiss = 30s;
 // Without a scan of our own, what others have scanned for is as good as it gets.
 constexpr auto longestMissUnscanned = 60s;
 
+// Where the end of a connection is told.
+const auto localPath = u"/org/freedesktop/DBus/Local"_s;
+const auto localInterface = u"org.freedesktop.DBus.Local"_s;
+
 std::optional<WiFiInterface> interfaceOf(const NetworkManagerState& state, const WirelessDevice* device)
 {
     if (device == nullptr)
@@ -48,6 +52,7 @@ const WirelessDevice& presentDevice(const NetworkManagerState& state, const QStr
 
 NetworkManagerWiFiClient::NetworkManagerWiFiClient(ScanTiming timing)
     : m_timing(timing)
+    , m_networkManager(timing.answer)
 {
 }
 
@@ -72,7 +77,7 @@ QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readStateIfThere()
         const NetworkManagerState state = co_await m_networkManager.readState();
         co_return state;
     } catch (const BusError& error) {
-        qCDebug(logWiFi, "No Wi-Fi: %s", error.what());
+        qCWarning(logWiFi, "NetworkManager does not tell of Wi-Fi, so it counts as off: %s", error.what());
     }
     co_return NetworkManagerState();
 }
@@ -120,11 +125,12 @@ void NetworkManagerWiFiClient::startMonitoringPowerEvents()
         QDBusConnection bus = QDBusConnection::systemBus();
         const bool isHeard =
             bus.connect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
-                        {managerInterface}, {}, this, SLOT(handleManagerChanged(QDBusMessage))) &&
+                        {managerInterface}, u"sa{sv}as"_s, this, SLOT(handleManagerChanged(QDBusMessage))) &&
             bus.connect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
                         SLOT(handleDeviceChanged(uint, uint)));
         if (!isHeard)
             throw PlatformError(bus.lastError().message());
+        bus.connect({}, localPath, localInterface, u"Disconnected"_s, this, SLOT(handleBusGone()));
         m_serviceWatcher = std::make_unique<QDBusServiceWatcher>(networkManagerService, bus);
         connect(m_serviceWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
                 &NetworkManagerWiFiClient::tellPower);
@@ -138,9 +144,10 @@ void NetworkManagerWiFiClient::stopMonitoringPowerEvents()
         return;
     m_serviceWatcher.reset();
     QDBusConnection bus = QDBusConnection::systemBus();
+    bus.disconnect({}, localPath, localInterface, u"Disconnected"_s, this, SLOT(handleBusGone()));
     const bool isEnded =
         bus.disconnect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
-                       {managerInterface}, {}, this, SLOT(handleManagerChanged(QDBusMessage))) &&
+                       {managerInterface}, u"sa{sv}as"_s, this, SLOT(handleManagerChanged(QDBusMessage))) &&
         bus.disconnect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
                        SLOT(handleDeviceChanged(uint, uint)));
     if (!isEnded)
@@ -160,6 +167,13 @@ void NetworkManagerWiFiClient::handleDeviceChanged(uint state, uint oldState)
     // A device goes through many states while it connects, of which these alone can change anything.
     if (isUsable(state) != isUsable(oldState) || isConnected(state) != isConnected(oldState))
         tellPower();
+}
+
+// Qt does not connect again.
+void NetworkManagerWiFiClient::handleBusGone()
+{
+    qCWarning(logWiFi, "The system bus has gone, and with it Wi-Fi: start Pellory again when the bus is back");
+    tellPower();
 }
 
 QCoro::Task<> NetworkManagerWiFiClient::tellPower()

@@ -15,6 +15,8 @@ struct ScanTiming {
     std::chrono::milliseconds longest = std::chrono::seconds(20);
     /// How long after its end the last access points are still being listed.
     std::chrono::milliseconds settling = std::chrono::milliseconds(300);
+    /// How long each question may take.
+    std::chrono::milliseconds answer = busPatience;
 };
 
 /// The Wi-Fi of this computer as NetworkManager runs it. A NetworkManager that is not there, or not any more, is a
@@ -50,4 +52,5 @@ private:
 private Q_SLOTS:
     void handleManagerChanged(const QDBusMessage& signal);
     void handleDeviceChanged(uint state, uint oldState);
+    void handleBusGone();
 };

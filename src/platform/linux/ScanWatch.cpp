@@ -15,7 +15,8 @@ ScanWatch::ScanWatch(const QString& devicePath, QObject* parent)
     : QObject(parent)
 {
     QDBusConnection::systemBus().connect(networkManagerService, devicePath, propertiesInterface, u"PropertiesChanged"_s,
-                                         {wirelessInterface}, {}, this, SLOT(handlePropertiesChanged(QDBusMessage)));
+                                         {wirelessInterface}, u"sa{sv}as"_s, this,
+                                         SLOT(handlePropertiesChanged(QDBusMessage)));
 }
 
 QCoro::Task<> ScanWatch::wait(std::chrono::milliseconds longest)
