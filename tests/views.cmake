@@ -9,6 +9,10 @@ pellory_test(views
 )
 add_dependencies(views_test pellory_app_lrelease)
 target_compile_definitions(views_test PRIVATE GERMAN_TEXTS="${PROJECT_BINARY_DIR}/src/app/pellory_de.qm")
+pellory_test(life
+    SOURCES life/MonthsOfRunningTest.cpp support/FakeWiFiClient.h support/WindowTestMain.cpp
+    LINKS Pellory::views Pellory::platform_linux Qt6::Test
+)
 pellory_test(app
     SOURCES app/PelloryAppTest.cpp app/TranslationsTest.cpp
     LINKS Pellory::app

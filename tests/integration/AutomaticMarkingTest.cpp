@@ -5,7 +5,6 @@
 #include "Month.h"
 #include "PrivateBuses.h"
 #include "RunningProgram.h"
-#include "TimeOfDay.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -29,9 +28,8 @@ class AutomaticMarkingTest : public testing::Test {
 protected:
     AutomaticMarkingTest()
     {
-        const auto noon = whereItIsNow(secondsOfDay / 2); // so that no test meets midnight
-        today = noon.day;
-        home.environment.insert(u"TZ"_s, noon.zone);
+        // Where it is noon now, so that no test meets midnight.
+        home.environment.insert(u"TZ"_s, u"TST%1"_s.arg(QDateTime::currentDateTimeUtc().time().hour() - 12));
         for (const char* bus : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
             home.environment.insert(QString::fromLatin1(bus), qEnvironmentVariable(bus));
         QDir().mkpath(QFileInfo(home.store).path());
@@ -51,7 +49,7 @@ protected:
         return month.days.value().at(*month.indexOf(date.day())).state;
     }
 
-    QDate today;
+    const QDate today = QDateTime::currentDateTimeUtc().date();
     Home home;
 };
 

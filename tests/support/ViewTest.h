@@ -135,7 +135,7 @@ protected:
         QApplication::processEvents();
     }
 
-    const QTemporaryDir folder;
+    const QTemporaryDir folder{inMemory};
     const QString path = folder.filePath(u"Pellory.store"_s);
     ModelContainer container{{.name = {}, .path = path}};
     ModelContext& context = container.mainContext();

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ContentView.h"
+#include "ExpectedMarks.h"
+#include "SimulatedKernel.h"
+#include "SystemClock.h"
+#include "ViewTest.h"
+
+#include <QSignalSpy>
+#include <QTimeZone>
+#include <QTimer>
+
+#include <malloc.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Where there are days of 23 and of 25 hours.
+const QTimeZone berlin("Europe/Berlin");
+
+// What a clock on the wall shows, without any of the program's own.
+QDate dateOnTheWall()
+{
+    return QDateTime::currentDateTimeUtc().toTimeZone(berlin).date();
+}
+
+auto openFiles()
+{
+    return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+// Nothing here comes from outside this process, so a few turns of its event loop are enough.
+template <class Condition> bool soon(Condition condition)
+{
+    for (int turn = 0; turn < 100 && !condition(); ++turn) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return condition();
+}
+
+} // namespace
+
+/// The window and the check on a computer that runs on, from the morning of a day in Berlin.
+class MonthsOfRunningTest : public ViewTest, public testing::WithParamInterface<const char*> {
+protected:
+    MonthsOfRunningTest()
+    {
+        qputenv("TZ", berlin.id());
+        tzset();
+        const auto begin = QDate::fromString(QString::fromLatin1(GetParam()), Qt::ISODate).startOfDay(berlin);
+        kernel::setClock(std::chrono::seconds(QDateTime::currentDateTimeUtc().secsTo(begin)) + 8h);
+        settings->firstTime = false;
+        settings->wifiTrackingEnabled = true;
+        settings->inOfficeSsids = {u"Office"_s};
+    }
+    /// Time passes that ends with one check, which is put off when a suspended computer has to find its radio first.
+    void pass(std::chrono::seconds awake, std::chrono::seconds suspended = {})
+    {
+        kernel::pass(awake, suspended);
+        if (suspended > 0s) {
+            ASSERT_TRUE(soon([&] { return systemClock.findChild<QTimer*>() != nullptr; }));
+            EXPECT_TRUE(wifiClient.scans.isEmpty());
+            kernel::pass(11s); // timers of Qt are late by up to a twentieth
+        }
+        expectCheck();
+    }
+    void expectCheck()
+    {
+        ASSERT_TRUE(soon([&] { return !wifiClient.scans.isEmpty(); }));
+        EXPECT_EQ(std::exchange(wifiClient.scans, {}).size(), 1);
+        ++checks;
+        expected.check(dateOnTheWall(), wifiClient.networks.first().ssid == u"Office"_s, true);
+        expectToday();
+    }
+    void setClock(std::chrono::seconds by)
+    {
+        kernel::setClock(by);
+        QCoreApplication::processEvents();
+        expectToday();
+    }
+    void expectToday()
+    {
+        const QDate date = dateOnTheWall();
+        if (shown.month() != date.month())
+            window.showDay(date);
+        dates += std::exchange(shown, date) != date;
+        QStringList ringed;
+        for (const auto* day : window.findChildren<CommandClickableButton*>()) {
+            if (day->isVisible() && day->isRinged())
+                ringed += day->accessibleName().section(u',', 0, 0);
+        }
+        ASSERT_EQ(ringed, QStringList(QLocale().toString(date, u"dddd d MMMM yyyy"_s)));
+        ASSERT_EQ(storedMarks(context), expected.marks);
+    }
+
+    SystemClock systemClock;
+    InOfficeCheck liveCheck{{container, *settings, wifiClient, notifier, systemClock}};
+    const ViewParts liveParts{context,    *settings,       viewSettings, systemClock,
+                              wifiClient, locationManager, liveCheck,    launchAtLogin};
+    ContentView window{liveParts};
+    ExpectedMarks expected;
+    QDate shown;
+    int checks = 0, dates = -1;
+};
+
+TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
+{
+    show(window);
+    const QSignalSpy newDay(&systemClock, &Clock::dayChanged);
+    liveCheck.start();
+    expectCheck();
+    const auto files = openFiles();
+    double memory = 0;
+    for (int day = 0; day < 90 && !HasFatalFailure(); ++day) {
+        if (day == 30) { // all that is built once has been
+            memory = double(mallinfo2().uordblks);
+            checks = 0;
+        }
+        wifiClient.networks = {{day % 5 < 3 ? u"Office"_s : u"Home"_s}};
+        for (int i = 0; i < 20; ++i)
+            pass(30min);
+        wifiClient.networks = {{u"Home"_s}};
+        if (day % 20 == 10 || day % 20 == 15) // it is set back by a day, and right again five days later
+            setClock(day % 20 == 10 ? -24h : 24h);
+        if (day % 3 == 0)
+            pass(0s, day % 4 == 0 ? 14h + 72h : 14h);
+        for (int i = 0; day % 3 > 0 && i < 28; ++i)
+            pass(30min);
+    }
+    EXPECT_GT(expected.marks.size(), 60);
+    EXPECT_EQ(newDay.size(), dates); // and of nothing else it has told
+    EXPECT_EQ(openFiles(), files);
+    // A few new months are in memory, but nothing of every check.
+    EXPECT_LT((double(mallinfo2().uordblks) - memory) / checks, 200) << "bytes of a check";
+}
+
+// Ten days on, and awake, the clocks go forward and back.
+INSTANTIATE_TEST_SUITE_P(from, MonthsOfRunningTest, testing::Values("2026-03-19", "2026-10-15"));
