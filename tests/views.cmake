@@ -33,7 +33,13 @@ add_dependencies(integration_test pellory)
 target_compile_definitions(integration_test PRIVATE
     PELLORY_PROGRAM="$<TARGET_FILE:pellory>"
     NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
-foreach(case controls_have_names_and_roles goes_on_without_a_window_while_it_tracks starts_at_login_without_a_window)
-    add_test(NAME integration.desktop.${case} WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/integration" COMMAND
-        env PELLORY_PROGRAM=$<TARGET_FILE:pellory> /usr/bin/python3 -Bm unittest desktop_test.DesktopTest.test_${case})
+foreach(case
+        desktop_test.DesktopTest.test_controls_have_names_and_roles
+        desktop_test.DesktopTest.test_goes_on_without_a_window_while_it_tracks
+        desktop_test.DesktopTest.test_starts_at_login_without_a_window
+        faults_test.FaultsTest.test_goes_on_while_nothing_answers
+        faults_test.FaultsTest.test_opens_nothing_to_the_internet)
+    string(REGEX REPLACE ".*test_" "" name ${case})
+    add_test(NAME integration.desktop.${name} WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/integration" COMMAND
+        env PELLORY_PROGRAM=$<TARGET_FILE:pellory> /usr/bin/python3 -Bm unittest ${case})
 endforeach()
