@@ -3,8 +3,6 @@
 #include "StoreFile.h"
 #include "StoreTest.h"
 
-#include <QDir>
-
 #include <SQLiteCpp/Statement.h>
 
 #include <thread>
@@ -43,47 +41,6 @@ TEST_F(ModelContainerTest, saysWhyAStoreIsRefusedAndLeavesItAlone)
     }
 }
 
-TEST_F(ModelContainerTest, refusesWhatIsNoStoreOrDamagedAsAFile)
-{
-    putSample();
-    const QByteArray sound = bytes();
-    QList<QByteArray> files{QByteArray(5000, 'x'), QByteArray(8192, '\0'), sound.chopped(1), sound.chopped(4096)};
-    for (const qsizetype size : {0, 1, 99, 100, 511, 1024, 4095, 4096, 4097, 8192})
-        files.append(sound.first(size));
-    files.append(QByteArray(sound).replace(18, 1, "\3")); // a format that SQLite would only read
-    // The entry of the second month in the index: year, month and key after the types of the three.
-    const auto entry = QByteArray::fromHex("0402010107ea0202");
-    ASSERT_TRUE(sound.contains(entry));
-    files.append(QByteArray(sound).replace(entry, QByteArray::fromHex("0402010107ea0302")));
-    for (const QByteArray& file : files) {
-        SCOPED_TRACE(file.size());
-        setBytes(file);
-        EXPECT_THAT(refusal(), testing::AnyOf(HasSubstr("not a data store"), HasSubstr("damaged")));
-        EXPECT_TRUE(bytes() == file);
-    }
-}
-
-TEST_F(ModelContainerTest, noFlippedBitChangesARecord)
-{
-    putSample();
-    const QByteArray sound = bytes();
-    const QStringList expected = stored();
-    int refusals = 0;
-    for (qsizetype bit = 0; bit < sound.size() * 8; bit += bit < 800 ? 1 : 149) { // every bit of the header
-        SCOPED_TRACE(bit);
-        QByteArray damaged = sound;
-        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
-        setBytes(damaged);
-        try {
-            EXPECT_EQ(stored(), expected);
-        } catch (const StoreError&) {
-            ++refusals;
-        }
-        EXPECT_TRUE(bytes() == damaged);
-    }
-    EXPECT_GT(refusals, 300);
-}
-
 TEST_F(ModelContainerTest, refusesADayListThatIsNoneThoughItsChecksumIsRight)
 {
     putSample();
@@ -95,17 +52,6 @@ TEST_F(ModelContainerTest, refusesADayListThatIsNoneThoughItsChecksumIsRight)
         ASSERT_EQ(month.exec(), 1);
         EXPECT_THROW(static_cast<void>(stored()), StoreError) << days;
     }
-}
-
-TEST_F(ModelContainerTest, findsOneDamagedRecordAmongAHundredYears)
-{
-    auto container = open();
-    for (int number = 0; number < 1200; ++number)
-        container->mainContext().insert(std::make_shared<Month>(1980 + number / 12, 1 + number % 12));
-    container = nullptr;
-    EXPECT_EQ(stored().size(), 1200);
-    connection().exec("UPDATE month SET days = replace(days, '7,\"state\":\"UNK', '7,\"state\":\"UNX') WHERE pk = 600");
-    EXPECT_THAT(refusal(), HasSubstr("record 600 of \"month\""));
 }
 
 TEST_F(ModelContainerTest, waitsForAnotherProgramAndThenGivesUp)
@@ -133,10 +79,7 @@ TEST_F(ModelContainerTest, isTheSameInEveryLocale)
     EXPECT_EQ(bytes(), before);
 }
 
-class StoreFileTest : OrdinaryUser, public StoreTest {
-protected:
-    [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
-};
+class StoreFileTest : OrdinaryUser, public StoreTest {};
 
 TEST_F(StoreFileTest, removalTakesTheStoreWithItsSideFilesAndNothingElse)
 {

@@ -10,10 +10,25 @@
 #include "Testing.h"
 
 #include <QDebug>
-#include <QFile>
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <SQLiteCpp/Database.h>
+
+#include <iostream>
+#include <random>
+
+/// How many times as much as usual is asked of a test that kills or damages.
+inline const int torture = std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
+
+/// Random numbers, others in every run. A run is repeated by its seed in the environment.
+inline std::mt19937 randomNumbers()
+{
+    const unsigned given = qEnvironmentVariable("PELLORY_SEED").toUInt();
+    const unsigned seed = given != 0 ? given : std::random_device()();
+    std::cout << "PELLORY_SEED=" << seed << std::endl;
+    return std::mt19937(seed);
+}
 
 /// Every field of every record that a context knows.
 inline QStringList contents(ModelContext& context)
@@ -64,16 +79,17 @@ protected:
     /// A connection past the store's own.
     [[nodiscard]] SQLite::Database connection() const { return {path.toStdString(), SQLite::OPEN_READWRITE}; }
 
-    [[nodiscard]] QByteArray bytes() const
+    /// Of the store, or of a file beside it.
+    [[nodiscard]] QByteArray bytes(const QString& suffix = {}) const
     {
-        QFile file(path);
+        QFile file(path + suffix);
         EXPECT_TRUE(file.open(QFile::ReadOnly));
         return file.readAll();
     }
 
-    void setBytes(const QByteArray& data) const
+    void setBytes(const QByteArray& data, const QString& suffix = {}) const
     {
-        QFile file(path);
+        QFile file(path + suffix);
         EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(data) == data.size());
     }
 
@@ -98,6 +114,10 @@ protected:
         container->mainContext().insert(settings);
     }
 
-    const QTemporaryDir folder;
+    [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
+
+    // In memory where that is possible, for thousands of stores are written.
+    const QTemporaryDir folder{(QFileInfo(u"/dev/shm"_s).isWritable() ? u"/dev/shm"_s : QDir::tempPath()) +
+                               u"/pellory-XXXXXX"_s};
     const QString path = folder.filePath(u"Pellory.store"_s);
 };
