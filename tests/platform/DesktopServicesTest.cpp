@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 
+using namespace std::chrono_literals;
+
 class FreedesktopNotifierTest : public testing::Test {
 protected:
     /// What the server is told when this is posted.
