@@ -180,7 +180,8 @@ TEST_F(NetworkManagerTest, nonsenseIsTakenForNothing)
     manager.path = networkManagerPath;
     for (const auto& [signature, code] : nonsense) {
         answer(managerInterface, "GetPermissions", signature, code);
-        EXPECT_EQ(found(client.scanForNetworks(wlan0)) == Names{u"a"_s}, code[1] != 'a') << code; // not an error
+        EXPECT_EQ(found(client.scanForNetworks(wlan0)) == Names{u"a"_s}, !QByteArrayView(code).startsWith("raise"))
+            << code; // not an error
     }
     answer(managerInterface, "GetPermissions", "a{ss}", "ret = {'a': 'b'}");
     manager.tell("EmitSignal", propertiesInterface, u"PropertiesChanged"_s, u"s(ss)as"_s,
