@@ -30,6 +30,11 @@ template <class Mapping> auto fetchAll(RecordTable<Mapping>& table)
     return withStoreErrors([&] { return table.fetch({{}, {}, [](const auto&) { return true; }}); });
 }
 
+void logFailedSave(const QString& reason)
+{
+    qCCritical(logStore).noquote() << "Could not save:"_L1 << reason;
+}
+
 } // namespace
 
 struct ModelContext::Tables {
@@ -101,9 +106,11 @@ bool ModelContext::save()
         writeChanges();
         return true;
     } catch (const SQLite::Exception& error) {
-        qCCritical(logStore).noquote() << "Could not save:"_L1 << descriptionOf(error);
-        return false;
+        logFailedSave(descriptionOf(error));
+    } catch (const std::exception& error) {
+        logFailedSave(QString::fromUtf8(error.what()));
     }
+    return false;
 }
 
 bool ModelContext::hasChanges() const
