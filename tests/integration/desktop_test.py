@@ -155,6 +155,8 @@ class DesktopTest(unittest.TestCase):
         self.close_windows(program, "Pellory")
         self.assert_handed_over(program)
         self.assertEqual(len(told()), 2)
+        self.assertEqual(self.start(PROGRAM, "--check-now").wait(PATIENCE), 0)
+        eventually(lambda: program.said().count("Checking if in office") == 2)
         self.press(*tracking, then="Tracking Off")
         self.close_windows(program, "Pellory", "Settings")
         self.assertEqual(program.wait(PATIENCE), 0)
