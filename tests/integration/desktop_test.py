@@ -156,7 +156,7 @@ class DesktopTest(unittest.TestCase):
         self.assert_handed_over(program)
         self.assertEqual(len(told()), 2)
         self.assertEqual(self.start(PROGRAM, "--check-now").wait(PATIENCE), 0)
-        eventually(lambda: program.said().count("Checking if in office") == 2)
+        eventually(lambda: program.said().count("Checking if in office via Wi-Fi") == 2)
         self.press(*tracking, then="Tracking Off")
         self.close_windows(program, "Pellory", "Settings")
         self.assertEqual(program.wait(PATIENCE), 0)
