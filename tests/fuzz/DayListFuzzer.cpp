@@ -19,6 +19,7 @@ template <class List, class Decode, class Encode> void check(const std::string& 
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer looks for this name
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
     const std::string text(reinterpret_cast<const char*>(data), size);

@@ -34,6 +34,7 @@ qsizetype monthsWithOneMore(const QString& path)
 } // namespace
 
 /// Has the corpus start with a store. Its folder is the last argument.
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer looks for this name
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) // NOLINT(readability-identifier-naming)
 {
     const QDir corpus(QString::fromLocal8Bit((*argv)[*argc - 1]));
@@ -42,6 +43,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) // NOLINT(readabili
     return 0;
 }
 
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer looks for this name
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data,
                                       std::size_t size) // NOLINT(readability-identifier-naming)
 {

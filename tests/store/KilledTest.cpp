@@ -50,8 +50,8 @@ protected:
             while (static_cast<decltype(wanted)>(acknowledged) < wanted && read(ends[0], &byte, 1) == 1)
                 ++acknowledged;
         };
-        readUpTo(m_random() % 3);
-        std::this_thread::sleep_for(std::chrono::microseconds(m_random() % 20'000)); // about two marks
+        readUpTo(numbers() % 3);
+        std::this_thread::sleep_for(std::chrono::microseconds(numbers() % 20'000)); // about two marks
         int status = 0;
         EXPECT_TRUE(kill(child, SIGKILL) == 0 && waitpid(child, &status, 0) == child && status == SIGKILL);
         readUpTo(UINT_MAX);
@@ -59,7 +59,7 @@ protected:
         return acknowledged;
     }
 
-    std::mt19937 m_random = randomNumbers();
+    std::mt19937 numbers = randomNumbers();
 };
 
 TEST_F(KilledTest, everyAcknowledgedMarkIsFound)

@@ -15,30 +15,27 @@ public:
 
     FailingDisk()
     {
-        s_vfs = *s_real;
-        s_vfs.zName = "failing";
-        s_vfs.xOpen = [](auto*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
+        ownVfs = *realVfs;
+        ownVfs.zName = "failing";
+        ownVfs.xOpen = [](auto*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
             file->pMethods = nullptr;
-            const int result = strikes(Open) ? SQLITE_CANTOPEN : s_real->xOpen(s_real, name, file, flags, outFlags);
+            const int result = strikes(Open) ? SQLITE_CANTOPEN : realVfs->xOpen(realVfs, name, file, flags, outFlags);
             if (result == SQLITE_OK)
                 file->pMethods = failing(file->pMethods);
             return result;
         };
-        s_vfs.xDelete = [](auto*, const char* name, int isSynced) {
-            return strikes(Delete) ? SQLITE_IOERR_DELETE : s_real->xDelete(s_real, name, isSynced);
+        ownVfs.xDelete = [](auto*, const char* name, int isSynced) {
+            return strikes(Delete) ? SQLITE_IOERR_DELETE : realVfs->xDelete(realVfs, name, isSynced);
         };
-        sqlite3_vfs_register(&s_vfs, 1);
+        sqlite3_vfs_register(&ownVfs, 1);
     }
-    ~FailingDisk() { sqlite3_vfs_unregister(&s_vfs), sqlite3_vfs_register(s_real, 1); }
+    ~FailingDisk() { sqlite3_vfs_unregister(&ownVfs), sqlite3_vfs_register(realVfs, 1); }
     Q_DISABLE_COPY_MOVE(FailingDisk)
 
     /// While it is armed, the call of a kind with this number fails, or all from that one on.
-    static void strikeAt(Call call, int number, bool isForGood)
-    {
-        s_fault = {call, number, isForGood, false, 0, false};
-    }
-    static void arm(bool isArmed) { s_fault.isArmed = isArmed; }
-    [[nodiscard]] static bool hasStruck() { return s_fault.hasStruck; }
+    static void strikeAt(Call call, int number, bool isForGood) { fault = {call, number, isForGood, false, 0, false}; }
+    static void arm(bool isArmed) { fault.isArmed = isArmed; }
+    [[nodiscard]] static bool hasStruck() { return fault.hasStruck; }
 
     /// Makes an attempt for every single call that can fail in it, and in both ways. How many there are of each kind.
     template <class Attempt> static Counts failEverywhere(Attempt attempt)
@@ -60,25 +57,27 @@ public:
 private:
     static bool strikes(Call call)
     {
-        if (!s_fault.isArmed || call != s_fault.call || ++s_fault.calls < s_fault.number)
+        if (!fault.isArmed || call != fault.call || ++fault.calls < fault.number)
             return false;
-        s_fault.hasStruck = true;
-        return s_fault.isForGood || s_fault.calls == s_fault.number;
+        fault.hasStruck = true;
+        return fault.isForGood || fault.calls == fault.number;
     }
 
     /// A journal has no locks, so its methods are others than those of a store, but not those that can fail.
     static const sqlite3_io_methods* failing(const sqlite3_io_methods* inner)
     {
-        s_inner = inner;
-        sqlite3_io_methods& methods = s_methods[inner] = *inner;
+        innerMethods = inner;
+        sqlite3_io_methods& methods = failingMethods[inner] = *inner;
         methods.xWrite = [](auto* file, const void* data, int size, sqlite3_int64 offset) {
             const bool isFull = strikes(Write); // half of it has room
-            const int result = s_inner->xWrite(file, data, isFull ? size / 2 : size, offset);
+            const int result = innerMethods->xWrite(file, data, isFull ? size / 2 : size, offset);
             return isFull ? SQLITE_FULL : result;
         };
-        methods.xSync = [](auto* of, int how) { return strikes(Sync) ? SQLITE_IOERR_FSYNC : s_inner->xSync(of, how); };
+        methods.xSync = [](auto* of, int how) {
+            return strikes(Sync) ? SQLITE_IOERR_FSYNC : innerMethods->xSync(of, how);
+        };
         methods.xTruncate = [](auto* file, sqlite3_int64 size) {
-            return strikes(Truncate) ? SQLITE_IOERR_TRUNCATE : s_inner->xTruncate(file, size);
+            return strikes(Truncate) ? SQLITE_IOERR_TRUNCATE : innerMethods->xTruncate(file, size);
         };
         return &methods;
     }
@@ -91,9 +90,9 @@ private:
         int calls;
         bool hasStruck;
     };
-    static inline Fault s_fault{};
-    static inline sqlite3_vfs* const s_real = sqlite3_vfs_find(nullptr);
-    static inline sqlite3_vfs s_vfs{};
-    static inline const sqlite3_io_methods* s_inner = nullptr;
-    static inline std::map<const sqlite3_io_methods*, sqlite3_io_methods> s_methods;
+    static inline Fault fault{};
+    static inline sqlite3_vfs* const realVfs = sqlite3_vfs_find(nullptr);
+    static inline sqlite3_vfs ownVfs{};
+    static inline const sqlite3_io_methods* innerMethods = nullptr;
+    static inline std::map<const sqlite3_io_methods*, sqlite3_io_methods> failingMethods;
 };
