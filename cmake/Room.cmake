@@ -10,7 +10,7 @@ target_compile_definitions(pellory_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO
 # One folder of src/ is one static library, Pellory::<name>. LINKS are what its headers need, USES what only its
 # sources need. Each room hands on its own folder and nothing else, so a header of a room that is not linked is not
 # found: these lists are what keeps the arrows between the rooms pointing one way. PRECOMPILES are headers that most of
-# the sources read, which includes them all the same: ./dev lint reads each source without these.
+# the sources read, which includes them all the same: ./dev lint FILE reads it without these.
 function(pellory_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS;USES;PRECOMPILES" ${ARGN})
     add_library(pellory_${name} STATIC ${ROOM_SOURCES})

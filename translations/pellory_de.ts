@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>These are the goals used by the progress tracker, in average days in-office per week.</source>
-        <translation>An diesen Zielen misst der Fortschrittsbalken: durchschnittliche Bürotage pro Woche, mit Punkt statt Komma geschrieben.</translation>
+        <translation>An diesen Zielen misst sich der Fortschritt: durchschnittliche Bürotage pro Woche, mit Punkt statt Komma geschrieben.</translation>
     </message>
     <message>
         <source>Days Per Week Goal</source>
@@ -259,8 +259,8 @@
 <context>
     <name>DesktopSystemSettings</name>
     <message>
-        <source>This desktop has no settings page for it. Whoever administers this computer can let you see Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan.</source>
-        <translation>Diese Desktop-Umgebung hat dafür keine Einstellungsseite. Wer diesen Computer verwaltet, kann die Suche nach WLAN-Netzwerken erlauben: Die Berechtigung heißt org.freedesktop.NetworkManager.wifi.scan.</translation>
+        <source>No settings page for it could be opened. Whoever administers this computer can let you see Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan.</source>
+        <translation>Dafür ließ sich keine Einstellungsseite öffnen. Wer diesen Computer verwaltet, kann die Suche nach WLAN-Netzwerken erlauben: Die Berechtigung heißt org.freedesktop.NetworkManager.wifi.scan.</translation>
     </message>
 </context>
 <context>
@@ -571,7 +571,7 @@
     </message>
     <message>
         <source>Check Every (mins)</source>
-        <translation>Alle (Min.)</translation>
+        <translation>Prüfen alle (Min.)</translation>
     </message>
     <message>
         <source>Check if in office every</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>Add custom network</source>
-        <translation>Eigenes Netzwerk hinzufügen</translation>
+        <translation>Netzwerk mit Namen hinzufügen</translation>
     </message>
     <message>
         <source>In-Range Networks</source>
@@ -853,15 +853,15 @@
     </message>
     <message>
         <source>Pellory can start with your session, without a window, and tell you what it has marked.</source>
-        <translation>Pellory kann mit Ihrer Sitzung starten, ohne Fenster, und melden, was es markiert hat.</translation>
+        <translation>Pellory kann mit Ihrer Sitzung starten, ohne Fenster, und melden, was es erfasst hat.</translation>
     </message>
     <message>
         <source>Days that mark themselves</source>
-        <translation>Tage, die sich selbst markieren</translation>
+        <translation>Tage automatisch erfassen</translation>
     </message>
     <message>
         <source>When a Wi-Fi network of your office is in range, Pellory can mark the day for you. Nothing about it leaves this computer.</source>
-        <translation>Ist ein WLAN Ihres Büros in Reichweite, kann Pellory den Tag für Sie markieren. Nichts davon verlässt diesen Computer.</translation>
+        <translation>Ist ein WLAN Ihres Büros in Reichweite, kann Pellory den Tag für Sie erfassen. Nichts davon verlässt diesen Computer.</translation>
     </message>
     <message>
         <source>All set</source>

@@ -28,8 +28,8 @@
 #include "Windows.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -153,6 +153,8 @@ SingleInstance::Errand errandOf(Start start)
 int run(SingleInstance& instance)
 {
     const Start start = readCommandLine(QApplication::arguments());
+    // Not earlier: what makes the application takes variables out of the environment.
+    std::jthread fonts = start == Start::AtLogin ? std::jthread() : readFontsAhead();
     installAccessibleRoles();
     QSettings settings;
     wearLastScheme(settings);
@@ -172,6 +174,9 @@ int run(SingleInstance& instance)
     logReached("name owned");
     PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
     logReached("store open");
+    if (fonts.joinable())
+        fonts.join();
+    logReached("fonts read");
     return work(pellory, settings, alerts, instance, start);
 }
 
@@ -208,12 +213,7 @@ int main(int argc, char* argv[])
     logReached("program loaded");
     SingleInstance instance;
     QApplication::setStyle(u"Fusion"_s);
-    std::jthread fonts;
-    if (!hasOption(arguments, {"--at-login"}))
-        fonts = readFontsAhead();
     const QApplication application(argc, argv);
-    if (fonts.joinable())
-        fonts.join();
     logReached("toolkit ready");
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);

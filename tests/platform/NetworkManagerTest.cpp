@@ -134,7 +134,7 @@ TEST_F(NetworkManagerTest, whatGoesAwayIsAnErrorUntilItIsBack)
         EXPECT_TRUE(eventually([&] { return hasScanned(1); }));
         lose();
         for (const Names& names : {found(scan), found(client.scanForNetworks(wlan0))})
-            EXPECT_GT(names.value(0).value_or(QString()), u"error: "_s);
+            EXPECT_TRUE(names.value(0).value_or(QString()).startsWith(u"error: "_s));
         EXPECT_FALSE(endOf(client.defaultInterface()) || endOf(client.interfaceWithName(wlan0)));
         manager.stop(), start(), addRadio(0), addNetwork("a"_ba);
         EXPECT_EQ(found(patientClient.scanForNetworks(wlan0)), Names{u"a"_s});
@@ -164,7 +164,7 @@ TEST_F(NetworkManagerTest, whatDoesNotAnswerHoldsUpNothingAndIsGivenUp)
     EXPECT_FALSE(interface.isReady() || scan.isReady());
     EXPECT_LT(blocked.elapsed() * 1ms, busPatience); // so long a call that waits would wait
     EXPECT_EQ(endOf(interface), std::nullopt);
-    EXPECT_GT(found(scan).value(0).value_or(QString()), u"error: "_s);
+    EXPECT_TRUE(found(scan).value(0).value_or(QString()).startsWith(u"error: "_s));
     manager.resume();
     EXPECT_EQ(found(impatient.scanForNetworks(wlan0)), Names{u"a"_s});
 }
@@ -190,7 +190,7 @@ TEST_F(NetworkManagerTest, nonsenseIsTakenForNothing)
     manager.path = networkManagerObjects;
     for (const auto& [signature, code] : nonsense) {
         answer(u"org.freedesktop.DBus.ObjectManager"_s, "GetManagedObjects", signature, code);
-        EXPECT_GT(found(client.scanForNetworks(wlan0)).value(0).value_or(QString()), u"error: "_s) << code;
+        EXPECT_TRUE(found(client.scanForNetworks(wlan0)).value(0).value_or(QString()).startsWith(u"error: "_s)) << code;
         EXPECT_EQ(endOf(client.defaultInterface()), std::nullopt) << code;
     }
 }

@@ -29,6 +29,6 @@ void DesktopSystemSettings::openLocationSettings()
         if (desktops.contains(page.desktop) && QProcess::startDetached(page.program, page.arguments))
             return;
     }
-    Q_EMIT cannotOpen(tr("This desktop has no settings page for it. Whoever administers this computer can let you see "
+    Q_EMIT cannotOpen(tr("No settings page for it could be opened. Whoever administers this computer can let you see "
                          "Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan."));
 }

@@ -4,9 +4,15 @@
 #include <fontconfig/fontconfig.h>
 #include <malloc.h>
 
+#include <system_error>
+
 std::jthread readFontsAhead()
 {
     // Threads would each get a heap of their own, and what this one allocates stays for good.
     mallopt(M_ARENA_MAX, 1);
-    return std::jthread([] { FcInit(); });
+    try {
+        return std::jthread([] { FcInit(); });
+    } catch (const std::system_error&) {
+        return {};
+    }
 }
