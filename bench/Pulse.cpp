@@ -100,7 +100,8 @@ int main(int argc, char* argv[])
     if (argc != 2 || xcb_connection_has_error(display) != 0)
         fail("no time is given, or the display cannot be reached");
     root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
-    const std::uint32_t answers = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    // Answers go to whoever hears what becomes of the root window or of its children, and not to all in every toolkit.
+    const std::uint32_t answers = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(display, root, XCB_CW_EVENT_MASK, &answers);
     const xcb_window_t window = shownWindow();
     const auto end = Clock::now() + std::chrono::seconds(std::atoi(argv[1]));
