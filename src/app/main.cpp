@@ -15,6 +15,7 @@
 #include "ModelContext.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
+#include "OneHeap.h"
 #include "PelloryApp.h"
 #include "PortalAppearance.h"
 #include "QuitSignals.h"
@@ -205,6 +206,7 @@ int printText(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
+    useOneHeap();
     introduce();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (isTextWanted(arguments))
