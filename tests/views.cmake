@@ -1,21 +1,23 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 pellory_test(views
     SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
-        views/CalendarViewTest.cpp views/ContentViewTest.cpp views/DayClickTest.cpp views/HoverTest.cpp
-        views/PagesTest.cpp views/ProgressBarTest.cpp views/ProgressWidgetViewTest.cpp views/SettingsTest.cpp
-        views/ThemeTest.cpp views/TrackingIndicatorTest.cpp views/WindowsTest.cpp
-    LINKS Pellory::views SQLiteCpp Qt6::Test
+        views/calendar/CalendarViewTest.cpp views/calendar/DayClickTest.cpp views/calendar/HoverTest.cpp
+        views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
+        views/settings/SettingsTest.cpp views/tracking/TrackingIndicatorTest.cpp
+        views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/WindowsTest.cpp
+    LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
 add_dependencies(views_test pellory_app_lrelease)
 target_compile_definitions(views_test PRIVATE GERMAN_TEXTS="${PROJECT_BINARY_DIR}/src/app/pellory_de.qm")
 pellory_test(life
     SOURCES life/MonthsOfRunningTest.cpp support/FakeWiFiClient.h support/WindowTestMain.cpp
-    LINKS Pellory::views Pellory::platform_linux Qt6::Test
+    LINKS Pellory::windows Pellory::platform_linux Qt6::Test
 )
 pellory_test(app
-    SOURCES app/PelloryAppTest.cpp app/TranslationsTest.cpp
-    LINKS Pellory::app
+    SOURCES support/WindowTestMain.cpp
+        app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp app/TranslationsTest.cpp
+    LINKS Pellory::app Qt6::Test
 )
 pellory_test(platform
     SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QtGlobal>
+
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 
 #include <sqlite3.h>

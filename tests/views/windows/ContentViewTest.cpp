@@ -2,15 +2,12 @@
 #include "ContentView.h"
 #include "CalendarView.h"
 #include "MarkedTextLabel.h"
-#include "MessageBoxAlerts.h"
 #include "MonthView.h"
 #include "QuarterView.h"
 #include "ViewTest.h"
 
-#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTabBar>
-#include <QTimer>
 
 class ContentViewTest : public ViewTest {};
 
@@ -94,26 +91,5 @@ TEST_F(ContentViewTest, theMonthsStandSideBySideWhereThereIsRoom)
         window.resize(width, 800);
         EXPECT_TRUE(eventually([&] { return (way().x() > 0) == (width == 1600) && (way().y() > 0) == (width == 600); }))
             << width << ": " << way().x() << ", " << way().y();
-    }
-}
-
-TEST(MessageBoxAlertsTest, onlyTheFirstButtonConfirms)
-{
-    const std::pair<QString, Qt::Key> rows[]{
-        {u"Delete"_s, {}}, {u"Cancel"_s, {}}, {{}, Qt::Key_Return}, {{}, Qt::Key_Escape}};
-    for (const auto& [pushed, key] : rows) {
-        QTimer::singleShot(0, [pushed = pushed, key = key] {
-            auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
-            EXPECT_EQ(box.text() + box.informativeText(), u"Delete?All of it."_s);
-            EXPECT_EQ(box.textFormat(), Qt::PlainText);
-            const auto buttons = box.buttons();
-            if (pushed.isEmpty())
-                QTest::keyClick(&box, key);
-            else
-                (*std::ranges::find(buttons, pushed, &QAbstractButton::text))->click();
-        });
-        EXPECT_EQ(MessageBoxAlerts().confirmWarning(u"Delete?"_s, u"All of it."_s, u"Delete"_s, u"Cancel"_s),
-                  pushed == u"Delete"_s);
     }
 }
