@@ -3,12 +3,12 @@
 
 #include "AppSettings.h"
 #include "Clock.h"
-#include "Emission.h"
 #include "InOfficeDetector.h"
 #include "InOfficeModelUpdater.h"
 #include "Log.h"
 #include "Notifier.h"
 #include "Pause.h"
+#include "SignalAwaiter.h"
 
 #include <algorithm>
 #include <limits>

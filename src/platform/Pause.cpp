@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Pause.h"
 
-#include "Emission.h"
+#include "SignalAwaiter.h"
 
 #include <QTimer>
 
@@ -10,6 +10,6 @@ QCoro::Task<> pauseFor(std::chrono::milliseconds duration, QObject* owner)
     auto* timer = new QTimer(owner);
     timer->setSingleShot(true);
     timer->start(duration);
-    co_await emissionOf(timer, &QTimer::timeout);
+    co_await nextSignal(timer, &QTimer::timeout);
     timer->deleteLater();
 }

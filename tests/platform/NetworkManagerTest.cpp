@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Emission.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerNames.h"
 #include "NetworkManagerWiFiClient.h"
 #include "PortalAppearance.h"
 #include "PrivateBuses.h"
+#include "SignalAwaiter.h"
 #include "StatusNotifierHost.h"
 
 #include <QDBusObjectPath>

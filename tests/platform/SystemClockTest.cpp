@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SystemClock.h"
-#include "Emission.h"
 #include "PrivateBuses.h"
+#include "SignalAwaiter.h"
 
 #include <QElapsedTimer>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Emission.h"
 #include "LocationAuthorization.h"
 #include "PlatformError.h"
+#include "SignalAwaiter.h"
 #include "SystemSettings.h"
 #include "WiFiClient.h"
 
@@ -21,7 +21,7 @@ public:
     QCoro::Task<std::optional<WiFiInterface>> interfaceWithName(QString name) override
     {
         if (isHeld)
-            co_await emissionOf(this, &FakeWiFiClient::letGo);
+            co_await nextSignal(this, &FakeWiFiClient::letGo);
         co_return name == QStringLiteral("wlan0") ? interface : std::nullopt;
     }
     QCoro::Task<QList<WiFiNetwork>> scanForNetworks(QString interfaceName) override

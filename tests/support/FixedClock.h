@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Clock.h"
-#include "Emission.h"
 #include "PlatformError.h"
+#include "SignalAwaiter.h"
 
 #include <QList>
 
@@ -19,7 +19,7 @@ public:
             throw PlatformError(QStringLiteral("out of timers"));
         const QDateTime end = m_now.addDuration(duration);
         while (m_now < end)
-            co_await emissionOf<Clock>(this, &Clock::dayChanged);
+            co_await nextSignal<Clock>(this, &Clock::dayChanged);
     }
 
     void beginDay(QDate date) { moveTo({date, m_now.time()}); }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BusCall.h"
 
-#include "Emission.h"
+#include "SignalAwaiter.h"
 
 #include <QDBusConnection>
 #include <QDBusError>
@@ -12,7 +12,7 @@ QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMes
                                   std::chrono::milliseconds patience)
 {
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(patience.count())), caller);
-    co_await emissionOf(watcher, &QDBusPendingCallWatcher::finished);
+    co_await nextSignal(watcher, &QDBusPendingCallWatcher::finished);
     watcher->deleteLater();
     if (watcher->isError())
         throw BusError(watcher->error().name(), watcher->error().message());

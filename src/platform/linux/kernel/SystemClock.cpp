@@ -2,9 +2,9 @@
 #include "SystemClock.h"
 
 #include "BootTimer.h"
-#include "Emission.h"
 #include "KernelClock.h"
 #include "Pause.h"
+#include "SignalAwaiter.h"
 
 #include <QLoggingCategory>
 #include <QSocketNotifier>
@@ -56,7 +56,7 @@ QCoro::Task<> SystemClock::sleep(std::chrono::seconds duration)
 {
     const auto suspendedBefore = timeSuspended();
     auto* timer = new BootTimer(duration, this);
-    co_await emissionOf(timer, &BootTimer::expired);
+    co_await nextSignal(timer, &BootTimer::expired);
     timer->deleteLater();
     if (timeSuspended() - suspendedBefore > 2s)
         co_await pauseFor(timeToWakeUp, this);

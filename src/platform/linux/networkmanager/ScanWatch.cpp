@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ScanWatch.h"
 
-#include "Emission.h"
 #include "NetworkManagerNames.h"
+#include "SignalAwaiter.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -24,7 +24,7 @@ QCoro::Task<> ScanWatch::wait(std::chrono::milliseconds longest)
     if (m_hasScanned)
         co_return;
     QTimer::singleShot(longest, this, &ScanWatch::ended);
-    co_await emissionOf(this, &ScanWatch::ended);
+    co_await nextSignal(this, &ScanWatch::ended);
 }
 
 void ScanWatch::handlePropertiesChanged(const QDBusMessage& signal)
