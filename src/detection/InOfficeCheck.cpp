@@ -3,11 +3,11 @@
 
 #include "AppSettings.h"
 #include "Clock.h"
+#include "Delay.h"
 #include "InOfficeDetector.h"
 #include "InOfficeModelUpdater.h"
 #include "Log.h"
 #include "Notifier.h"
-#include "Pause.h"
 #include "SignalAwaiter.h"
 
 #include <algorithm>
@@ -106,7 +106,7 @@ QCoro::Task<> InOfficeCheck::sleep()
     m_lastSleepFailed = !isDone;
     if (failedBefore && m_lastSleepFailed) {
         // The check that follows a failed sleep at once must not become a loop without rest.
-        co_await pauseFor(std::min(duration, longestTimer), &m_parts.clock);
+        co_await delay(std::min(duration, longestTimer), &m_parts.clock);
     }
 }
 

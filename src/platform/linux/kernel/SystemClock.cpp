@@ -2,8 +2,8 @@
 #include "SystemClock.h"
 
 #include "BootTimer.h"
+#include "Delay.h"
 #include "KernelClock.h"
-#include "Pause.h"
 #include "SignalAwaiter.h"
 
 #include <QLoggingCategory>
@@ -59,7 +59,7 @@ QCoro::Task<> SystemClock::sleep(std::chrono::seconds duration)
     co_await nextSignal(timer, &BootTimer::expired);
     timer->deleteLater();
     if (timeSuspended() - suspendedBefore > 2s)
-        co_await pauseFor(timeToWakeUp, this);
+        co_await delay(timeToWakeUp, this);
 }
 
 void SystemClock::sleepUntilMidnight()

@@ -2,9 +2,9 @@
 #include "NetworkManager.h"
 
 #include "BusCall.h"
+#include "Delay.h"
 #include "NetworkManagerNames.h"
 #include "NetworkManagerReader.h"
-#include "Pause.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -39,7 +39,7 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
     const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_patience);
     NetworkManagerReader reader(reply);
     while (reader.readSome())
-        co_await pauseFor(0ms, this);
+        co_await delay(0ms, this);
     co_return reader.state();
 }
 

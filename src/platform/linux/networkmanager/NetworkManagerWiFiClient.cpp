@@ -2,9 +2,9 @@
 #include "NetworkManagerWiFiClient.h"
 
 #include "BusCall.h"
+#include "Delay.h"
 #include "KernelClock.h"
 #include "NetworkManagerNames.h"
-#include "Pause.h"
 #include "ScanWatch.h"
 
 #include <QDBusArgument>
@@ -115,7 +115,7 @@ QCoro::Task<bool> NetworkManagerWiFiClient::isScanned(QString devicePath)
     }
     qCDebug(logWiFi, "Scanning");
     co_await watch->wait(m_timing.longest);
-    co_await pauseFor(m_timing.settling, this);
+    co_await delay(m_timing.settling, this);
     co_return true;
 }
 

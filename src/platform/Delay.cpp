@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Pause.h"
+#include "Delay.h"
 
 #include "SignalAwaiter.h"
 
 #include <QTimer>
 
-QCoro::Task<> pauseFor(std::chrono::milliseconds duration, QObject* owner)
+QCoro::Task<> delay(std::chrono::milliseconds duration, QObject* owner)
 {
     auto* timer = new QTimer(owner);
     timer->setSingleShot(true);
