@@ -4,7 +4,6 @@
 #include "Background.h"
 #include "CommandLine.h"
 #include "DesktopSystemSettings.h"
-#include "FontsAhead.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
@@ -15,9 +14,9 @@
 #include "ModelContext.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
-#include "OneHeap.h"
 #include "PelloryApp.h"
 #include "PortalAppearance.h"
+#include "ProcessSetup.h"
 #include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusNotifierHost.h"
@@ -155,7 +154,7 @@ int run(SingleInstance& instance)
 {
     const Start start = readCommandLine(QApplication::arguments());
     // Not earlier: what makes the application takes variables out of the environment.
-    std::jthread fonts = start == Start::AtLogin ? std::jthread() : readFontsAhead();
+    std::jthread fonts = start == Start::AtLogin ? std::jthread() : preloadFontConfig();
     installAccessibleRoles();
     QSettings settings;
     wearLastScheme(settings);
@@ -206,7 +205,7 @@ int printText(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
-    useOneHeap();
+    limitMallocArenas();
     introduce();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (isTextWanted(arguments))

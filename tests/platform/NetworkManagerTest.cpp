@@ -162,7 +162,7 @@ TEST_F(NetworkManagerTest, whatDoesNotAnswerHoldsUpNothingAndIsGivenUp)
     for (int beats = 0; beats < 100; ++beats)
         QCoreApplication::processEvents();
     EXPECT_FALSE(interface.isReady() || scan.isReady());
-    EXPECT_LT(blocked.elapsed() * 1ms, busPatience); // so long a call that waits would wait
+    EXPECT_LT(blocked.elapsed() * 1ms, busTimeout); // so long a call that waits would wait
     EXPECT_EQ(endOf(interface), std::nullopt);
     EXPECT_TRUE(found(scan).value(0).value_or(QString()).startsWith(u"error: "_s));
     manager.resume();

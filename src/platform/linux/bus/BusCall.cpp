@@ -9,9 +9,9 @@
 #include <QDBusPendingReply>
 
 QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMessage call,
-                                  std::chrono::milliseconds patience)
+                                  std::chrono::milliseconds timeout)
 {
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(patience.count())), caller);
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(timeout.count())), caller);
     co_await nextSignal(watcher, &QDBusPendingCallWatcher::finished);
     watcher->deleteLater();
     if (watcher->isError())

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BusPatience.h"
 #include "PlatformError.h"
 
 #include <QDBusMessage>
 
 #include <QCoroTask>
 
+#include <chrono>
+
 class QDBusConnection;
 
-/// The answer of a bus service that refused, or that is not there.
+/// How long a service may take to answer a call.
+inline constexpr std::chrono::milliseconds busTimeout = std::chrono::seconds(25);
+
+/// An error reply, or the lack of a reply.
 class BusError : public PlatformError {
 public:
     BusError(const QString& name, const QString& message)
@@ -26,7 +30,7 @@ private:
     QString m_name;
 };
 
-/// Calls a service and waits for its answer. Throws a BusError when there is none, and Abandoned when `caller` is
-/// destroyed meanwhile.
+/// Calls a service and waits for its reply. Throws a BusError if the reply is an error or does not come, and Abandoned
+/// if `caller` is destroyed meanwhile.
 [[nodiscard]] QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMessage call,
-                                                std::chrono::milliseconds patience = busPatience);
+                                                std::chrono::milliseconds timeout = busTimeout);

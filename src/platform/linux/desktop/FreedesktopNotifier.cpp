@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FreedesktopNotifier.h"
 
-#include "BusCall.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -36,8 +35,8 @@ QVariantMap hints()
 
 } // namespace
 
-FreedesktopNotifier::FreedesktopNotifier(std::chrono::milliseconds patience)
-    : m_patience(patience)
+FreedesktopNotifier::FreedesktopNotifier(std::chrono::milliseconds timeout)
+    : m_timeout(timeout)
 {
 }
 
@@ -73,7 +72,7 @@ QCoro::Task<> FreedesktopNotifier::send(Notification notification)
         auto call = callOf(u"Notify"_s);
         call << u"Pellory"_s << m_numbers.value(notification.topic) << applicationId << notification.title << body
              << actions << hints() << timeoutOfTheServer;
-        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call, m_patience);
+        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call, m_timeout);
         const auto number = reply.arguments().value(0).toUInt();
         if (!notification.topic.isEmpty())
             m_numbers.insert(notification.topic, number);
@@ -89,7 +88,7 @@ QCoro::Task<QStringList> FreedesktopNotifier::abilitiesOfTheServer()
 {
     if (!m_abilities) {
         const QDBusMessage reply =
-            co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s), m_patience);
+            co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s), m_timeout);
         m_abilities = reply.arguments().value(0).toStringList();
     }
     co_return std::as_const(*m_abilities); // which the task would take away otherwise

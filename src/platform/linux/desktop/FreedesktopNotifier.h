@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BusPatience.h"
+#include "BusCall.h"
 #include "Notifier.h"
 
 #include <QHash>
@@ -22,8 +22,8 @@ class FreedesktopNotifier : public Notifier {
     Q_OBJECT
 
 public:
-    /// `patience` is how long the server may take for each answer.
-    explicit FreedesktopNotifier(std::chrono::milliseconds patience = busPatience);
+    /// `timeout` is how long the server may take to answer a call.
+    explicit FreedesktopNotifier(std::chrono::milliseconds timeout = busTimeout);
     ~FreedesktopNotifier() override;
 
     void post(const Notification& notification) override;
@@ -34,7 +34,7 @@ private:
     QCoro::Task<QStringList> abilitiesOfTheServer();
     void followServer();
 
-    std::chrono::milliseconds m_patience;
+    std::chrono::milliseconds m_timeout;
     QQueue<Notification> m_waiting;
     bool m_isSending = false;
     std::optional<QStringList> m_abilities;

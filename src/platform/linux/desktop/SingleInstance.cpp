@@ -19,8 +19,8 @@ const auto startupIdKey = u"desktop-startup-id"_s;
 
 } // namespace
 
-SingleInstance::SingleInstance(std::chrono::milliseconds patience)
-    : m_patience(static_cast<int>(patience.count()))
+SingleInstance::SingleInstance(std::chrono::milliseconds timeout)
+    : m_timeout(static_cast<int>(timeout.count()))
 {
     if (qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"))
         m_platformData.insert(tokenKey, qEnvironmentVariable("XDG_ACTIVATION_TOKEN"));
@@ -46,7 +46,7 @@ SingleInstance::Claim SingleInstance::claim(Errand errand, QDBusConnection bus)
             return Claim::Owned;
         const QString owner = bus.interface()->serviceOwner(ownService);
         if (errand == Errand::None ||
-            bus.call(messageFor(errand), QDBus::Block, m_patience).type() == QDBusMessage::ReplyMessage)
+            bus.call(messageFor(errand), QDBus::Block, m_timeout).type() == QDBusMessage::ReplyMessage)
             return Claim::HandedOver;
         // One that has died without an answer is no longer the owner.
         if (!owner.isEmpty() && bus.interface()->serviceOwner(ownService) == owner)

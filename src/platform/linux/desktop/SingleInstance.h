@@ -22,7 +22,7 @@ public:
     enum class Errand { None, Show, Check };
 
     /// Reads from the environment what the desktop gave for the start. A QApplication takes some of that away.
-    explicit SingleInstance(std::chrono::milliseconds patience = std::chrono::seconds(5));
+    explicit SingleInstance(std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
     /// Becomes the one instance or hands over to the one that is there; refused when that has an errand and is deaf.
     [[nodiscard]] Claim claim(Errand errand);
@@ -43,7 +43,7 @@ private:
     [[nodiscard]] QDBusMessage messageFor(Errand errand) const;
     [[nodiscard]] Claim claimLock();
 
-    int m_patience;
+    int m_timeout;
     QVariantMap m_platformData;
     std::optional<QLockFile> m_lock;
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NetworkManager.h"
 
-#include "BusCall.h"
 #include "Delay.h"
 #include "NetworkManagerNames.h"
 #include "NetworkManagerReader.h"
@@ -36,7 +35,7 @@ AuthorizationStatus statusOf(const QString& permission)
 QCoro::Task<NetworkManagerState> NetworkManager::readState()
 {
     const auto call = callOf(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_patience);
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
     NetworkManagerReader reader(reply);
     while (reader.readSome())
         co_await delay(0ms, this);
@@ -46,7 +45,7 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()
 {
     const auto call = callOf(networkManagerPath, managerInterface, u"GetPermissions"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_patience);
+    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
     // To read an answer of another type as this one would end the program.
     QMap<QString, QString> permissions;
     if (reply.signature() == "a{ss}"_L1)
@@ -61,5 +60,5 @@ QCoro::Task<> NetworkManager::requestScan(QString devicePath, bool isInteractive
     auto call = callOf(devicePath, wirelessInterface, u"RequestScan"_s);
     call << QVariantMap();
     call.setInteractiveAuthorizationAllowed(isInteractive);
-    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : m_patience);
+    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : m_timeout);
 }

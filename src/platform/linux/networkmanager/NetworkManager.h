@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BusPatience.h"
+#include "BusCall.h"
 #include "LocationAuthorization.h"
 #include "NetworkManagerState.h"
 
@@ -12,9 +12,9 @@
 /// Calls to NetworkManager on the system bus. They throw a BusError, and Abandoned when this is destroyed meanwhile.
 class NetworkManager : public QObject {
 public:
-    /// `patience` is how long each call waits for its answer.
-    explicit NetworkManager(std::chrono::milliseconds patience = busPatience)
-        : m_patience(patience)
+    /// `timeout` is how long each call waits for its reply.
+    explicit NetworkManager(std::chrono::milliseconds timeout = busTimeout)
+        : m_timeout(timeout)
     {
     }
 
@@ -29,5 +29,5 @@ public:
     QCoro::Task<> requestScan(QString devicePath, bool isInteractive);
 
 private:
-    std::chrono::milliseconds m_patience;
+    std::chrono::milliseconds m_timeout;
 };

@@ -16,7 +16,7 @@ struct ScanTiming {
     /// How long after its end the last access points are still being listed.
     std::chrono::milliseconds settling = std::chrono::milliseconds(300);
     /// How long each question may take.
-    std::chrono::milliseconds answer = busPatience;
+    std::chrono::milliseconds answer = busTimeout;
 };
 
 /// The Wi-Fi of this computer as NetworkManager runs it. A NetworkManager that is not there, or not any more, is a

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "FontsAhead.h"
+#include "ProcessSetup.h"
 
 #include <fontconfig/fontconfig.h>
+#include <malloc.h>
 
 #include <system_error>
 
-std::jthread readFontsAhead()
+void limitMallocArenas()
+{
+    mallopt(M_ARENA_MAX, 1);
+}
+
+std::jthread preloadFontConfig()
 {
     try {
         return std::jthread([] { FcInit(); });
