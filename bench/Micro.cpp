@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "AppWindows.h"
 #include "AttendanceStatistics.h"
 #include "AutostartEntry.h"
 #include "ContentView.h"
@@ -15,7 +16,6 @@
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "WindowId.h"
-#include "Windows.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -124,7 +124,7 @@ void openWindow(benchmark::State& state, WindowId id)
     PaintCounter counter;
     qApp->installEventFilter(&counter);
     while (state.KeepRunning()) {
-        Windows windows(parts.parts);
+        AppWindows windows(parts.parts);
         windows.open(id);
         QApplication::processEvents();
     }

@@ -4,7 +4,7 @@ pellory_test(views
         views/calendar/CalendarViewTest.cpp views/calendar/DayClickTest.cpp views/calendar/HoverTest.cpp
         views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/SettingsTest.cpp views/tracking/TrackingIndicatorTest.cpp
-        views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/WindowsTest.cpp
+        views/windows/AppWindowsTest.cpp views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )

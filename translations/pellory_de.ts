@@ -18,6 +18,21 @@
     </message>
 </context>
 <context>
+    <name>AppWindows</name>
+    <message>
+        <source>Calendar View Settings</source>
+        <translation>Einstellungen der Kalenderansicht</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>AttendanceStatistics</name>
     <message numerus="yes">
         <source>%n days in the office this **month**</source>
@@ -929,21 +944,6 @@
     <message>
         <source>The Wi-Fi interface %1 is no longer there.</source>
         <translation>Die WLAN-Schnittstelle %1 ist nicht mehr da.</translation>
-    </message>
-</context>
-<context>
-    <name>Windows</name>
-    <message>
-        <source>Calendar View Settings</source>
-        <translation>Einstellungen der Kalenderansicht</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>

@@ -2,12 +2,12 @@
 #include "Background.h"
 
 #include "AppSettings.h"
+#include "AppWindows.h"
 #include "InOfficeCheck.h"
 #include "Notifier.h"
 #include "TrayHost.h"
 #include "TrayIcon.h"
 #include "ViewParts.h"
-#include "Windows.h"
 
 #include <QSettings>
 
@@ -19,15 +19,15 @@ const auto noticeWasGiven = u"backgroundNoticeWasGiven"_s;
 
 } // namespace
 
-Background::Background(const ViewParts& parts, Windows& windows, Notifier& notifier, TrayHost& trayHost,
+Background::Background(const ViewParts& parts, AppWindows& windows, Notifier& notifier, TrayHost& trayHost,
                        QSettings& settings)
     : m_parts(parts)
     , m_windows(windows)
     , m_notifier(notifier)
     , m_settings(settings)
 {
-    connect(&windows, &Windows::lastClosed, this, &Background::lastClosed);
-    connect(&notifier, &Notifier::activated, &windows, &Windows::openDay);
+    connect(&windows, &AppWindows::lastClosed, this, &Background::lastClosed);
+    connect(&notifier, &Notifier::activated, &windows, &AppWindows::openDay);
     connect(&trayHost, &TrayHost::appeared, this, &Background::showTrayIcon);
     connect(&trayHost, &TrayHost::gone, this, [this] { m_trayIcon.reset(); });
 }

@@ -9,7 +9,7 @@ class Notifier;
 class QSettings;
 class TrayHost;
 class TrayIcon;
-class Windows;
+class AppWindows;
 struct ViewParts;
 
 /// What the program is while no window is open: it goes on checking where it tracks, and can be found in the tray and
@@ -18,7 +18,8 @@ class Background : public QObject {
     Q_OBJECT
 
 public:
-    Background(const ViewParts& parts, Windows& windows, Notifier& notifier, TrayHost& trayHost, QSettings& settings);
+    Background(const ViewParts& parts, AppWindows& windows, Notifier& notifier, TrayHost& trayHost,
+               QSettings& settings);
     ~Background() override;
 
     /// The last window has been closed: with tracking on the checks go on, and the first time ever the person is told
@@ -35,7 +36,7 @@ private:
     void showTrayIcon();
 
     const ViewParts& m_parts;
-    Windows& m_windows;
+    AppWindows& m_windows;
     Notifier& m_notifier;
     QSettings& m_settings;
     std::unique_ptr<TrayIcon> m_trayIcon;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "AppWindows.h"
 #include "AutostartEntry.h"
 #include "Background.h"
 #include "CommandLine.h"
@@ -25,7 +26,6 @@
 #include "Translations.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
-#include "Windows.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -108,15 +108,15 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
     const ViewParts parts{context,        pellory.settings(),  viewSettings,
                           computer.clock, computer.wifiClient, locationManager,
                           check,          launchAtLogin};
-    Windows windows(parts);
+    AppWindows windows(parts);
     Background background(parts, windows, computer.notifier, computer.trayHost, settings);
     followColorScheme(computer.appearance, settings);
 
-    QObject::connect(&instance, &SingleInstance::activated, &windows, &Windows::openMain);
+    QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openMain);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
     QObject::connect(&computer.quitSignals, &QuitSignals::requested, &windows, quit);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
-    QObject::connect(&windows, &Windows::quitRequested, &windows, quit);
+    QObject::connect(&windows, &AppWindows::quitRequested, &windows, quit);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &windows, [&context] { context.save(); });
     QObject::connect(&computer.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
@@ -125,15 +125,15 @@ int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstanc
         computer.trayHost.start();
     } else {
         // What is asked of the desktop can wait until there is something to see.
-        QObject::connect(&windows, &Windows::mainPainted, &computer.trayHost, &TrayHost::start,
+        QObject::connect(&windows, &AppWindows::mainPainted, &computer.trayHost, &TrayHost::start,
                          Qt::SingleShotConnection);
         windows.openMain();
         logReached("window built");
     }
-    QObject::connect(&windows, &Windows::mainPainted, &computer.appearance, &Appearance::start,
+    QObject::connect(&windows, &AppWindows::mainPainted, &computer.appearance, &Appearance::start,
                      Qt::SingleShotConnection);
     QObject::connect(
-        &windows, &Windows::mainPainted, &windows, [] { logReached("window painted"); }, Qt::SingleShotConnection);
+        &windows, &AppWindows::mainPainted, &windows, [] { logReached("window painted"); }, Qt::SingleShotConnection);
     return QApplication::exec();
 }
 

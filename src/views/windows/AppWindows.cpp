@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Windows.h"
+#include "AppWindows.h"
 
 #include "AppIcon.h"
 #include "AppSettings.h"
@@ -47,12 +47,12 @@ void raise(QWidget& window, const QString& activationToken)
 
 } // namespace
 
-Windows::Windows(const ViewParts& parts)
+AppWindows::AppWindows(const ViewParts& parts)
     : m_parts(parts)
 {
 }
 
-Windows::~Windows()
+AppWindows::~AppWindows()
 {
     // What is being typed is taken when its field is left.
     if (QWidget* focused = QApplication::focusWidget())
@@ -64,7 +64,7 @@ Windows::~Windows()
     }
 }
 
-void Windows::openMain(const QString& activationToken)
+void AppWindows::openMain(const QString& activationToken)
 {
     if (!m_main)
         makeMain();
@@ -73,27 +73,27 @@ void Windows::openMain(const QString& activationToken)
         raise(*m_welcome, {});
 }
 
-void Windows::openDay(QDate day, const QString& activationToken)
+void AppWindows::openDay(QDate day, const QString& activationToken)
 {
     openMain(activationToken);
     if (day.isValid())
         m_main->showDay(day);
 }
 
-void Windows::makeMain()
+void AppWindows::makeMain()
 {
     m_main = new ContentView(m_parts);
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), firstMainSize);
-    connect(m_main, &ContentView::windowRequested, this, &Windows::open);
-    connect(m_main, &ContentView::painted, this, &Windows::mainPainted);
+    connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
+    connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // A title bar can wait for it until there is something to see.
     connect(m_main, &ContentView::painted, this, [] { QApplication::setWindowIcon(appIcon()); });
     // The first run is led through over the window, once that is there.
     if (m_parts.settings.firstTime)
-        connect(m_main, &ContentView::painted, this, &Windows::openWelcome);
+        connect(m_main, &ContentView::painted, this, &AppWindows::openWelcome);
 }
 
-void Windows::open(WindowId id)
+void AppWindows::open(WindowId id)
 {
     QPointer<QWidget>& window = m_others[id];
     if (!window)
@@ -101,7 +101,7 @@ void Windows::open(WindowId id)
     raise(*window, {});
 }
 
-void Windows::openWelcome()
+void AppWindows::openWelcome()
 {
     if (!m_main)
         makeMain();
@@ -113,7 +113,7 @@ void Windows::openWelcome()
     raise(*m_welcome, {});
 }
 
-QWidget* Windows::makeWindow(WindowId id)
+QWidget* AppWindows::makeWindow(WindowId id)
 {
     switch (id) {
     case WindowId::calendarViewSettings: {
@@ -138,7 +138,7 @@ QWidget* Windows::makeWindow(WindowId id)
     return window;
 }
 
-void Windows::prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize)
+void AppWindows::prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize)
 {
     window.setObjectName(name);
     window.setWindowTitle(title);
@@ -148,15 +148,15 @@ void Windows::prepare(QWidget& window, const QString& name, const QString& title
     if (!window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window))))
         window.resize(firstSize.boundedTo(window.screen()->availableSize() - roomForFrame));
     m_open.append(&window);
-    connect(&window, &QObject::destroyed, this, &Windows::forget);
+    connect(&window, &QObject::destroyed, this, &AppWindows::forget);
 }
 
-void Windows::addShortcuts(QWidget& window)
+void AppWindows::addShortcuts(QWidget& window)
 {
     const auto add = [&window](const QKeySequence& keys, auto* receiver, auto action) {
         connect(new QShortcut(keys, &window), &QShortcut::activated, receiver, action);
     };
-    add(Qt::CTRL | Qt::Key_Q, this, &Windows::quitRequested);
+    add(Qt::CTRL | Qt::Key_Q, this, &AppWindows::quitRequested);
     add(Qt::CTRL | Qt::Key_W, &window, &QWidget::close);
     add(Qt::CTRL | Qt::Key_Comma, this, [this] { open(WindowId::settings); });
     add(Qt::Key_F1, this, [this] { open(WindowId::help); });
@@ -164,7 +164,7 @@ void Windows::addShortcuts(QWidget& window)
         add(Qt::Key_Escape, &window, &QWidget::close);
 }
 
-bool Windows::eventFilter(QObject* watched, QEvent* event)
+bool AppWindows::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Close) {
         auto* window = static_cast<QWidget*>(watched);
@@ -177,7 +177,7 @@ bool Windows::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void Windows::forget(QObject* window)
+void AppWindows::forget(QObject* window)
 {
     m_open.removeOne(window);
     if (m_open.isEmpty())

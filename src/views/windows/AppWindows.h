@@ -13,12 +13,12 @@ struct ViewParts;
 enum class WindowId;
 
 /// Opens the windows of the program. None is built before it is wanted, and one that is closed is gone.
-class Windows : public QObject {
+class AppWindows : public QObject {
     Q_OBJECT
 
 public:
-    explicit Windows(const ViewParts& parts);
-    ~Windows() override;
+    explicit AppWindows(const ViewParts& parts);
+    ~AppWindows() override;
 
     /// Shows the main window, wherever it is. With a token of the desktop it may come to the front where that is not
     /// for everybody.

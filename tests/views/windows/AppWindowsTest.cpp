@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Windows.h"
+#include "AppWindows.h"
 #include "CalendarView.h"
 #include "ContentView.h"
 #include "HelpView.h"
@@ -20,9 +20,9 @@
 #include <QTabBar>
 #include <QTranslator>
 
-class WindowsTest : public ViewTest {
+class AppWindowsTest : public ViewTest {
 protected:
-    WindowsTest() { settings->firstTime = false; }
+    AppWindowsTest() { settings->firstTime = false; }
 
     /// The view in a window that can be worked with.
     template <class View> static View* shown()
@@ -40,12 +40,12 @@ protected:
     }
     static void push(const QWidget& view, const char* name) { click(named<QAbstractButton>(view, name)); }
 
-    Windows windows{parts};
+    AppWindows windows{parts};
 };
 
-TEST_F(WindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
+TEST_F(AppWindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
 {
-    const QSignalSpy closed(&windows, &Windows::lastClosed);
+    const QSignalSpy closed(&windows, &AppWindows::lastClosed);
     windows.openMain();
     auto* main = shown<ContentView>();
     EXPECT_TRUE(eventually([&] { return !main->windowIcon().isNull(); }));
@@ -74,10 +74,10 @@ TEST_F(WindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
     EXPECT_EQ(shown<ContentView>()->size(), QSize(700, 640));
 }
 
-TEST_F(WindowsTest, whatIsBeingTypedIsTakenWhenTheProgramEnds)
+TEST_F(AppWindowsTest, whatIsBeingTypedIsTakenWhenTheProgramEnds)
 {
     {
-        Windows ending(parts);
+        AppWindows ending(parts);
         ending.open(WindowId::settings);
         const auto fields = shown<SettingsView>()->findChildren<QLineEdit*>();
         auto* days = *std::ranges::find(fields, u"4.00"_s, &QLineEdit::text);
@@ -88,7 +88,7 @@ TEST_F(WindowsTest, whatIsBeingTypedIsTakenWhenTheProgramEnds)
     EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek, u"5.00"_s);
 }
 
-TEST_F(WindowsTest, aSwitchIsTheSameInEveryWindow)
+TEST_F(AppWindowsTest, aSwitchIsTheSameInEveryWindow)
 {
     windows.openMain();
     windows.open(WindowId::calendarViewSettings);
@@ -109,7 +109,7 @@ TEST_F(WindowsTest, aSwitchIsTheSameInEveryWindow)
     EXPECT_THAT(shownTexts(legend), testing::IsSupersetOf({u": Open Status Picker Menu "_s, u"Weekend Day"_s}));
 }
 
-TEST_F(WindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
+TEST_F(AppWindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
 {
     settings->wifiTrackingEnabled = true;
     windows.openMain();
@@ -136,7 +136,7 @@ TEST_F(WindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
     EXPECT_FALSE(alert->isVisible());
 }
 
-TEST_F(WindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
+TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
 {
     settings->firstTime = true;
     settings->wifiTrackingEnabled = true;
@@ -211,7 +211,7 @@ QSet<QString> visibleTexts()
     return texts;
 }
 
-TEST_F(WindowsTest, clipNoTextInAnyLanguageAndSpeakOne)
+TEST_F(AppWindowsTest, clipNoTextInAnyLanguageAndSpeakOne)
 {
     LongerTexts longer;
     QTranslator german, none;
@@ -224,7 +224,7 @@ TEST_F(WindowsTest, clipNoTextInAnyLanguageAndSpeakOne)
         QCoreApplication::installTranslator(language);
         const auto restore = qScopeGuard([&] { QCoreApplication::removeTranslator(language); });
         stored.clear(); // the sizes of the windows
-        Windows all(parts);
+        AppWindows all(parts);
         all.openWelcome();
         for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::calendarViewSettings})
             all.open(id);
