@@ -44,7 +44,7 @@ namespace labels {
 }
 
 /// The same in one line, however long it is.
-[[nodiscard]] inline QLabel* unwrapped(QLabel* label)
+[[nodiscard]] inline QLabel* singleLine(QLabel* label)
 {
     label->setWordWrap(false);
     return label;

@@ -74,7 +74,7 @@ void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& tex
     const ClickModifier modifier = day.isWorkday ? modifierReaching(day.state) : ClickModifier::None;
     if (modifier != ClickModifier::None)
         grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
-    grid.addWidget(labels::unwrapped(labels::text(text)), row, textColumn);
+    grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);
 }
 
 void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text)
@@ -83,5 +83,5 @@ void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol
     grid.addWidget(new SymbolView(symbol), row, swatchColumn, Qt::AlignCenter);
     if (!key.isEmpty())
         grid.addWidget(new KeyCap(key), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
-    grid.addWidget(labels::unwrapped(labels::text(text)), row, textColumn);
+    grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);
 }

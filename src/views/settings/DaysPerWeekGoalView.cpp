@@ -50,7 +50,7 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     m_table->setHorizontalSpacing(8);
     m_table->setVerticalSpacing(6);
     m_table->setColumnStretch(1, 1);
-    m_table->addWidget(labels::unwrapped(labels::dim(tr("Days Per Week Goal"))), 0, 0);
+    m_table->addWidget(labels::singleLine(labels::dim(tr("Days Per Week Goal"))), 0, 0);
     m_table->addWidget(m_lastHeading, 0, 1);
     column->addLayout(m_table);
     column->addWidget(m_empty);

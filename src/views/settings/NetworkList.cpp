@@ -92,7 +92,7 @@ NetworkList::Row NetworkList::makeRow()
 
 void NetworkList::showNetwork(const Row& row, const QString& ssid)
 {
-    row.name->setText(ssid.isEmpty() ? tr("(empty name)") : shownNetworkName(ssid));
+    row.name->setText(ssid.isEmpty() ? tr("(empty name)") : displayName(ssid));
     row.name->setForegroundRole(ssid.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
     const Choice choice = m_choiceOf(ssid);
     row.button->setSymbol(choice.symbol);

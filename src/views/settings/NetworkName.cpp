@@ -24,7 +24,7 @@ bool isSeen(QChar character)
 
 } // namespace
 
-QString shownNetworkName(const QString& ssid)
+QString displayName(const QString& ssid)
 {
     QString name;
     for (qsizetype i = 0; i < ssid.size(); ++i) {

@@ -5,4 +5,4 @@
 
 /// The name of a network as it can be shown, whatever bytes it is made of: what cannot be seen has a visible sign, and
 /// no name changes the direction of the text around it. For the screen alone: two names may look the same.
-[[nodiscard]] QString shownNetworkName(const QString& ssid);
+[[nodiscard]] QString displayName(const QString& ssid);

@@ -120,9 +120,9 @@ void SsidSettingsView::addInterval(QVBoxLayout& column)
 
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
-    row->addWidget(labels::unwrapped(labels::text(tr("Check if in office every"))));
+    row->addWidget(labels::singleLine(labels::text(tr("Check if in office every"))));
     row->addWidget(field);
-    row->addWidget(labels::unwrapped(labels::text(tr("minutes"))));
+    row->addWidget(labels::singleLine(labels::text(tr("minutes"))));
     row->addStretch();
     column.addLayout(row);
     column.addWidget(labels::dim(tr("If any of these networks are in range, you will be counted as in-office.")));

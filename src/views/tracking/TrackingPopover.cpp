@@ -20,8 +20,8 @@ namespace {
 
 QLabel* addRow(QFormLayout& rows, const QString& name)
 {
-    auto* value = labels::unwrapped(labels::text({}));
-    rows.addRow(labels::unwrapped(labels::dim(name)), value);
+    auto* value = labels::singleLine(labels::text({}));
+    rows.addRow(labels::singleLine(labels::dim(name)), value);
     return value;
 }
 
@@ -31,7 +31,7 @@ TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status,
     : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
     , m_parts(parts)
     , m_status(status)
-    , m_title(labels::unwrapped(labels::strong({})))
+    , m_title(labels::singleLine(labels::strong({})))
     , m_rows(new QFormLayout)
     , m_wifi(addRow(*m_rows, tr("Wi-Fi")))
     , m_location(addRow(*m_rows, tr("Location access")))

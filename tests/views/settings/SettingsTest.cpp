@@ -118,7 +118,7 @@ TEST_F(SettingsTest, networksComeFromAScanAndByName)
     const auto& inRange = named<NetworkList>(view, "networksInRange");
     const auto& selected = named<NetworkList>(view, "selectedNetworks");
     const auto shown = [](const char* text, const char* name) {
-        return QString::fromUtf8(text).arg(shownNetworkName(QString::fromUtf8(name)));
+        return QString::fromUtf8(text).arg(displayName(QString::fromUtf8(name)));
     };
     const QStringList offers{shown("%1 is an office network", "Office"), shown("Add %1", "office")};
     EXPECT_TRUE(eventually([&] { return namesOf(inRange) == offers; }));
@@ -179,7 +179,7 @@ TEST(NetworkNameTest, showsWhatCannotBeSeenAndKeepsToItself)
 {
     for (const auto& [ssid, shown] :
          {std::pair(u" Büro 3 "_s, u"\u2423Büro 3\u2423"_s), {u"a\tb\u202ec\u0001"_s, u"a\ufffdb\ufffdc\ufffd"_s}})
-        EXPECT_EQ(shownNetworkName(ssid), u'\u2068' + shown + u'\u2069');
+        EXPECT_EQ(displayName(ssid), u'\u2068' + shown + u'\u2069');
 }
 
 TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
