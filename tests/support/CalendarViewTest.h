@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarTest.h"
 #include "CalendarView.h"
-#include "ViewTest.h"
 
 /// A shown month that begins on a Sunday.
-class CalendarViewTest : public ViewTest {
+class CalendarViewTest : public CalendarTest {
 protected:
     static constexpr int friday = 20;
     static constexpr int saturday = 21;
@@ -34,5 +34,5 @@ protected:
     }
 
     const std::shared_ptr<Month> november = month(2026, 11);
-    CalendarView view{parts};
+    CalendarView view{context, viewSettings, clock};
 };

@@ -8,7 +8,6 @@
 #include "StatisticsTexts.h"
 #include "StatusPicker.h"
 #include "Theme.h"
-#include "ViewParts.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -32,10 +31,12 @@ constexpr float highlightOpacity = 0.1F;
 
 } // namespace
 
-CalendarView::CalendarView(const ViewParts& parts, bool highlighted, QWidget* parent)
+CalendarView::CalendarView(ModelContext& context, const ViewSettings& viewSettings, const Clock& clock,
+                           bool highlighted, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
-    , m_editor(parts.context)
+    , m_viewSettings(viewSettings)
+    , m_clock(clock)
+    , m_editor(context)
     , m_highlighted(highlighted)
 {
     auto* grid = new QGridLayout(this);
@@ -46,7 +47,7 @@ CalendarView::CalendarView(const ViewParts& parts, bool highlighted, QWidget* pa
     addWeekdays(*grid);
     addCells(*grid);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(&parts.clock, &Clock::dayChanged, this, &CalendarView::refresh);
+    connect(&clock, &Clock::dayChanged, this, &CalendarView::refresh);
 }
 
 void CalendarView::addHeader(QGridLayout& grid)
@@ -97,7 +98,7 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
     auto* cell = new CommandClickableButton({operation(&DayEditor::cycleDayState), operation(&DayEditor::resetDayState),
                                              operation(&DayEditor::toggleWillBeInOffice),
                                              operation(&DayEditor::toggleVacationDay)},
-                                            m_parts.viewSettings, this);
+                                            m_viewSettings, this);
     QSizePolicy policy = cell->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     cell->setSizePolicy(policy);
@@ -126,7 +127,7 @@ void CalendarView::setMonth(const std::shared_ptr<Month>& month)
     for (CommandClickableButton* cell : m_cells)
         cell->resetHover();
     refresh();
-    const QDate today = m_parts.clock.today();
+    const QDate today = m_clock.today();
     const bool isThisMonth = today.year() == month->year && today.month() == month->month;
     setTabStop(m_cells[static_cast<std::size_t>(*month->indexOf(isThisMonth ? today.day() : 1))]);
 }
@@ -148,7 +149,7 @@ void CalendarView::refresh()
 {
     if (!m_month)
         return;
-    const QDate today = m_parts.clock.today();
+    const QDate today = m_clock.today();
     m_name->setText(title(today));
     setAccessibleName(m_name->text());
     m_workdays->setText(workdaysText(m_month->workdayCount()));

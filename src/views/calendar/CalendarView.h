@@ -10,18 +10,20 @@
 #include <memory>
 #include <vector>
 
+class Clock;
 class CommandClickableButton;
 class Month;
 class QGridLayout;
 class QLabel;
-struct ViewParts;
+class ViewSettings;
 
 /// One month as a grid of days, and the one place where a person marks days by hand. The arrow keys move between days.
 class CalendarView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit CalendarView(const ViewParts& parts, bool highlighted = false, QWidget* parent = nullptr);
+    CalendarView(ModelContext& context, const ViewSettings& viewSettings, const Clock& clock, bool highlighted = false,
+                 QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] Month* month() const { return m_month.get(); }
@@ -54,7 +56,8 @@ private:
     void setTabStop(CommandClickableButton* cell);
     [[nodiscard]] QString title(QDate today) const;
 
-    const ViewParts& m_parts;
+    const ViewSettings& m_viewSettings;
+    const Clock& m_clock;
     DayEditor m_editor;
     bool m_highlighted;
     std::shared_ptr<Month> m_month;

@@ -5,16 +5,16 @@
 #include "Centred.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
-#include "ViewParts.h"
 #include "ViewSettings.h"
 
 #include <QVBoxLayout>
 
-MonthCard::MonthCard(const ViewParts& parts, QWidget* parent)
+MonthCard::MonthCard(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+                     const Clock& clock, QWidget* parent)
     : Card(parent)
     , m_column(new QVBoxLayout(this))
-    , m_calendar(new CalendarView(parts))
-    , m_tracker(new ProgressWidgetView(parts, PeriodWord::Month))
+    , m_calendar(new CalendarView(context, viewSettings, clock))
+    , m_tracker(new ProgressWidgetView(settings, viewSettings, PeriodWord::Month))
 {
     setFixedWidth(contentWidth);
     m_column->setContentsMargins(0, 16, 0, 20);
@@ -23,9 +23,9 @@ MonthCard::MonthCard(const ViewParts& parts, QWidget* parent)
     addCentred(*m_column, m_tracker);
     m_column->addStretch();
 
-    const auto& shown = parts.viewSettings.showMonthStats;
+    const auto& shown = viewSettings.showMonthStats;
     m_tracker->setVisible(shown);
-    m_follower = parts.viewSettings.showMonthStats.addNotifier([this, &shown] { m_tracker->setVisible(shown); });
+    m_follower = QPropertyNotifier(shown, [this, &shown] { m_tracker->setVisible(shown); });
 }
 
 void MonthCard::setMonth(const std::shared_ptr<Month>& month)

@@ -7,19 +7,23 @@
 
 #include <memory>
 
+class AppSettings;
 class CalendarView;
+class Clock;
+class ModelContext;
 class Month;
 class NavigationRow;
 class ProgressWidgetView;
 class QVBoxLayout;
-struct ViewParts;
+class ViewSettings;
 
 /// A month's grid with the month's progress tracker below it.
 class MonthCard : public Card {
     Q_OBJECT
 
 public:
-    explicit MonthCard(const ViewParts& parts, QWidget* parent = nullptr);
+    MonthCard(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+              QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] CalendarView& calendar() { return *m_calendar; }

@@ -10,7 +10,6 @@
 #include "ProgressWidgetView.h"
 #include "QuarterMonths.h"
 #include "StoreError.h"
-#include "ViewParts.h"
 #include "ViewSettings.h"
 
 #include <QKeyEvent>
@@ -19,21 +18,23 @@
 
 using namespace Qt::StringLiterals;
 
-MonthView::MonthView(const ViewParts& parts, QWidget* parent)
+MonthView::MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+                     const Clock& clock, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
+    , m_context(context)
+    , m_viewSettings(viewSettings)
     , m_quarter(new Card)
-    , m_quarterTracker(new ProgressWidgetView(parts, PeriodWord::Quarter))
+    , m_quarterTracker(new ProgressWidgetView(settings, viewSettings, PeriodWord::Quarter))
     , m_navigation(new NavigationRow(tr("Last Month"), tr("Next Month")))
-    , m_month(new MonthCard(parts))
+    , m_month(new MonthCard(context, settings, viewSettings, clock))
     , m_error(new QLabel(tr("Error loading month!")))
 {
     build();
     connect(m_navigation, &NavigationRow::previousRequested, this, [this] { turnTo(m_period.previous()); });
     connect(m_navigation, &NavigationRow::nextRequested, this, [this] { turnTo(m_period.next()); });
     connect(&m_month->calendar(), &CalendarView::dayRequested, this, &MonthView::showDay);
-    m_follower = parts.viewSettings.showQuarterStats.addNotifier([this] { refresh(); });
-    const QDate today = parts.clock.today();
+    m_follower = QPropertyNotifier(viewSettings.showQuarterStats, [this] { refresh(); });
+    const QDate today = clock.today();
     showMonth({today.year(), today.month()});
 }
 
@@ -97,7 +98,7 @@ void MonthView::refresh()
 {
     bool loaded = true;
     try {
-        const auto months = quarterMonths(m_parts.context, m_period.quarter());
+        const auto months = quarterMonths(m_context, m_period.quarter());
         m_quarterTracker->setMonths(months);
         m_month->setMonth(months.at((m_period.month - 1) % 3));
         m_navigation->setAvailable(m_period.previous().has_value(), m_period.next().has_value());
@@ -106,5 +107,5 @@ void MonthView::refresh()
     }
     m_error->setVisible(!loaded);
     m_month->setVisible(loaded);
-    m_quarter->setVisible(loaded && m_parts.viewSettings.showQuarterStats);
+    m_quarter->setVisible(loaded && m_viewSettings.showQuarterStats);
 }

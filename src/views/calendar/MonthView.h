@@ -6,20 +6,24 @@
 #include <QProperty>
 #include <QWidget>
 
+class AppSettings;
 class Card;
+class Clock;
+class ModelContext;
 class MonthCard;
 class NavigationRow;
 class ProgressWidgetView;
 class QDate;
 class QLabel;
-struct ViewParts;
+class ViewSettings;
 
 /// One month and how its quarter stands. Starts at today.
 class MonthView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MonthView(const ViewParts& parts, QWidget* parent = nullptr);
+    MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+              QWidget* parent = nullptr);
 
     void showMonth(const YearMonth& period);
     /// Gives a day the focus. One outside the calendar is passed over.
@@ -34,7 +38,8 @@ private:
     void turnTo(const std::optional<YearMonth>& period);
     void refresh();
 
-    const ViewParts& m_parts;
+    ModelContext& m_context;
+    const ViewSettings& m_viewSettings;
     YearMonth m_period;
     Card* m_quarter;
     ProgressWidgetView* m_quarterTracker;

@@ -7,7 +7,6 @@
 #include "Month.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
-#include "ViewParts.h"
 #include "ViewSettings.h"
 
 #include <QLabel>
@@ -15,13 +14,15 @@
 
 using namespace Qt::StringLiterals;
 
-QuarterStatsView::QuarterStatsView(const ViewParts& parts, bool showNavigation, QWidget* parent)
+QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+                                   bool showNavigation, QWidget* parent)
     : Card(parent)
-    , m_parts(parts)
+    , m_viewSettings(viewSettings)
+    , m_clock(clock)
     , m_navigation(new NavigationRow(tr("Last Quarter"), tr("Next Quarter")))
     , m_title(new QLabel)
     , m_workdays(new QLabel)
-    , m_tracker(new ProgressWidgetView(parts, PeriodWord::Quarter))
+    , m_tracker(new ProgressWidgetView(settings, viewSettings, PeriodWord::Quarter))
 {
     setFixedWidth(contentWidth);
     m_title->setFont(fonts::title(font()));
@@ -44,8 +45,8 @@ QuarterStatsView::QuarterStatsView(const ViewParts& parts, bool showNavigation, 
     m_navigation->setVisible(showNavigation);
     connect(m_navigation, &NavigationRow::previousRequested, this, [this] { request(m_quarter.previous()); });
     connect(m_navigation, &NavigationRow::nextRequested, this, [this] { request(m_quarter.next()); });
-    connect(&parts.clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
-    m_follower = parts.viewSettings.showQuarterStats.addNotifier([this] { refresh(); });
+    connect(&clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
+    m_follower = QPropertyNotifier(viewSettings.showQuarterStats, [this] { refresh(); });
 }
 
 void QuarterStatsView::setQuarter(const YearQuarter& quarter, const QList<std::shared_ptr<Month>>& months)
@@ -65,12 +66,12 @@ void QuarterStatsView::request(const std::optional<YearQuarter>& quarter)
 void QuarterStatsView::refresh()
 {
     const QString name = tr("Q%1", "a quarter of the year").arg(m_quarter.quarter);
-    const bool thisYear = m_quarter.year == m_parts.clock.today().year();
+    const bool thisYear = m_quarter.year == m_clock.today().year();
     m_title->setText(thisYear ? name : tr("%1 %2", "quarter and year").arg(name, QString::number(m_quarter.year)));
     qint64 workdays = 0;
     for (const auto& month : m_months)
         workdays += month->workdayCount();
     m_workdays->setText(workdaysText(workdays));
-    m_tracker->setVisible(m_parts.viewSettings.showQuarterStats);
+    m_tracker->setVisible(m_viewSettings.showQuarterStats);
     m_navigation->setAvailable(m_quarter.previous().has_value(), m_quarter.next().has_value());
 }

@@ -8,18 +8,21 @@
 
 #include <memory>
 
+class AppSettings;
+class Clock;
 class Month;
 class NavigationRow;
 class ProgressWidgetView;
 class QLabel;
-struct ViewParts;
+class ViewSettings;
 
 /// How a quarter stands, with the way to its neighbours. The quarter shown is the owner's: it is asked to move.
 class QuarterStatsView : public Card {
     Q_OBJECT
 
 public:
-    QuarterStatsView(const ViewParts& parts, bool showNavigation, QWidget* parent = nullptr);
+    QuarterStatsView(const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+                     bool showNavigation, QWidget* parent = nullptr);
 
     void setQuarter(const YearQuarter& quarter, const QList<std::shared_ptr<Month>>& months);
 
@@ -30,7 +33,8 @@ private:
     void refresh();
     void request(const std::optional<YearQuarter>& quarter);
 
-    const ViewParts& m_parts;
+    const ViewSettings& m_viewSettings;
+    const Clock& m_clock;
     YearQuarter m_quarter;
     QList<std::shared_ptr<Month>> m_months;
     NavigationRow* m_navigation;

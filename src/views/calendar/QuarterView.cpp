@@ -7,7 +7,6 @@
 #include "QuarterMonths.h"
 #include "QuarterStatsView.h"
 #include "StoreError.h"
-#include "ViewParts.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -25,10 +24,11 @@ constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
 
 } // namespace
 
-QuarterView::QuarterView(const ViewParts& parts, QWidget* parent)
+QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+                         const Clock& clock, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
-    , m_stats(new QuarterStatsView(parts, true))
+    , m_context(context)
+    , m_stats(new QuarterStatsView(settings, viewSettings, clock, true))
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
     , m_error(new QLabel(tr("Error loading month!")))
 {
@@ -36,7 +36,7 @@ QuarterView::QuarterView(const ViewParts& parts, QWidget* parent)
     m_error->setAlignment(Qt::AlignCenter);
     m_row->setSpacing(spacing);
     for (MonthCard*& card : m_months) {
-        card = new MonthCard(parts);
+        card = new MonthCard(context, settings, viewSettings, clock);
         m_row->addWidget(card, 0, Qt::AlignHCenter);
         connect(&card->calendar(), &CalendarView::dayRequested, this, &QuarterView::showDay);
     }
@@ -49,7 +49,7 @@ QuarterView::QuarterView(const ViewParts& parts, QWidget* parent)
     column->addStretch();
 
     connect(m_stats, &QuarterStatsView::quarterRequested, this, &QuarterView::turnTo);
-    const QDate today = parts.clock.today();
+    const QDate today = clock.today();
     showQuarter(YearMonth{today.year(), today.month()}.quarter());
 }
 
@@ -107,7 +107,7 @@ void QuarterView::refresh()
 {
     bool loaded = true;
     try {
-        const auto months = quarterMonths(m_parts.context, m_quarter);
+        const auto months = quarterMonths(m_context, m_quarter);
         m_stats->setQuarter(m_quarter, months);
         for (std::size_t i = 0; i < m_months.size(); ++i)
             m_months.at(i)->setMonth(months.at(static_cast<qsizetype>(i)));

@@ -7,19 +7,23 @@
 
 #include <array>
 
+class AppSettings;
+class Clock;
+class ModelContext;
 class MonthCard;
 class QBoxLayout;
 class QDate;
 class QLabel;
 class QuarterStatsView;
-struct ViewParts;
+class ViewSettings;
 
 /// The three months of a quarter and how it stands. Starts at today. Months stand side by side where there is room.
 class QuarterView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit QuarterView(const ViewParts& parts, QWidget* parent = nullptr);
+    QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+                const Clock& clock, QWidget* parent = nullptr);
 
     void showQuarter(const YearQuarter& quarter);
     /// Gives a day the focus. One outside the calendar is passed over.
@@ -37,7 +41,7 @@ private:
     void turnTo(const std::optional<YearQuarter>& quarter);
     void refresh();
 
-    const ViewParts& m_parts;
+    ModelContext& m_context;
     YearQuarter m_quarter;
     QuarterStatsView* m_stats;
     std::array<MonthCard*, 3> m_months{};

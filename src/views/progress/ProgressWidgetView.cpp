@@ -7,7 +7,6 @@
 #include "MarkedTextLabel.h"
 #include "Month.h"
 #include "Theme.h"
-#include "ViewParts.h"
 #include "ViewSettings.h"
 
 #include <QEvent>
@@ -27,9 +26,11 @@ QString captionOf(const ValuedGoal& goal)
 
 } // namespace
 
-ProgressWidgetView::ProgressWidgetView(const ViewParts& parts, PeriodWord period, QWidget* parent)
+ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
+                                       QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
+    , m_settings(settings)
+    , m_viewSettings(viewSettings)
     , m_period(period)
     , m_headline(new MarkedTextLabel)
     , m_goal(new MarkedTextLabel)
@@ -74,8 +75,8 @@ ProgressWidgetView::Shown ProgressWidgetView::current() const
     for (const auto& month : m_months)
         months.append(month.get());
     const AttendanceStatistics statistics =
-        attendanceStatistics(months, m_parts.settings.daysPerWeekGoals, m_parts.settings.vacationDaysCountAsInOffice,
-                             m_parts.viewSettings.showWillBeInOfficeStats);
+        attendanceStatistics(months, m_settings.daysPerWeekGoals, m_settings.vacationDaysCountAsInOffice,
+                             m_viewSettings.showWillBeInOfficeStats);
     const BarFractions fractions = barFractions(statistics);
     const Theme& theme = themeFor(palette());
 
@@ -92,8 +93,7 @@ ProgressWidgetView::Shown ProgressWidgetView::current() const
                                     .markerFont = fonts::subheadline(font())};
     for (qsizetype i = 0; i < fractions.markers.size(); ++i)
         bar.markers.append({fractions.markers.at(i), captionOf(statistics.validGoals.at(i))});
-    return {headlineText(statistics.inOffice, m_period), goalText(statistics), bar,
-            m_parts.viewSettings.showProgressBars};
+    return {headlineText(statistics.inOffice, m_period), goalText(statistics), bar, m_viewSettings.showProgressBars};
 }
 
 void ProgressWidgetView::refresh()

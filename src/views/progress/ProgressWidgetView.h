@@ -8,9 +8,10 @@
 
 #include <memory>
 
+class AppSettings;
 class MarkedTextLabel;
 class Month;
-struct ViewParts;
+class ViewSettings;
 
 /// The progress tracker: how far the person stands in a period, in words and on a bar. It follows every record and
 /// setting that it shows.
@@ -18,7 +19,8 @@ class ProgressWidgetView : public QWidget {
     Q_OBJECT
 
 public:
-    ProgressWidgetView(const ViewParts& parts, PeriodWord period, QWidget* parent = nullptr);
+    ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
+                       QWidget* parent = nullptr);
 
     void setMonths(const QList<std::shared_ptr<Month>>& months);
 
@@ -36,7 +38,8 @@ private:
     [[nodiscard]] Shown current() const;
     void refresh();
 
-    const ViewParts& m_parts;
+    const AppSettings& m_settings;
+    const ViewSettings& m_viewSettings;
     PeriodWord m_period;
     QList<std::shared_ptr<Month>> m_months;
     MarkedTextLabel* m_headline;

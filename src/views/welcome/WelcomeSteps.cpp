@@ -109,10 +109,10 @@ QWidget* welcome::makeIntroduction(const ViewParts& parts)
                    WelcomeView::tr("Mark where you spend each day, and see how far you are from your goals. Try it on "
                                    "this sample month: a click changes a day, a right click offers all states."));
     const auto sample = makeSampleMonth(parts.clock.today());
-    auto* calendar = new CalendarView(parts, true);
+    auto* calendar = new CalendarView(parts.context, parts.viewSettings, parts.clock, true);
     calendar->setContentsMargins(16, 12, 16, 12);
     calendar->setMonth(sample);
-    auto* tracker = new ProgressWidgetView(parts, PeriodWord::Month);
+    auto* tracker = new ProgressWidgetView(parts.settings, parts.viewSettings, PeriodWord::Month);
     tracker->setMonths({sample});
     column->addWidget(calendar, 0, Qt::AlignHCenter);
     column->addSpacing(8);

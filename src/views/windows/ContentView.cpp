@@ -142,8 +142,8 @@ void ContentView::showTab(int index)
 Page* ContentView::makePage(int index)
 {
     if (index == 0)
-        return new Page(new MonthView(m_parts));
-    return new Page(new QuarterView(m_parts));
+        return new Page(new MonthView(m_parts.context, m_parts.settings, m_parts.viewSettings, m_parts.clock));
+    return new Page(new QuarterView(m_parts.context, m_parts.settings, m_parts.viewSettings, m_parts.clock));
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)

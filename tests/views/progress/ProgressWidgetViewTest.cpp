@@ -11,7 +11,7 @@ protected:
         show(tracker);
     }
 
-    ProgressWidgetView tracker{parts, PeriodWord::Month};
+    ProgressWidgetView tracker{*settings, viewSettings, PeriodWord::Month};
 };
 
 TEST_F(ProgressWidgetViewTest, theWordsFollowEveryRecordAndSetting)

@@ -33,8 +33,8 @@ protected:
         return {shown(*calendars.first()), shown(*calendars.last())};
     }
 
-    MonthView monthPage{parts};
-    QuarterView quarterPage{parts};
+    MonthView monthPage{context, *settings, viewSettings, clock};
+    QuarterView quarterPage{context, *settings, viewSettings, clock};
     QWidget* const pages[2]{&monthPage, &quarterPage};
 };
 
@@ -97,7 +97,7 @@ TEST_F(PagesTest, theMonthsOfAQuarterAreMadeOnce)
 {
     const auto made = context.fetchMonths();
     EXPECT_EQ(made.size(), 3);
-    const MonthView again(parts);
+    const MonthView again(context, *settings, viewSettings, clock);
     EXPECT_EQ(context.fetchMonths(), made);
     EXPECT_EQ(ModelContainer({.name = {}, .path = path}).mainContext().fetchMonths().size(), 3);
 }

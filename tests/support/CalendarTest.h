@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "AppSettings.h"
+#include "FixedClock.h"
+#include "Marking.h"
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "Testing.h"
+#include "Theme.h"
+#include "ViewSettings.h"
+#include "Widgets.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+/// What the calendar works on: a real store with two goals, on the morning of Friday 20 November 2026.
+class CalendarTest : public testing::Test {
+protected:
+    CalendarTest()
+    {
+        settings->daysPerWeekGoals = {Goal::create(u"2"_s, u"not fired"_s), Goal::create(u"4"_s, u"ideal"_s)};
+        context.insert(settings);
+    }
+    ~CalendarTest() override { wear(ColorScheme::Light); }
+
+    /// The stored month; a new one if there is none.
+    [[nodiscard]] std::shared_ptr<Month> month(int year, int number)
+    {
+        auto found = context.fetchMonths(year, number);
+        if (found.isEmpty()) {
+            found.append(std::make_shared<Month>(year, number));
+            context.insert(found.first());
+            context.save();
+        }
+        return found.first();
+    }
+
+    static void wear(ColorScheme scheme)
+    {
+        QApplication::setPalette(paletteFor(scheme));
+        QApplication::processEvents();
+    }
+
+    const QTemporaryDir folder{inMemory};
+    const QString path = folder.filePath(u"Pellory.store"_s);
+    ModelContainer container{{.name = {}, .path = path}};
+    ModelContext& context = container.mainContext();
+    const std::shared_ptr<AppSettings> settings = std::make_shared<AppSettings>();
+    QSettings stored{folder.filePath(u"views.ini"_s), QSettings::IniFormat};
+    ViewSettings viewSettings{stored};
+    FixedClock clock;
+};
