@@ -3,6 +3,7 @@
 
 #include "Clock.h"
 #include "CommandClickableButton.h"
+#include "Follow.h"
 #include "Fonts.h"
 #include "Month.h"
 #include "StatisticsTexts.h"
@@ -121,9 +122,9 @@ void CalendarView::showPicker(qsizetype index, const QPoint& position)
 void CalendarView::setMonth(const std::shared_ptr<Month>& month)
 {
     m_month = month;
-    m_followers.clear();
-    m_followers.push_back(month->days.addNotifier([this] { refresh(); }));
-    m_followers.push_back(month->name.addNotifier([this] { refresh(); }));
+    m_monthFollowers = std::make_unique<QObject>();
+    onChange(month->days, m_monthFollowers.get(), [this] { refresh(); });
+    onChange(month->name, m_monthFollowers.get(), [this] { refresh(); });
     for (CommandClickableButton* cell : m_cells)
         cell->resetHover();
     refresh();

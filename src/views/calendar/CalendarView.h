@@ -4,7 +4,6 @@
 #include "DayEditor.h"
 
 #include <QDate>
-#include <QProperty>
 #include <QWidget>
 
 #include <memory>
@@ -61,7 +60,8 @@ private:
     DayEditor m_editor;
     bool m_highlighted;
     std::shared_ptr<Month> m_month;
-    std::vector<QPropertyNotifier> m_followers;
+    /// Owns what follows the month that is shown.
+    std::unique_ptr<QObject> m_monthFollowers;
     QLabel* m_name = nullptr;
     QLabel* m_workdays = nullptr;
     std::vector<CommandClickableButton*> m_cells;

@@ -3,6 +3,7 @@
 
 #include "CalendarView.h"
 #include "Centred.h"
+#include "Follow.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
 #include "ViewSettings.h"
@@ -23,9 +24,8 @@ MonthCard::MonthCard(ModelContext& context, const AppSettings& settings, const V
     addCentred(*m_column, m_tracker);
     m_column->addStretch();
 
-    const auto& shown = viewSettings.showMonthStats;
-    m_tracker->setVisible(shown);
-    m_follower = QPropertyNotifier(shown, [this, &shown] { m_tracker->setVisible(shown); });
+    const auto& isShown = viewSettings.showMonthStats;
+    follow(isShown, this, [this, &isShown] { m_tracker->setVisible(isShown); });
 }
 
 void MonthCard::setMonth(const std::shared_ptr<Month>& month)

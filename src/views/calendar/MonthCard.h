@@ -3,8 +3,6 @@
 
 #include "Card.h"
 
-#include <QProperty>
-
 #include <memory>
 
 class AppSettings;
@@ -34,5 +32,4 @@ private:
     QVBoxLayout* m_column;
     CalendarView* m_calendar;
     ProgressWidgetView* m_tracker;
-    QPropertyNotifier m_follower;
 };

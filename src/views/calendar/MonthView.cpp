@@ -4,6 +4,7 @@
 #include "CalendarView.h"
 #include "Centred.h"
 #include "Clock.h"
+#include "Follow.h"
 #include "Month.h"
 #include "MonthCard.h"
 #include "NavigationRow.h"
@@ -33,7 +34,7 @@ MonthView::MonthView(ModelContext& context, const AppSettings& settings, const V
     connect(m_navigation, &NavigationRow::previousRequested, this, [this] { turnTo(m_period.previous()); });
     connect(m_navigation, &NavigationRow::nextRequested, this, [this] { turnTo(m_period.next()); });
     connect(&m_month->calendar(), &CalendarView::dayRequested, this, &MonthView::showDay);
-    m_follower = QPropertyNotifier(viewSettings.showQuarterStats, [this] { refresh(); });
+    onChange(viewSettings.showQuarterStats, this, [this] { refresh(); });
     const QDate today = clock.today();
     showMonth({today.year(), today.month()});
 }

@@ -3,7 +3,6 @@
 
 #include "Period.h"
 
-#include <QProperty>
 #include <QWidget>
 
 class AppSettings;
@@ -46,5 +45,4 @@ private:
     NavigationRow* m_navigation;
     MonthCard* m_month;
     QLabel* m_error;
-    QPropertyNotifier m_follower;
 };

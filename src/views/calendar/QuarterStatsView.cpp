@@ -3,6 +3,7 @@
 
 #include "Centred.h"
 #include "Clock.h"
+#include "Follow.h"
 #include "Fonts.h"
 #include "Month.h"
 #include "NavigationRow.h"
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
                                    bool showNavigation, QWidget* parent)
     : Card(parent)
-    , m_viewSettings(viewSettings)
     , m_clock(clock)
     , m_navigation(new NavigationRow(tr("Last Quarter"), tr("Next Quarter")))
     , m_title(new QLabel)
@@ -46,7 +46,8 @@ QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettin
     connect(m_navigation, &NavigationRow::previousRequested, this, [this] { request(m_quarter.previous()); });
     connect(m_navigation, &NavigationRow::nextRequested, this, [this] { request(m_quarter.next()); });
     connect(&clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
-    m_follower = QPropertyNotifier(viewSettings.showQuarterStats, [this] { refresh(); });
+    const auto& isTrackerShown = viewSettings.showQuarterStats;
+    follow(isTrackerShown, this, [this, &isTrackerShown] { m_tracker->setVisible(isTrackerShown); });
 }
 
 void QuarterStatsView::setQuarter(const YearQuarter& quarter, const QList<std::shared_ptr<Month>>& months)
@@ -72,6 +73,5 @@ void QuarterStatsView::refresh()
     for (const auto& month : m_months)
         workdays += month->workdayCount();
     m_workdays->setText(workdaysText(workdays));
-    m_tracker->setVisible(m_viewSettings.showQuarterStats);
     m_navigation->setAvailable(m_quarter.previous().has_value(), m_quarter.next().has_value());
 }

@@ -4,8 +4,6 @@
 #include "Card.h"
 #include "Period.h"
 
-#include <QProperty>
-
 #include <memory>
 
 class AppSettings;
@@ -33,7 +31,6 @@ private:
     void refresh();
     void request(const std::optional<YearQuarter>& quarter);
 
-    const ViewSettings& m_viewSettings;
     const Clock& m_clock;
     YearQuarter m_quarter;
     QList<std::shared_ptr<Month>> m_months;
@@ -41,5 +38,4 @@ private:
     QLabel* m_title;
     QLabel* m_workdays;
     ProgressWidgetView* m_tracker;
-    QPropertyNotifier m_follower;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Switch.h"
 
+#include "Follow.h"
 #include "Fonts.h"
 #include "Theme.h"
 
@@ -79,4 +80,11 @@ void Switch::paintTrack(QPainter& painter, const QRectF& track) const
     painter.drawEllipse(QRectF(left, track.top() + knobInset, diameter, diameter));
 
     m_focusVisible.drawRing(painter, *this, track.adjusted(-2.5, -2.5, 2.5, 2.5), radius + 2.5);
+}
+
+void bindSwitch(Switch* toggle, QProperty<bool>& field)
+{
+    follow(field, toggle, [toggle, &field] { toggle->setChecked(field); });
+    // Not clicked(), which assistive technology does not emit.
+    QObject::connect(toggle, &QAbstractButton::toggled, toggle, [&field](bool on) { field = on; });
 }

@@ -4,6 +4,7 @@
 #include "FocusVisible.h"
 
 #include <QCheckBox>
+#include <QProperty>
 
 /// A check box drawn as a switch: its text leads, and the switch stands at the far end.
 class Switch : public QCheckBox {
@@ -26,3 +27,6 @@ private:
 
     FocusVisible m_focusVisible;
 };
+
+/// Makes a switch show a field, and set it when it is toggled.
+void bindSwitch(Switch* toggle, QProperty<bool>& field);

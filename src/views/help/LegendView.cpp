@@ -2,7 +2,6 @@
 #include "LegendView.h"
 
 #include "Day.h"
-#include "Follow.h"
 #include "KeyCap.h"
 #include "Labels.h"
 #include "StateGestures.h"

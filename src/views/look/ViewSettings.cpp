@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ViewSettings.h"
 
+#include "Follow.h"
+
 using namespace Qt::StringLiterals;
 
 ViewSettings::ViewSettings(QSettings& settings)
@@ -17,5 +19,5 @@ ViewSettings::ViewSettings(QSettings& settings)
 template <class Value> void ViewSettings::persist(QProperty<Value>& field, const QString& key)
 {
     field = m_settings.value(key, field.value()).template value<Value>();
-    m_followers.push_back(field.addNotifier([this, &field, key] { m_settings.setValue(key, field.value()); }));
+    onChange(field, this, [this, &field, key] { m_settings.setValue(key, field.value()); });
 }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QObject>
 #include <QProperty>
 #include <QSettings>
 
-#include <vector>
-
 /// What the person has switched on in the calendar views. Each field reads its stored key at the start and stores every
 /// change at once.
-class ViewSettings {
+class ViewSettings : public QObject {
 public:
     explicit ViewSettings(QSettings& settings);
 
@@ -28,5 +27,4 @@ private:
     template <class Value> void persist(QProperty<Value>& field, const QString& key);
 
     QSettings& m_settings;
-    std::vector<QPropertyNotifier> m_followers;
 };

@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "AttendanceStatistics.h"
+#include "Follow.h"
 #include "Fonts.h"
 #include "MarkedTextLabel.h"
 #include "Month.h"
@@ -53,7 +54,7 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
     column->addLayout(words);
     column->addWidget(m_bar);
     setFixedWidth(columnWidth + 2 * wordsInset);
-    m_follower = m_shown.addNotifier([this] { refresh(); });
+    onChange(m_shown, this, [this] { refresh(); });
 }
 
 void ProgressWidgetView::setMonths(const QList<std::shared_ptr<Month>>& months)

@@ -47,5 +47,4 @@ private:
     MarkedProgressBar* m_bar;
     /// Bound to everything that current() reads.
     QProperty<Shown> m_shown;
-    QPropertyNotifier m_follower;
 };

@@ -3,7 +3,6 @@
 
 #include "AppSettings.h"
 #include "Button.h"
-#include "Follow.h"
 #include "Labels.h"
 #include "LaunchAtLogin.h"
 #include "Switch.h"

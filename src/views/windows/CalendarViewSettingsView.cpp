@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarViewSettingsView.h"
 
-#include "Follow.h"
 #include "Switch.h"
 #include "ViewSettings.h"
 
