@@ -2,10 +2,10 @@
 #include "MonthCard.h"
 
 #include "CalendarView.h"
-#include "Centred.h"
 #include "Follow.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
+#include "Rows.h"
 #include "ViewSettings.h"
 
 #include <QVBoxLayout>

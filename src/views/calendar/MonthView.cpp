@@ -2,7 +2,6 @@
 #include "MonthView.h"
 
 #include "CalendarView.h"
-#include "Centred.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "Month.h"
@@ -10,6 +9,7 @@
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
 #include "QuarterMonths.h"
+#include "Rows.h"
 #include "StoreError.h"
 #include "ViewSettings.h"
 

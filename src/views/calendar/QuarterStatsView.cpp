@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QuarterStatsView.h"
 
-#include "Centred.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "Fonts.h"
 #include "Month.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
+#include "Rows.h"
 #include "ViewSettings.h"
 
 #include <QLabel>

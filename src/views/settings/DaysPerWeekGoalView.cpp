@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DaysPerWeekGoalView.h"
 
-#include "EntryRow.h"
 #include "Follow.h"
 #include "IconButton.h"
 #include "Labels.h"
+#include "Rows.h"
 #include "TextField.h"
 
 #include <QGridLayout>
