@@ -13,7 +13,6 @@
 #include "StoreError.h"
 #include "ViewSettings.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -21,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 MonthView::MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                      const Clock& clock, QWidget* parent)
-    : QWidget(parent)
+    : CalendarPage(parent)
     , m_context(context)
     , m_viewSettings(viewSettings)
     , m_quarter(new Card)
@@ -31,8 +30,8 @@ MonthView::MonthView(ModelContext& context, const AppSettings& settings, const V
     , m_error(new QLabel(tr("Error loading month!")))
 {
     build();
-    connect(m_navigation, &NavigationRow::previousRequested, this, [this] { turnTo(m_period.previous()); });
-    connect(m_navigation, &NavigationRow::nextRequested, this, [this] { turnTo(m_period.next()); });
+    connect(m_navigation, &NavigationRow::previousRequested, this, &MonthView::previous);
+    connect(m_navigation, &NavigationRow::nextRequested, this, &MonthView::next);
     connect(&m_month->calendar(), &CalendarView::dayRequested, this, &MonthView::showDay);
     onChange(viewSettings.showQuarterStats, this, [this] { refresh(); });
     const QDate today = clock.today();
@@ -83,16 +82,14 @@ void MonthView::showDay(QDate date)
     m_month->calendar().focusDay(date.day());
 }
 
-void MonthView::keyPressEvent(QKeyEvent* event)
+void MonthView::previous()
 {
-    switch (event->key()) {
-    case Qt::Key_PageUp:
-        return turnTo(m_period.previous());
-    case Qt::Key_PageDown:
-        return turnTo(m_period.next());
-    default:
-        QWidget::keyPressEvent(event);
-    }
+    turnTo(m_period.previous());
+}
+
+void MonthView::next()
+{
+    turnTo(m_period.next());
 }
 
 void MonthView::refresh()

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarPage.h"
 #include "Period.h"
-
-#include <QWidget>
 
 class AppSettings;
 class Card;
@@ -12,12 +11,11 @@ class ModelContext;
 class MonthCard;
 class NavigationRow;
 class ProgressWidgetView;
-class QDate;
 class QLabel;
 class ViewSettings;
 
 /// One month and how its quarter stands. Starts at today.
-class MonthView : public QWidget {
+class MonthView : public CalendarPage {
     Q_OBJECT
 
 public:
@@ -25,12 +23,10 @@ public:
               QWidget* parent = nullptr);
 
     void showMonth(const YearMonth& period);
-    /// Gives a day the focus. One outside the calendar is passed over.
-    void showDay(QDate date);
+    void previous() override;
+    void next() override;
+    void showDay(QDate date) override;
     [[nodiscard]] YearMonth period() const { return m_period; }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void build();

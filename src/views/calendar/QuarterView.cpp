@@ -8,7 +8,6 @@
 #include "QuarterStatsView.h"
 #include "StoreError.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -26,7 +25,7 @@ constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
 
 QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                          const Clock& clock, QWidget* parent)
-    : QWidget(parent)
+    : CalendarPage(parent)
     , m_context(context)
     , m_stats(new QuarterStatsView(settings, viewSettings, clock, true))
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
@@ -85,16 +84,14 @@ void QuarterView::showDay(QDate date)
     m_months.at(static_cast<std::size_t>((date.month() - 1) % 3))->calendar().focusDay(date.day());
 }
 
-void QuarterView::keyPressEvent(QKeyEvent* event)
+void QuarterView::previous()
 {
-    switch (event->key()) {
-    case Qt::Key_PageUp:
-        return turnTo(m_quarter.previous());
-    case Qt::Key_PageDown:
-        return turnTo(m_quarter.next());
-    default:
-        QWidget::keyPressEvent(event);
-    }
+    turnTo(m_quarter.previous());
+}
+
+void QuarterView::next()
+{
+    turnTo(m_quarter.next());
 }
 
 void QuarterView::resizeEvent(QResizeEvent* event)

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarPage.h"
 #include "Period.h"
-
-#include <QWidget>
 
 #include <array>
 
@@ -12,13 +11,12 @@ class Clock;
 class ModelContext;
 class MonthCard;
 class QBoxLayout;
-class QDate;
 class QLabel;
 class QuarterStatsView;
 class ViewSettings;
 
 /// The three months of a quarter and how it stands. Starts at today. Months stand side by side where there is room.
-class QuarterView : public QWidget {
+class QuarterView : public CalendarPage {
     Q_OBJECT
 
 public:
@@ -26,15 +24,15 @@ public:
                 const Clock& clock, QWidget* parent = nullptr);
 
     void showQuarter(const YearQuarter& quarter);
-    /// Gives a day the focus. One outside the calendar is passed over.
-    void showDay(QDate date);
+    void previous() override;
+    void next() override;
+    void showDay(QDate date) override;
     [[nodiscard]] YearQuarter quarter() const { return m_quarter; }
 
     /// As narrow as one month, also while three stand side by side: else they would never go back below each other.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

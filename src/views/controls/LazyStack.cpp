@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LazyStack.h"
+
+LazyStack::LazyStack(std::vector<PageBuilder> builders, QWidget* parent)
+    : QStackedWidget(parent)
+    , m_builders(std::move(builders))
+    , m_pages(m_builders.size())
+{
+}
+
+void LazyStack::showPage(int index)
+{
+    const auto place = static_cast<std::size_t>(index);
+    QWidget*& page = m_pages.at(place);
+    if (page == nullptr) {
+        page = m_builders.at(place)();
+        addWidget(page);
+    }
+    setCurrentWidget(page);
+}
+
+void LazyStack::discardPage(int index)
+{
+    delete std::exchange(m_pages.at(static_cast<std::size_t>(index)), nullptr);
+}
