@@ -413,6 +413,25 @@
     </message>
 </context>
 <context>
+    <name>LocationStatus</name>
+    <message>
+        <source>Grant Location Permission</source>
+        <translation>Standortberechtigung erteilen</translation>
+    </message>
+    <message>
+        <source>Open System Settings</source>
+        <translation>Systemeinstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Location access: allowed. Pellory can see the names of networks.</source>
+        <translation>Standortzugriff: erlaubt. Pellory kann die Namen von Netzwerken sehen.</translation>
+    </message>
+    <message>
+        <source>Location access: missing. Pellory cannot scan for networks.</source>
+        <translation>Standortzugriff: fehlt. Pellory kann nicht nach Netzwerken suchen.</translation>
+    </message>
+</context>
+<context>
     <name>MarkedProgressBar</name>
     <message>
         <source>%1: reached</source>
@@ -829,23 +848,7 @@
     </message>
 </context>
 <context>
-    <name>WelcomeView</name>
-    <message>
-        <source>Grant Location Permission</source>
-        <translation>Standortberechtigung erteilen</translation>
-    </message>
-    <message>
-        <source>Open System Settings</source>
-        <translation>Systemeinstellungen öffnen</translation>
-    </message>
-    <message>
-        <source>Location access: allowed. Pellory can see the names of networks.</source>
-        <translation>Standortzugriff: erlaubt. Pellory kann die Namen von Netzwerken sehen.</translation>
-    </message>
-    <message>
-        <source>Location access: missing. Pellory cannot scan for networks.</source>
-        <translation>Standortzugriff: fehlt. Pellory kann nicht nach Netzwerken suchen.</translation>
-    </message>
+    <name>WelcomeSteps</name>
     <message>
         <source>Welcome to Pellory</source>
         <translation>Willkommen bei Pellory</translation>
@@ -921,6 +924,13 @@
     <message>
         <source>Pellory does not start at login</source>
         <translation>Pellory startet nicht bei der Anmeldung</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeView</name>
+    <message>
+        <source>Welcome to Pellory</source>
+        <translation>Willkommen bei Pellory</translation>
     </message>
     <message>
         <source>Skip</source>

@@ -64,7 +64,7 @@ bool Background::isTracking() const
 
 void Background::showTrayIcon()
 {
-    m_trayIcon = std::make_unique<TrayIcon>(m_parts);
+    m_trayIcon = std::make_unique<TrayIcon>(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
     connect(m_trayIcon.get(), &TrayIcon::openRequested, &m_windows, [this] { m_windows.openMain(); });
     connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, &Background::runCheck);
     connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::quitRequested);

@@ -120,7 +120,7 @@ void DaysPerWeekGoalView::bind(const Row& row)
 {
     const auto& [goal, days, description, remove] = row;
     follow(goal->wantedDaysPerWeek, days, [row] {
-        // A field that is being edited keeps what stands in it.
+        // Not under the fingers of a person who is typing.
         if (!row.daysPerWeek->hasFocus())
             row.daysPerWeek->setText(row.goal->wantedDaysPerWeek);
         row.remove->setHelp(tr("Remove the goal %1").arg(row.goal->wantedDaysPerWeek));
@@ -132,7 +132,7 @@ void DaysPerWeekGoalView::bind(const Row& row)
     });
     connect(days, &QLineEdit::textEdited, this,
             [this](const QString& text) { m_daysPerWeekGoalChangeError->setVisible(!Goal::acceptedText(text)); });
-    // Not before: on the way to a number that is refused there may be one that is not.
+    // Not while typing: "75" begins with a number that would be accepted.
     connect(days, &QLineEdit::editingFinished, days, [row] {
         const auto accepted = Goal::acceptedText(row.daysPerWeek->text());
         if (accepted && row.daysPerWeek->isModified())
@@ -150,7 +150,7 @@ void DaysPerWeekGoalView::remove(const Goal& goal)
     const bool hadFocus = std::ranges::any_of(row->controls(), &QWidget::hasFocus);
     m_settings.removeGoal(goal);
     m_daysPerWeekGoalChangeError->hide();
-    // Whoever works with the keyboard can go on from there.
+    // For people who use the keyboard.
     if (hadFocus && m_rows.isEmpty())
         m_stringValue->setFocus(Qt::TabFocusReason);
     else if (hadFocus)

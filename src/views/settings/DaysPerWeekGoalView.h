@@ -12,7 +12,7 @@ class QGridLayout;
 class QLabel;
 class QLineEdit;
 
-/// The editor of the goals. It writes straight into the settings.
+/// The editor of the goals. Each change is stored at once.
 class DaysPerWeekGoalView : public QWidget {
     Q_OBJECT
 

@@ -3,19 +3,16 @@
 
 #include <QWidget>
 
-class QVBoxLayout;
-struct ViewParts;
+class AppSettings;
+class LaunchAtLogin;
 
-/// The general settings. Inside the first-run flow there is no button that starts that flow.
+/// The general settings. In the first run they lack the button that starts the first run again.
 class GeneralSettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    GeneralSettingsView(const ViewParts& parts, bool welcome, QWidget* parent = nullptr);
+    GeneralSettingsView(AppSettings& settings, LaunchAtLogin& launchAtLogin, bool welcome, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void welcomeRequested();
-
-private:
-    void addLaunchAtLogin(QVBoxLayout& column, const ViewParts& parts);
 };

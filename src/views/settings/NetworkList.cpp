@@ -11,7 +11,7 @@
 
 namespace {
 
-// One line, however long the name is; a pointer that rests on it is shown the whole of it.
+// Elides a long name, and shows all of it in the tool tip.
 class NameLabel : public QLabel {
 public:
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
@@ -45,7 +45,7 @@ void NetworkList::setNetworks(const QStringList& networks, const QString& emptyT
     m_networks = networks;
     m_empty->setText(emptyText);
     m_empty->setVisible(networks.isEmpty());
-    // Rows stay where they are, and with them the focus: whoever removes one network can go on with the next.
+    // Rows are reused, and so keep the focus: after one network is removed the next can be.
     while (m_rows.size() < networks.size())
         m_rows.append(makeRow());
     while (m_rows.size() > networks.size()) {
@@ -64,7 +64,7 @@ void NetworkList::setNetworks(const QStringList& networks, const QString& emptyT
 
 void NetworkList::leave(QWidget* button, QWidget* next)
 {
-    // Left to the toolkit the focus would go on to a button that does something else.
+    // Left alone, the focus would move on to a button that does something else.
     if (window()->focusWidget() == button)
         (next != nullptr ? next : this)->setFocus(Qt::TabFocusReason);
 }
@@ -83,7 +83,7 @@ NetworkList::Row NetworkList::makeRow()
     line->addWidget(row.button);
     m_column->addWidget(row.whole);
     connect(row.button, &QAbstractButton::clicked, this, [this, place = m_rows.size()] {
-        // A copy, for whoever hears of it may change the list.
+        // A copy, because a receiver may change the list.
         const QString ssid = m_networks.at(place);
         Q_EMIT chosen(ssid);
     });

@@ -12,12 +12,12 @@ class IconButton;
 class QLabel;
 class QVBoxLayout;
 
-/// Names of networks below each other, each with a button that does something with it.
+/// A column of networks, each with a button.
 class NetworkList : public QWidget {
     Q_OBJECT
 
 public:
-    /// What the button of a network shows and says. A button without `isEnabled` only shows.
+    /// The button of a network; `%1` in its help stands for the network's name.
     struct Choice {
         Symbol symbol;
         QString help;
@@ -27,7 +27,7 @@ public:
 
     explicit NetworkList(ChoiceOf choiceOf, QWidget* parent = nullptr);
 
-    /// Shows the networks in this order; where there is none, the text.
+    /// Shows the networks in this order, or the text if there are none.
     void setNetworks(const QStringList& networks, const QString& emptyText);
 
 Q_SIGNALS:
@@ -42,7 +42,7 @@ private:
 
     [[nodiscard]] Row makeRow();
     void showNetwork(const Row& row, const QString& ssid);
-    /// Hands the focus on where a button that has it is to go; without another one the list itself takes it.
+    /// Passes the focus on from a button that is about to go; without a next one the list itself takes it.
     void leave(QWidget* button, QWidget* next);
 
     ChoiceOf m_choiceOf;

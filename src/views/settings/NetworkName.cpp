@@ -4,11 +4,11 @@
 namespace {
 
 constexpr char16_t visibleBlank = u'\u2423';
-constexpr char16_t unknownSign = u'\ufffd';
+constexpr char16_t invisibleSign = u'\ufffd';
 constexpr char16_t isolate = u'\u2068';
 constexpr char16_t endOfIsolate = u'\u2069';
 
-bool isSeen(QChar character)
+bool isVisible(QChar character)
 {
     switch (character.category()) {
     case QChar::Other_Control:
@@ -32,7 +32,7 @@ QString displayName(const QString& ssid)
         if (isAtAnEnd && ssid.at(i).isSpace())
             name += QChar(visibleBlank);
         else
-            name += isSeen(ssid.at(i)) ? ssid.at(i) : QChar(unknownSign);
+            name += isVisible(ssid.at(i)) ? ssid.at(i) : QChar(invisibleSign);
     }
     return QChar(isolate) + name + QChar(endOfIsolate);
 }

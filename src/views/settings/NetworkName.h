@@ -3,6 +3,6 @@
 
 #include <QString>
 
-/// The name of a network as it can be shown, whatever bytes it is made of: what cannot be seen has a visible sign, and
-/// no name changes the direction of the text around it. For the screen alone: two names may look the same.
+/// Makes any name of a network safe to show: invisible characters get a visible sign, and the name does not change the
+/// direction of the text around it. For display only: two names may look the same.
 [[nodiscard]] QString displayName(const QString& ssid);

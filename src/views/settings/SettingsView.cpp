@@ -6,78 +6,70 @@
 #include "Follow.h"
 #include "GeneralSettingsView.h"
 #include "Labels.h"
+#include "LazyStack.h"
 #include "LocationManager.h"
 #include "Page.h"
 #include "SegmentedTabs.h"
 #include "SsidSettingsView.h"
-#include "ViewParts.h"
 
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-SettingsView::SettingsView(const ViewParts& parts, QWidget* parent)
+SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
+                           InOfficeCheck& check, LaunchAtLogin& launchAtLogin, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
-    , m_tabs(new SegmentedTabs)
-    , m_location(labels::text({}))
-    , m_pages(new QStackedWidget)
 {
-    m_tabs->setObjectName("tabs"_L1);
-    m_tabs->setAccessibleName(tr("Settings page"));
-    m_tabs->addTab(tr("Goals"));
-    m_tabs->addTab(tr("Office Networks"));
-    m_tabs->addTab(tr("General"));
-    auto* header = new Bar(Qt::BottomEdge);
-    auto* row = new QHBoxLayout(header);
-    row->setContentsMargins(24, 8, 24, 9);
-    row->addWidget(m_tabs, 0, Qt::AlignCenter);
+    auto* pages = new LazyStack({
+        [&settings] { return makeCardPage(new DaysPerWeekGoalView(settings, true)); },
+        [&settings, &wifiClient, &locationManager, &check] {
+            return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
+        },
+        [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
+    });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
-    column->addWidget(header);
-    column->addWidget(m_location);
-    column->addWidget(m_pages);
-    addLocationLine();
-    connect(m_tabs, &QTabBar::currentChanged, this, &SettingsView::showPage);
-    showPage(0);
+    column->addWidget(makeHeader(pages));
+    addLocationLine(*column, locationManager);
+    column->addWidget(pages);
+    pages->showPage(0);
 }
 
-void SettingsView::addLocationLine()
+QWidget* SettingsView::makeHeader(LazyStack* pages)
 {
-    m_location->setObjectName("location"_L1);
-    m_location->setContentsMargins(24, 16, 24, 0);
-    m_location->setTextFormat(Qt::RichText);
-    m_location->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    m_location->setText(tr("Please enable location access in %1")
-                            .arg(u"<a href=\"settings\">%1</a>"_s.arg(tr("Location Settings").toHtmlEscaped())));
-    LocationManager& manager = m_parts.locationManager.defaultValue();
-    connect(m_location, &QLabel::linkActivated, &manager, &LocationManager::openLocationSettings);
-    follow(manager.locationPermissionStatus, m_location,
-           [this, &manager] { m_location->setVisible(!isAccessGranted(manager.locationPermissionStatus)); });
+    auto* tabs = new SegmentedTabs;
+    tabs->setObjectName("tabs"_L1);
+    tabs->setAccessibleName(tr("Settings page"));
+    tabs->addTab(tr("Goals"));
+    tabs->addTab(tr("Office Networks"));
+    tabs->addTab(tr("General"));
+    connect(tabs, &QTabBar::currentChanged, pages, &LazyStack::showPage);
+    auto* header = new Bar(Qt::BottomEdge);
+    auto* row = new QHBoxLayout(header);
+    row->setContentsMargins(24, 8, 24, 9);
+    row->addWidget(tabs, 0, Qt::AlignCenter);
+    return header;
 }
 
-void SettingsView::showPage(int index)
+void SettingsView::addLocationLine(QVBoxLayout& column, LocationManager& manager)
 {
-    QWidget*& page = m_built.at(static_cast<std::size_t>(index));
-    if (page == nullptr) {
-        page = makePage(index);
-        m_pages->addWidget(page);
-    }
-    m_pages->setCurrentWidget(page);
+    auto* line = labels::text({});
+    line->setObjectName("location"_L1);
+    line->setContentsMargins(24, 16, 24, 0);
+    line->setTextFormat(Qt::RichText);
+    line->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    line->setText(tr("Please enable location access in %1")
+                      .arg(u"<a href=\"settings\">%1</a>"_s.arg(tr("Location Settings").toHtmlEscaped())));
+    column.addWidget(line);
+    connect(line, &QLabel::linkActivated, &manager, &LocationManager::openLocationSettings);
+    follow(manager.locationPermissionStatus, line,
+           [line, &manager] { line->setVisible(!isAccessGranted(manager.locationPermissionStatus)); });
 }
 
-QWidget* SettingsView::makePage(int index)
+QWidget* SettingsView::makeGeneralPage(AppSettings& settings, LaunchAtLogin& launchAtLogin)
 {
-    switch (index) {
-    case 0:
-        return makeCardPage(new DaysPerWeekGoalView(m_parts.settings, true));
-    case 1:
-        return makeCardPage(new SsidSettingsView(m_parts, true));
-    default:
-        auto* general = new GeneralSettingsView(m_parts, false);
-        connect(general, &GeneralSettingsView::welcomeRequested, this, &SettingsView::welcomeRequested);
-        return makeCardPage(general);
-    }
+    auto* general = new GeneralSettingsView(settings, launchAtLogin, false);
+    connect(general, &GeneralSettingsView::welcomeRequested, this, &SettingsView::welcomeRequested);
+    return makeCardPage(general);
 }

@@ -3,31 +3,27 @@
 
 #include <QWidget>
 
-#include <array>
+class AppSettings;
+class InOfficeCheck;
+class LaunchAtLogin;
+class LazyStack;
+class LocationManager;
+class QVBoxLayout;
+class WiFiClient;
 
-class QLabel;
-class QStackedWidget;
-class QTabBar;
-struct ViewParts;
-
-/// The settings: three pages, each built when it is first shown.
+/// The settings, on three pages.
 class SettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SettingsView(const ViewParts& parts, QWidget* parent = nullptr);
+    SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager, InOfficeCheck& check,
+                 LaunchAtLogin& launchAtLogin, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void welcomeRequested();
 
 private:
-    void addLocationLine();
-    void showPage(int index);
-    [[nodiscard]] QWidget* makePage(int index);
-
-    const ViewParts& m_parts;
-    QTabBar* m_tabs;
-    QLabel* m_location;
-    QStackedWidget* m_pages;
-    std::array<QWidget*, 3> m_built{};
+    [[nodiscard]] QWidget* makeHeader(LazyStack* pages);
+    void addLocationLine(QVBoxLayout& column, LocationManager& manager);
+    [[nodiscard]] QWidget* makeGeneralPage(AppSettings& settings, LaunchAtLogin& launchAtLogin);
 };

@@ -12,7 +12,6 @@
 #include "Rows.h"
 #include "Switch.h"
 #include "TextField.h"
-#include "ViewParts.h"
 #include "WiFiClient.h"
 #include "WiFiMonitor.h"
 
@@ -51,18 +50,22 @@ QStringList sortedNames(const QList<WiFiNetwork>& networks)
 
 } // namespace
 
-SsidSettingsView::SsidSettingsView(const ViewParts& parts, bool headerEnabled, QWidget* parent)
+SsidSettingsView::SsidSettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
+                                   InOfficeCheck& check, bool headerEnabled, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
-    , m_wifiMonitor(std::make_unique<WiFiMonitor>(parts.wifiClient))
+    , m_settings(settings)
+    , m_wifiClient(wifiClient)
+    , m_locationManager(locationManager)
+    , m_check(check)
+    , m_wifiMonitor(std::make_unique<WiFiMonitor>(wifiClient))
     , m_wifiWarning(labels::strong(tr("Wi-Fi tracking is enabled, but Wi-Fi is turned off.")))
     , m_wifiAdvice(labels::strong(tr("Turn on Wi-Fi in MacOS to allow tracking.")))
     , m_locationWarning(labels::strong(tr("Wi-Fi tracking is enabled, but location tracking is turned off.")))
     , m_selected(new NetworkList([](const QString&) -> NetworkList::Choice {
         return {Symbol::Cross, tr("Remove %1", "network")};
     }))
-    , m_inRange(new NetworkList([&parts](const QString& ssid) -> NetworkList::Choice {
-        if (parts.settings.inOfficeSsids.value().contains(ssid))
+    , m_inRange(new NetworkList([&settings](const QString& ssid) -> NetworkList::Choice {
+        if (settings.inOfficeSsids.value().contains(ssid))
             return {Symbol::Check, tr("%1 is an office network"), false};
         return {Symbol::Plus, tr("Add %1", "network")};
     }))
@@ -78,10 +81,10 @@ SsidSettingsView::SsidSettingsView(const ViewParts& parts, bool headerEnabled, Q
     addNetworksInRange(*column);
 
     const auto show = [this] { refresh(); };
-    follow(parts.settings.wifiTrackingEnabled, this, show);
-    follow(parts.settings.inOfficeSsids, this, show);
+    follow(settings.wifiTrackingEnabled, this, show);
+    follow(settings.inOfficeSsids, this, show);
     follow(m_wifiMonitor->isWiFiEnabled, m_wifiMonitor.get(), show);
-    follow(parts.locationManager.defaultValue().locationPermissionStatus, this, show);
+    follow(locationManager.locationPermissionStatus, this, show);
 }
 
 SsidSettingsView::~SsidSettingsView() = default;
@@ -91,7 +94,7 @@ void SsidSettingsView::addTracking(QVBoxLayout& column, bool headerEnabled)
     if (headerEnabled)
         column.addWidget(labels::heading(tr("Automatic In Office Tracking")));
     auto* tracking = new Switch(tr("Enable Automatic Tracking"));
-    bindSwitch(tracking, m_parts.settings.wifiTrackingEnabled);
+    bindSwitch(tracking, m_settings.wifiTrackingEnabled);
     column.addWidget(tracking);
     for (QLabel* warning : {m_wifiWarning, m_wifiAdvice, m_locationWarning}) {
         warning->setForegroundRole(QPalette::BrightText);
@@ -101,7 +104,7 @@ void SsidSettingsView::addTracking(QVBoxLayout& column, bool headerEnabled)
 
 void SsidSettingsView::addInterval(QVBoxLayout& column)
 {
-    auto& minutes = m_parts.settings.checkEveryInMinutes;
+    auto& minutes = m_settings.checkEveryInMinutes;
     auto* field = new TextField(tr("Check Every (mins)"));
     field->setObjectName("checkEveryInMinutes"_L1);
     field->setFixedWidth(intervalWidth);
@@ -136,7 +139,7 @@ void SsidSettingsView::addSelectedNetworks(QVBoxLayout& column)
     column.addSpacing(8);
     column.addLayout(headingRow(tr("In-Office Networks"), check));
     column.addWidget(m_selected);
-    connect(check, &QAbstractButton::clicked, this, [this] { m_parts.check.checkNow(true); });
+    connect(check, &QAbstractButton::clicked, this, [this] { m_check.checkNow(true); });
     connect(m_selected, &NetworkList::chosen, this, &SsidSettingsView::remove);
 }
 
@@ -161,19 +164,19 @@ void SsidSettingsView::addNetworksInRange(QVBoxLayout& column)
     column.addWidget(labels::dim(tr("These networks are currently in range of your device.")));
     column.addWidget(m_inRange);
     connect(m_scan, &QAbstractButton::clicked, this, &SsidSettingsView::scan);
-    // Only a name that is not in the list yet has a button that can be pressed.
+    // The button of a network that is in the list already is disabled.
     connect(m_inRange, &NetworkList::chosen, this, &SsidSettingsView::append);
 }
 
 void SsidSettingsView::refresh()
 {
-    const bool isTracking = m_parts.settings.wifiTrackingEnabled;
+    const bool isTracking = m_settings.wifiTrackingEnabled;
     const bool isOff = isTracking && !m_wifiMonitor->isWiFiEnabled;
-    const bool isGranted = isAccessGranted(m_parts.locationManager.defaultValue().locationPermissionStatus);
+    const bool isGranted = isAccessGranted(m_locationManager.locationPermissionStatus);
     m_wifiWarning->setVisible(isOff);
     m_wifiAdvice->setVisible(isOff);
     m_locationWarning->setVisible(isTracking && !isGranted);
-    m_selected->setNetworks(m_parts.settings.inOfficeSsids, tr("No networks selected"));
+    m_selected->setNetworks(m_settings.inOfficeSsids, tr("No networks selected"));
     m_inRange->setNetworks(m_isScanning ? QStringList() : m_wifiNetworks, emptyListText());
     m_scan->setText(m_isScanning ? tr("Scanning...") : tr("Scan"));
     enableScan(!m_isScanning && isGranted);
@@ -181,7 +184,7 @@ void SsidSettingsView::refresh()
 
 void SsidSettingsView::enableScan(bool isEnabled)
 {
-    // Meanwhile the focus stays here: it would go on to a button that does something else.
+    // Left alone, the focus would move on to a button that does something else.
     if (!isEnabled && window()->focusWidget() == m_scan)
         setFocus(Qt::OtherFocusReason);
     m_scan->setEnabled(isEnabled);
@@ -206,14 +209,14 @@ void SsidSettingsView::showEvent(QShowEvent* event)
 
 void SsidSettingsView::append(const QString& ssid)
 {
-    m_parts.settings.inOfficeSsids = m_parts.settings.inOfficeSsids.value() + QStringList(ssid);
+    m_settings.inOfficeSsids = m_settings.inOfficeSsids.value() + QStringList(ssid);
 }
 
 void SsidSettingsView::remove(const QString& ssid)
 {
-    QStringList networks = m_parts.settings.inOfficeSsids;
+    QStringList networks = m_settings.inOfficeSsids;
     networks.removeAll(ssid);
-    m_parts.settings.inOfficeSsids = networks;
+    m_settings.inOfficeSsids = networks;
 }
 
 QCoro::Task<> SsidSettingsView::scan()
@@ -223,13 +226,13 @@ QCoro::Task<> SsidSettingsView::scan()
     refresh();
     QStringList names;
     try {
-        const auto interface = co_await m_parts.wifiClient.defaultInterface();
+        const auto interface = co_await m_wifiClient.defaultInterface();
         if (interface && self) {
-            const auto networks = co_await m_parts.wifiClient.scanForNetworks(interface->name);
+            const auto networks = co_await m_wifiClient.scanForNetworks(interface->name);
             names = sortedNames(networks);
         }
     } catch (const std::exception&) {
-        // A scan that fails is a list without networks.
+        // A failed scan is shown as an empty list.
     }
     if (!self)
         co_return;

@@ -8,20 +8,24 @@
 
 #include <memory>
 
+class AppSettings;
 class Button;
+class InOfficeCheck;
+class LocationManager;
 class NetworkList;
 class QLabel;
 class QVBoxLayout;
+class WiFiClient;
 class WiFiMonitor;
-struct ViewParts;
 
-/// The settings of the automatic tracking: the office networks, from a scan or by name, and how often to check. Every
-/// change goes straight into the settings.
+/// The settings of the automatic tracking: the office networks, from a scan or by name, and how often to check. Each
+/// change is stored at once.
 class SsidSettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    SsidSettingsView(const ViewParts& parts, bool headerEnabled, QWidget* parent = nullptr);
+    SsidSettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
+                     InOfficeCheck& check, bool headerEnabled, QWidget* parent = nullptr);
     ~SsidSettingsView() override;
 
 protected:
@@ -37,12 +41,15 @@ private:
     void enableScan(bool isEnabled);
     [[nodiscard]] QString emptyListText() const;
 
-    /// Adds a name exactly as it is, be it empty or in the list already.
+    /// Adds a name exactly as it is, even if it is empty or in the list already.
     void append(const QString& ssid);
     void remove(const QString& ssid);
     QCoro::Task<> scan();
 
-    const ViewParts& m_parts;
+    AppSettings& m_settings;
+    WiFiClient& m_wifiClient;
+    LocationManager& m_locationManager;
+    InOfficeCheck& m_check;
     std::unique_ptr<WiFiMonitor> m_wifiMonitor;
     QStringList m_wifiNetworks;
     bool m_isScanning = false;

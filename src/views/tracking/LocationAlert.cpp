@@ -8,16 +8,15 @@
 #include "Labels.h"
 #include "LocationManager.h"
 #include "TrackingStatus.h"
-#include "ViewParts.h"
 
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-LocationAlert::LocationAlert(const ViewParts& parts, TrackingStatus& status, QWidget* parent)
+LocationAlert::LocationAlert(TrackingStatus& status, AppSettings& settings, LocationManager& manager, QWidget* parent)
     : QWidget(parent)
-    , m_parts(parts)
     , m_status(status)
+    , m_manager(manager)
     , m_access(new Button({}))
 {
     m_access->setObjectName("giveAccess"_L1);
@@ -40,8 +39,8 @@ LocationAlert::LocationAlert(const ViewParts& parts, TrackingStatus& status, QWi
     buttons->add(m_access);
     column->addSpacing(4);
     column->addWidget(buttons);
-    connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::giveAccess);
-    connect(disable, &QAbstractButton::clicked, this, [&parts] { parts.settings.wifiTrackingEnabled = false; });
+    connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::requestAccess);
+    connect(disable, &QAbstractButton::clicked, this, [&settings] { settings.wifiTrackingEnabled = false; });
     connect(&status, &TrackingStatus::changed, this, &LocationAlert::refresh);
     refresh();
 }
@@ -53,11 +52,10 @@ void LocationAlert::refresh()
     setVisible(m_status.isTracking() && !isAccessGranted(m_status.permission()));
 }
 
-void LocationAlert::giveAccess()
+void LocationAlert::requestAccess()
 {
-    LocationManager& manager = m_parts.locationManager.defaultValue();
     if (m_status.permission() == AuthorizationStatus::notDetermined)
-        manager.locationManager().requestAlwaysAuthorization();
+        m_manager.locationManager().requestAlwaysAuthorization();
     else
-        manager.openLocationSettings();
+        m_manager.openLocationSettings();
 }

@@ -3,23 +3,23 @@
 
 #include <QWidget>
 
+class AppSettings;
 class Button;
+class LocationManager;
 class TrackingStatus;
-struct ViewParts;
 
-/// Says that tracking is on but cannot learn the names of networks, and what can be done. It is there for as long as
-/// that is so, and in nobody's way.
+/// A card that is visible while tracking is on without permission to see network names, and offers what can be done.
 class LocationAlert : public QWidget {
     Q_OBJECT
 
 public:
-    LocationAlert(const ViewParts& parts, TrackingStatus& status, QWidget* parent = nullptr);
+    LocationAlert(TrackingStatus& status, AppSettings& settings, LocationManager& manager, QWidget* parent = nullptr);
 
 private:
     void refresh();
-    void giveAccess();
+    void requestAccess();
 
-    const ViewParts& m_parts;
     TrackingStatus& m_status;
+    LocationManager& m_manager;
     Button* m_access;
 };

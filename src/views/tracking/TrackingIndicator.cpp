@@ -2,16 +2,13 @@
 #include "TrackingIndicator.h"
 
 #include "Theme.h"
-#include "TrackingPopover.h"
 #include "TrackingStatus.h"
 
-TrackingIndicator::TrackingIndicator(const ViewParts& parts, TrackingStatus& status, QWidget* parent)
+TrackingIndicator::TrackingIndicator(TrackingStatus& status, QWidget* parent)
     : IconButton(Symbol::Wifi, {}, parent)
     , m_status(status)
 {
     connect(&status, &TrackingStatus::changed, this, &TrackingIndicator::refresh);
-    connect(this, &QAbstractButton::clicked, this,
-            [this, &parts] { (new TrackingPopover(parts, m_status, this))->popUp(); });
     refresh();
 }
 

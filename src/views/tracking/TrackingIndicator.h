@@ -4,14 +4,13 @@
 #include "IconButton.h"
 
 class TrackingStatus;
-struct ViewParts;
 
-/// Shows whether days are being marked automatically, and whether they could be. A click tells more.
+/// Shows in the toolbar whether automatic tracking is on and can work.
 class TrackingIndicator : public IconButton {
     Q_OBJECT
 
 public:
-    TrackingIndicator(const ViewParts& parts, TrackingStatus& status, QWidget* parent = nullptr);
+    explicit TrackingIndicator(TrackingStatus& status, QWidget* parent = nullptr);
 
 protected:
     [[nodiscard]] QColor color() const override;

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingPopover.h"
 
-#include "AppSettings.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "InOfficeCheck.h"
 #include "Labels.h"
 #include "Theme.h"
 #include "TrackingStatus.h"
-#include "ViewParts.h"
 
 #include <QFormLayout>
 #include <QLocale>
@@ -27,10 +25,11 @@ QLabel* addRow(QFormLayout& rows, const QString& name)
 
 } // namespace
 
-TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status, QWidget* anchor)
+TrackingPopover::TrackingPopover(TrackingStatus& status, InOfficeCheck& check, const Clock& clock, QWidget* anchor)
     : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
-    , m_parts(parts)
     , m_status(status)
+    , m_check(check)
+    , m_clock(clock)
     , m_title(labels::singleLine(labels::strong({})))
     , m_rows(new QFormLayout)
     , m_wifi(addRow(*m_rows, tr("Wi-Fi")))
@@ -46,8 +45,8 @@ TrackingPopover::TrackingPopover(const ViewParts& parts, TrackingStatus& status,
     column->addWidget(m_title);
     column->addLayout(m_rows);
     connect(&status, &TrackingStatus::changed, this, &TrackingPopover::refresh);
-    follow(parts.check.lastCheck, this, [this] { refresh(); });
-    follow(parts.check.nextCheck, this, [this] { refresh(); });
+    follow(check.lastCheck, this, [this] { refresh(); });
+    follow(check.nextCheck, this, [this] { refresh(); });
 }
 
 void TrackingPopover::popUp()
@@ -68,10 +67,9 @@ void TrackingPopover::refresh()
     m_title->setText(m_status.text());
     m_wifi->setText(m_status.isWiFiOn() ? tr("On") : tr("Off"));
     m_location->setText(isAccessGranted(m_status.permission()) ? tr("Allowed") : tr("Missing"));
-    m_lastCheck->setText(timeText(m_parts.check.lastCheck));
-    // A check that is due is skipped while tracking is off, and in the first run.
-    const bool isSkipped = !m_status.isTracking() || m_parts.settings.firstTime;
-    m_nextCheck->setText(timeText(isSkipped ? QDateTime() : m_parts.check.nextCheck));
+    m_lastCheck->setText(timeText(m_check.lastCheck));
+    // The timer of the checks runs on while there is nothing to check.
+    m_nextCheck->setText(timeText(m_status.isChecking() ? m_check.nextCheck.value() : QDateTime()));
     setAccessibleName(m_title->text());
     adjustSize();
 }
@@ -80,7 +78,7 @@ QString TrackingPopover::timeText(const QDateTime& time) const
 {
     if (!time.isValid())
         return tr("None", "check");
-    const bool isToday = time.date() == m_parts.clock.today();
+    const bool isToday = time.date() == m_clock.today();
     return isToday ? QLocale().toString(time.time(), QLocale::ShortFormat)
                    : QLocale().toString(time, QLocale::ShortFormat);
 }

@@ -3,18 +3,18 @@
 
 #include <QWidget>
 
+class Clock;
+class InOfficeCheck;
 class QFormLayout;
 class QLabel;
 class TrackingStatus;
-struct ViewParts;
 
-/// A short status of the automatic tracking, in a small window below what it speaks of. It deletes itself when it
-/// closes.
+/// A small window below its anchor with the status of the automatic tracking. It deletes itself when it is closed.
 class TrackingPopover : public QWidget {
     Q_OBJECT
 
 public:
-    TrackingPopover(const ViewParts& parts, TrackingStatus& status, QWidget* anchor);
+    TrackingPopover(TrackingStatus& status, InOfficeCheck& check, const Clock& clock, QWidget* anchor);
 
     void popUp();
 
@@ -25,8 +25,9 @@ private:
     void refresh();
     [[nodiscard]] QString timeText(const QDateTime& time) const;
 
-    const ViewParts& m_parts;
     TrackingStatus& m_status;
+    InOfficeCheck& m_check;
+    const Clock& m_clock;
     QLabel* m_title;
     QFormLayout* m_rows;
     QLabel* m_wifi;

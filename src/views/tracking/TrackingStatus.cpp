@@ -4,14 +4,16 @@
 #include "AppSettings.h"
 #include "Follow.h"
 #include "LocationManager.h"
-#include "ViewParts.h"
 #include "WiFiMonitor.h"
 
-TrackingStatus::TrackingStatus(const ViewParts& parts, QObject* parent)
+TrackingStatus::TrackingStatus(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+                               QObject* parent)
     : QObject(parent)
-    , m_parts(parts)
+    , m_settings(settings)
+    , m_wifiClient(wifiClient)
+    , m_locationManager(locationManager)
 {
-    follow(parts.settings.wifiTrackingEnabled, this, [this] { Q_EMIT changed(); });
+    follow(settings.wifiTrackingEnabled, this, [this] { Q_EMIT changed(); });
 }
 
 TrackingStatus::~TrackingStatus() = default;
@@ -20,15 +22,20 @@ void TrackingStatus::startMonitoring()
 {
     if (m_wifiMonitor)
         return;
-    m_wifiMonitor = std::make_unique<WiFiMonitor>(m_parts.wifiClient);
-    const auto tell = [this] { Q_EMIT changed(); };
-    follow(m_wifiMonitor->isWiFiEnabled, m_wifiMonitor.get(), tell);
-    follow(m_parts.locationManager.defaultValue().locationPermissionStatus, this, tell);
+    m_wifiMonitor = std::make_unique<WiFiMonitor>(m_wifiClient);
+    const auto report = [this] { Q_EMIT changed(); };
+    follow(m_wifiMonitor->isWiFiEnabled, m_wifiMonitor.get(), report);
+    follow(m_locationManager.defaultValue().locationPermissionStatus, this, report);
 }
 
 bool TrackingStatus::isTracking() const
 {
-    return m_parts.settings.wifiTrackingEnabled;
+    return m_settings.wifiTrackingEnabled;
+}
+
+bool TrackingStatus::isChecking() const
+{
+    return isTracking() && !m_settings.firstTime;
 }
 
 bool TrackingStatus::isWiFiOn() const
@@ -40,7 +47,7 @@ AuthorizationStatus TrackingStatus::permission() const
 {
     if (!m_wifiMonitor)
         return AuthorizationStatus::authorizedAlways;
-    return m_parts.locationManager.defaultValue().locationPermissionStatus;
+    return m_locationManager.defaultValue().locationPermissionStatus;
 }
 
 QString TrackingStatus::text() const

@@ -7,32 +7,39 @@
 
 #include <memory>
 
+class AppSettings;
+class LocationManagerKey;
+class WiFiClient;
 class WiFiMonitor;
-struct ViewParts;
 
-/// Whether days are marked by themselves, and whether they could be.
+/// Whether automatic tracking is on, and whether it has the Wi-Fi and the permission that it needs.
 class TrackingStatus : public QObject {
     Q_OBJECT
 
 public:
-    explicit TrackingStatus(const ViewParts& parts, QObject* parent = nullptr);
+    TrackingStatus(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+                   QObject* parent = nullptr);
     ~TrackingStatus() override;
 
-    /// Begins to ask the system, and to follow it. Until then everything is taken to be on.
+    /// Begins to query and follow the system. Until then Wi-Fi counts as on and permission as given.
     void startMonitoring();
 
     [[nodiscard]] bool isTracking() const;
     [[nodiscard]] bool isWiFiOn() const;
     [[nodiscard]] AuthorizationStatus permission() const;
-    /// Both that tracking needs are there.
+    /// Whether automatic checks are made: tracking is on and the first run is complete.
+    [[nodiscard]] bool isChecking() const;
+    /// Whether Wi-Fi is on and its networks may be seen.
     [[nodiscard]] bool isWiFiUsable() const { return isWiFiOn() && isAccessGranted(permission()); }
-    /// In three words, such as "Tracking On".
+    /// The status in a few words, such as "Tracking On".
     [[nodiscard]] QString text() const;
 
 Q_SIGNALS:
     void changed();
 
 private:
-    const ViewParts& m_parts;
+    AppSettings& m_settings;
+    WiFiClient& m_wifiClient;
+    LocationManagerKey& m_locationManager;
     std::unique_ptr<WiFiMonitor> m_wifiMonitor;
 };

@@ -3,7 +3,6 @@
 
 #include "AppIcon.h"
 #include "TrackingStatus.h"
-#include "ViewParts.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -15,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A panel that finds the symbolic icon by its name gives it its own colours. It is shown as a picture where the system
-// has none, or the panel asks for no name.
+// A panel recolours a symbolic icon that it finds by name. If none is installed, or the panel does not look for the
+// name, it gets the picture.
 class PanelIcon : public QIconEngine {
 public:
     QString iconName() override
@@ -45,8 +44,8 @@ private:
 
 } // namespace
 
-TrayIcon::TrayIcon(const ViewParts& parts)
-    : m_status(std::make_unique<TrackingStatus>(parts))
+TrayIcon::TrayIcon(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager)
+    : m_status(std::make_unique<TrackingStatus>(settings, wifiClient, locationManager))
     , m_menu(std::make_unique<QMenu>())
     , m_icon(std::make_unique<QSystemTrayIcon>(QIcon(new PanelIcon)))
 {
@@ -59,10 +58,10 @@ TrayIcon::TrayIcon(const ViewParts& parts)
         if (reason == QSystemTrayIcon::Trigger)
             Q_EMIT openRequested();
     });
-    const auto tell = [this] { m_icon->setToolTip(m_status->text()); };
-    connect(m_status.get(), &TrackingStatus::changed, this, tell);
+    const auto refresh = [this] { m_icon->setToolTip(m_status->text()); };
+    connect(m_status.get(), &TrackingStatus::changed, this, refresh);
     m_status->startMonitoring();
-    tell();
+    refresh();
     m_icon->show();
 }
 

@@ -5,17 +5,19 @@
 
 #include <memory>
 
+class AppSettings;
+class LocationManagerKey;
 class QMenu;
 class QSystemTrayIcon;
 class TrackingStatus;
-struct ViewParts;
+class WiFiClient;
 
-/// The icon in the tray of the desktop. It offers nothing that is not to be had otherwise.
+/// The icon in the desktop's tray. Its menu only repeats what is also available elsewhere.
 class TrayIcon : public QObject {
     Q_OBJECT
 
 public:
-    explicit TrayIcon(const ViewParts& parts);
+    TrayIcon(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager);
     ~TrayIcon() override;
 
 Q_SIGNALS:

@@ -1,19 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
+
+class AppSettings;
+class Clock;
+class InOfficeCheck;
+class LaunchAtLogin;
+class LocationManager;
+class ModelContext;
 class QWidget;
-struct ViewParts;
+class ViewSettings;
+class WiFiClient;
 
 /// The contents of the steps of the first run.
-namespace welcome {
+class WelcomeSteps {
+    Q_DECLARE_TR_FUNCTIONS(WelcomeSteps)
 
-/// What Pellory is, with a month to try it on. That month is never stored.
-[[nodiscard]] QWidget* makeIntroduction(const ViewParts& parts);
-[[nodiscard]] QWidget* makeGoals(const ViewParts& parts);
-/// Notifications and the launch at login.
-[[nodiscard]] QWidget* makeGeneral(const ViewParts& parts);
-[[nodiscard]] QWidget* makeWiFi(const ViewParts& parts);
-/// What has been set.
-[[nodiscard]] QWidget* makeSummary(const ViewParts& parts);
-
-} // namespace welcome
+public:
+    /// What Pellory is, with a sample month to try out. That month is never stored.
+    [[nodiscard]] static QWidget* makeIntroduction(ModelContext& context, const AppSettings& settings,
+                                                   const ViewSettings& viewSettings, const Clock& clock);
+    [[nodiscard]] static QWidget* makeGoals(AppSettings& settings);
+    /// Notifications and the launch at login.
+    [[nodiscard]] static QWidget* makeGeneral(AppSettings& settings, LaunchAtLogin& launchAtLogin);
+    [[nodiscard]] static QWidget* makeWiFi(AppSettings& settings, WiFiClient& wifiClient,
+                                           LocationManager& locationManager, InOfficeCheck& check);
+    /// What is set now.
+    [[nodiscard]] static QWidget* makeSummary(const AppSettings& settings, const LaunchAtLogin& launchAtLogin);
+};

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WelcomeView.h"
 
-#include "AppSettings.h"
 #include "Bar.h"
 #include "Button.h"
-#include "InOfficeCheck.h"
-#include "Page.h"
 #include "StepDots.h"
-#include "ViewParts.h"
-#include "WelcomeSteps.h"
 
 #include <QGridLayout>
 #include <QScreen>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -23,11 +17,11 @@ constexpr QSize firstSize(540, 720);
 
 } // namespace
 
-WelcomeView::WelcomeView(const ViewParts& parts, QWidget* parent)
+WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* parent)
     : QDialog(parent)
-    , m_parts(parts)
-    , m_steps(new QStackedWidget)
-    , m_dots(new StepDots(stepCount))
+    , m_steps(new LazyStack(std::move(steps)))
+    , m_lastStep(m_steps->pageCount() - 1)
+    , m_dots(new StepDots(m_steps->pageCount()))
     , m_skip(new Button(tr("Skip")))
     , m_back(new Button(tr("Back")))
     , m_next(new Button({}))
@@ -61,25 +55,20 @@ QWidget* WelcomeView::makeFooter()
     row->addLayout(onward, 0, 2, Qt::AlignRight);
     row->setColumnStretch(0, 1);
     row->setColumnStretch(2, 1);
-    connect(m_skip, &QAbstractButton::clicked, this, [this] { showStep(stepCount - 1); });
+    connect(m_skip, &QAbstractButton::clicked, this, [this] { showStep(m_lastStep); });
     connect(m_back, &QAbstractButton::clicked, this, [this] { showStep(m_step - 1); });
-    connect(m_next, &QAbstractButton::clicked, this, &WelcomeView::goOn);
+    connect(m_next, &QAbstractButton::clicked, this, &WelcomeView::advance);
     return footer;
 }
 
 void WelcomeView::showStep(int step)
 {
     m_step = step;
-    const bool isLast = step == stepCount - 1;
-    QWidget*& page = m_built.at(static_cast<std::size_t>(step));
-    // The summary is made anew: it says what is set now.
+    const bool isLast = step == m_lastStep;
+    // The last step sums up what is set now.
     if (isLast)
-        delete std::exchange(page, nullptr);
-    if (page == nullptr) {
-        page = makeStep(step);
-        m_steps->addWidget(page);
-    }
-    m_steps->setCurrentWidget(page);
+        m_steps->discardPage(step);
+    m_steps->showPage(step);
     m_dots->setCurrent(step);
     m_back->setEnabled(step > 0);
     m_skip->setEnabled(!isLast);
@@ -87,25 +76,10 @@ void WelcomeView::showStep(int step)
     m_next->setFocus(Qt::OtherFocusReason);
 }
 
-QWidget* WelcomeView::makeStep(int step)
+void WelcomeView::advance()
 {
-    using Maker = QWidget* (*)(const ViewParts&);
-    static constexpr std::array<Maker, stepCount> makers{welcome::makeIntroduction, welcome::makeGoals,
-                                                         welcome::makeGeneral, welcome::makeWiFi, welcome::makeSummary};
-    return new Page(makers.at(static_cast<std::size_t>(step))(m_parts));
-}
-
-void WelcomeView::goOn()
-{
-    if (m_step < stepCount - 1)
+    if (m_step < m_lastStep)
         showStep(m_step + 1);
     else
-        complete();
-}
-
-void WelcomeView::complete()
-{
-    m_parts.settings.firstTime = false;
-    m_parts.check.checkNow(false);
-    accept();
+        accept();
 }

@@ -6,10 +6,13 @@
 #include "CalendarViewSettingsView.h"
 #include "ContentView.h"
 #include "HelpView.h"
+#include "InOfficeCheck.h"
+#include "LocationManager.h"
 #include "Page.h"
 #include "SettingsView.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
+#include "WelcomeSteps.h"
 #include "WelcomeView.h"
 #include "WindowId.h"
 
@@ -26,7 +29,7 @@ namespace {
 
 constexpr QSize firstMainSize(534, 860);
 constexpr QSize firstSettingsSize(560, 660);
-// How large a frame is, is only known when the window is there.
+// The size of a window's frame is not known before it is shown.
 constexpr QSize roomForFrame(16, 48);
 
 QString geometryKey(const QWidget& window)
@@ -36,7 +39,7 @@ QString geometryKey(const QWidget& window)
 
 void raise(QWidget& window, const QString& activationToken)
 {
-    // Where only the person may bring a window to the front, this shows that it was the person.
+    // Shows the desktop that the person asked for the window.
     if (!activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -54,7 +57,7 @@ AppWindows::AppWindows(const ViewParts& parts)
 
 AppWindows::~AppWindows()
 {
-    // What is being typed is taken when its field is left.
+    // A field takes what is being typed when it loses the focus.
     if (QWidget* focused = QApplication::focusWidget())
         focused->clearFocus();
     for (QWidget* window : std::exchange(m_open, {})) {
@@ -86,9 +89,9 @@ void AppWindows::makeMain()
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), firstMainSize);
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
-    // A title bar can wait for it until there is something to see.
+    // The icon can wait until the window is visible.
     connect(m_main, &ContentView::painted, this, [] { QApplication::setWindowIcon(appIcon()); });
-    // The first run is led through over the window, once that is there.
+    // Until it is completed, the first run starts over with each main window.
     if (m_parts.settings.firstTime)
         connect(m_main, &ContentView::painted, this, &AppWindows::openWelcome);
 }
@@ -106,11 +109,33 @@ void AppWindows::openWelcome()
     if (!m_main)
         makeMain();
     raise(*m_main, {});
-    if (!m_welcome) {
-        m_welcome = new WelcomeView(m_parts, m_main);
-        addShortcuts(*m_welcome);
-    }
+    if (!m_welcome)
+        makeWelcome();
     raise(*m_welcome, {});
+}
+
+void AppWindows::makeWelcome()
+{
+    const ViewParts& parts = m_parts;
+    m_welcome = new WelcomeView(
+        {
+            [&parts] {
+                return WelcomeSteps::makeIntroduction(parts.context, parts.settings, parts.viewSettings, parts.clock);
+            },
+            [&parts] { return WelcomeSteps::makeGoals(parts.settings); },
+            [&parts] { return WelcomeSteps::makeGeneral(parts.settings, parts.launchAtLogin); },
+            [&parts] {
+                LocationManager& locationManager = parts.locationManager.defaultValue();
+                return WelcomeSteps::makeWiFi(parts.settings, parts.wifiClient, locationManager, parts.check);
+            },
+            [&parts] { return WelcomeSteps::makeSummary(parts.settings, parts.launchAtLogin); },
+        },
+        m_main);
+    addShortcuts(*m_welcome);
+    connect(m_welcome, &QDialog::accepted, this, [&parts] {
+        parts.settings.firstTime = false;
+        parts.check.checkNow(false);
+    });
 }
 
 QWidget* AppWindows::makeWindow(WindowId id)
@@ -129,7 +154,13 @@ QWidget* AppWindows::makeWindow(WindowId id)
     case WindowId::settings:
         break;
     }
-    auto* window = new SettingsView(m_parts);
+    return makeSettings();
+}
+
+QWidget* AppWindows::makeSettings()
+{
+    auto* window = new SettingsView(m_parts.settings, m_parts.wifiClient, m_parts.locationManager.defaultValue(),
+                                    m_parts.check, m_parts.launchAtLogin);
     prepare(*window, u"settings"_s, tr("Settings"), firstSettingsSize);
     connect(window, &SettingsView::welcomeRequested, this, [this, window] {
         openWelcome();
@@ -169,7 +200,7 @@ bool AppWindows::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Close) {
         auto* window = static_cast<QWidget*>(watched);
         m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
-        // It is as good as gone: who wants it now is to get another.
+        // Closing; open a new one on request.
         if (window == m_main)
             m_main.clear();
         std::erase_if(m_others, [window](const auto& other) { return other.second == window; });

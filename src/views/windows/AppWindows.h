@@ -12,7 +12,7 @@ class WelcomeView;
 struct ViewParts;
 enum class WindowId;
 
-/// Opens the windows of the program. None is built before it is wanted, and one that is closed is gone.
+/// Opens the windows of the program. Each is built when it is first opened, and deleted when it is closed.
 class AppWindows : public QObject {
     Q_OBJECT
 
@@ -20,16 +20,16 @@ public:
     explicit AppWindows(const ViewParts& parts);
     ~AppWindows() override;
 
-    /// Shows the main window, wherever it is. With a token of the desktop it may come to the front where that is not
-    /// for everybody.
+    /// Opens the main window, or raises it. Some desktops let a window come to the front only with a token.
     void openMain(const QString& activationToken = {});
-    /// Shows a day in it; an invalid one is no day in particular.
+    /// Opens the main window at a day. An invalid date leaves it where it is.
     void openDay(QDate day, const QString& activationToken = {});
     void open(WindowId id);
+    /// Starts the first run, over the main window.
     void openWelcome();
 
 Q_SIGNALS:
-    /// A main window has drawn its contents for the first time.
+    /// The contents of a main window have been drawn for the first time.
     void mainPainted();
     /// The last window has been closed.
     void lastClosed();
@@ -40,7 +40,9 @@ protected:
 
 private:
     void makeMain();
+    void makeWelcome();
     [[nodiscard]] QWidget* makeWindow(WindowId id);
+    [[nodiscard]] QWidget* makeSettings();
     void prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize);
     void addShortcuts(QWidget& window);
     void forget(QObject* window);

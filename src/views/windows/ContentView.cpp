@@ -3,23 +3,24 @@
 
 #include "Bar.h"
 #include "IconButton.h"
+#include "LazyStack.h"
 #include "LocationAlert.h"
+#include "LocationManager.h"
 #include "MonthView.h"
 #include "Page.h"
 #include "QuarterView.h"
 #include "SegmentedTabs.h"
 #include "TrackingIndicator.h"
+#include "TrackingPopover.h"
 #include "TrackingStatus.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "WindowId.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -31,22 +32,27 @@ namespace {
 // The stored number of the first tab.
 constexpr int firstTab = 1;
 
+template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
+{
+    return [&parts] { return new Page(new Calendar(parts.context, parts.settings, parts.viewSettings, parts.clock)); };
+}
+
 } // namespace
 
 ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
-    , m_status(new TrackingStatus(parts, this))
+    , m_status(new TrackingStatus(parts.settings, parts.wifiClient, parts.locationManager, this))
     , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
-    , m_pages(new QStackedWidget)
+    , m_pages(new LazyStack({pageOf<MonthView>(parts), pageOf<QuarterView>(parts)}))
 {
     m_column->setContentsMargins({});
     m_column->setSpacing(0);
     m_column->addWidget(makeHeader());
     m_column->addWidget(m_pages);
     addShortcuts();
-    // What is asked of the system can wait until there is something to see.
+    // Querying the system can wait until the window is visible.
     connect(this, &ContentView::painted, m_status, &TrackingStatus::startMonitoring);
     connect(m_status, &TrackingStatus::changed, this, &ContentView::alertIfNeeded);
 
@@ -65,14 +71,22 @@ QWidget* ContentView::makeHeader()
     auto* toolbar = new QHBoxLayout;
     auto* row = new QGridLayout(header);
     row->setContentsMargins(24, 8, 24, 9);
-    row->addWidget(new TrackingIndicator(m_parts, *m_status), 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    row->addWidget(makeIndicator(), 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     row->addWidget(m_tabs, 0, 1);
     addToolbar(*toolbar);
     row->addLayout(toolbar, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
-    // The tabs stand in the middle of the window, whatever is beside them.
+    // Keeps the tabs in the middle of the window.
     row->setColumnStretch(0, 1);
     row->setColumnStretch(2, 1);
     return header;
+}
+
+QWidget* ContentView::makeIndicator()
+{
+    auto* indicator = new TrackingIndicator(*m_status);
+    connect(indicator, &QAbstractButton::clicked, this,
+            [this, indicator] { (new TrackingPopover(*m_status, m_parts.check, m_parts.clock, indicator))->popUp(); });
+    return indicator;
 }
 
 void ContentView::addToolbar(QHBoxLayout& row)
@@ -95,65 +109,53 @@ void ContentView::addShortcuts()
         connect(shortcut, &QShortcut::activated, m_tabs, [this, tab] { m_tabs->setCurrentIndex(tab); });
     }
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
-    const std::pair<Qt::Key, Qt::Key> ways[]{{isLeftToRight ? Qt::Key_Left : Qt::Key_Right, Qt::Key_PageUp},
-                                             {isLeftToRight ? Qt::Key_Right : Qt::Key_Left, Qt::Key_PageDown}};
-    for (const auto& [arrow, key] : ways) {
+    const auto add = [this](Qt::Key arrow, void (CalendarPage::*turn)()) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | arrow), this);
-        connect(shortcut, &QShortcut::activated, this, [this, key = key] { turnPage(key); });
-    }
+        connect(shortcut, &QShortcut::activated, this, [this, turn] { (page().*turn)(); });
+    };
+    add(isLeftToRight ? Qt::Key_Left : Qt::Key_Right, &CalendarPage::previous);
+    add(isLeftToRight ? Qt::Key_Right : Qt::Key_Left, &CalendarPage::next);
 }
 
 void ContentView::alertIfNeeded()
 {
-    // Few people ever see it. Once it is there it knows itself when to be seen.
-    if (m_alert == nullptr && m_status->isTracking() && !isAccessGranted(m_status->permission()))
-        m_column->insertWidget(1, m_alert = new LocationAlert(m_parts, *m_status, this));
+    // Few people ever need it. Once built it shows and hides itself.
+    if (m_alert != nullptr || !m_status->isTracking() || isAccessGranted(m_status->permission()))
+        return;
+    m_alert = new LocationAlert(*m_status, m_parts.settings, m_parts.locationManager.defaultValue(), this);
+    m_column->insertWidget(1, m_alert);
 }
 
-void ContentView::turnPage(Qt::Key key)
+CalendarPage& ContentView::page() const
 {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    keyPressEvent(&event);
+    return *m_pages->currentWidget()->findChild<CalendarPage*>();
 }
 
 void ContentView::showDay(QDate date)
 {
-    auto* page = static_cast<Page*>(m_pages->currentWidget())->widget();
-    if (auto* month = qobject_cast<MonthView*>(page))
-        month->showDay(date);
-    else if (auto* quarter = qobject_cast<QuarterView*>(page))
-        quarter->showDay(date);
+    page().showDay(date);
 }
 
 void ContentView::showTab(int index)
 {
     m_parts.viewSettings.selectedTab = index + firstTab;
-    // A page that goes must not hand the focus, and with it a ring, to whatever comes first on the other.
+    // A hidden page would pass the focus, and with it a ring, to the first control of the other.
     if (m_pages->isAncestorOf(focusWidget()))
         m_tabs->setFocus(Qt::OtherFocusReason);
-    Page*& page = m_built.at(static_cast<std::size_t>(index));
-    if (page == nullptr) {
-        page = makePage(index);
-        m_pages->addWidget(page);
-    }
-    m_pages->setCurrentWidget(page);
-}
-
-Page* ContentView::makePage(int index)
-{
-    if (index == 0)
-        return new Page(new MonthView(m_parts.context, m_parts.settings, m_parts.viewSettings, m_parts.clock));
-    return new Page(new QuarterView(m_parts.context, m_parts.settings, m_parts.viewSettings, m_parts.clock));
+    m_pages->showPage(index);
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)
 {
-    // The keys that turn the pages of the calendar mean the same wherever the focus is.
-    auto* page = static_cast<Page*>(m_pages->currentWidget());
-    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
-        QApplication::sendEvent(page->widget(), event);
-    else
+    // Pages turn wherever the focus is.
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        return page().previous();
+    case Qt::Key_PageDown:
+        return page().next();
+    default:
         QWidget::keyPressEvent(event);
+    }
 }
 
 bool ContentView::event(QEvent* event)

@@ -1,35 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDate>
 #include <QWidget>
 
-#include <array>
-
-class QHBoxLayout;
+class CalendarPage;
+class LazyStack;
 class LocationAlert;
-class Page;
-class QStackedWidget;
+class QDate;
+class QHBoxLayout;
 class QTabBar;
 class QVBoxLayout;
 class TrackingStatus;
 struct ViewParts;
 enum class WindowId;
 
-/// The contents of the main window: the month and the quarter, each built when it is first shown.
+/// The contents of the main window: header, location alert, and the month or the quarter.
 class ContentView : public QWidget {
     Q_OBJECT
 
 public:
     explicit ContentView(const ViewParts& parts, QWidget* parent = nullptr);
 
-    /// Shows a day, in the tab that is shown, and gives it the focus.
+    /// Turns the current tab to a day and gives it the focus.
     void showDay(QDate date);
 
 Q_SIGNALS:
-    /// A button of the toolbar wants another window.
+    /// A button of the toolbar was pressed.
     void windowRequested(WindowId id);
-    /// The window has drawn its contents for the first time.
+    /// The contents have been drawn for the first time.
     void painted();
 
 protected:
@@ -38,19 +36,18 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeHeader();
+    [[nodiscard]] QWidget* makeIndicator();
     void addToolbar(QHBoxLayout& row);
     void addShortcuts();
     void alertIfNeeded();
-    void turnPage(Qt::Key key);
     void showTab(int index);
-    [[nodiscard]] Page* makePage(int index);
+    [[nodiscard]] CalendarPage& page() const;
 
     const ViewParts& m_parts;
     TrackingStatus* m_status;
     QVBoxLayout* m_column;
     LocationAlert* m_alert = nullptr;
     QTabBar* m_tabs;
-    QStackedWidget* m_pages;
-    std::array<Page*, 2> m_built{};
+    LazyStack* m_pages;
     bool m_painted = false;
 };

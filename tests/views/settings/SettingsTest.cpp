@@ -102,7 +102,7 @@ TEST_F(SettingsTest, networksComeFromAScanAndByName)
     wifiClient.networks = {{u"office"_s}, {u"Office"_s}, {std::nullopt}, {u"Office"_s}};
     settings->inOfficeSsids = {u"Home"_s, u"Office"_s, u"Home"_s};
     wifiClient.isHeld = true;
-    SsidSettingsView view(parts, true);
+    SsidSettingsView view(*settings, wifiClient, locationManager.defaultValue(), check, true);
     show(view);
     auto& scan = button(view, "scan");
     EXPECT_TRUE(shownTexts(view).contains(u"Scanning for networks..."_s));
@@ -154,7 +154,7 @@ TEST_F(SettingsTest, whatTrackingLacksIsSaid)
                                                         {true, true, 2, 1, false},
                                                         {false, false, 0, 0, false},
                                                         {false, true, 3, 0, true}};
-    SsidSettingsView view(parts, false);
+    SsidSettingsView view(*settings, wifiClient, locationManager.defaultValue(), check, false);
     show(view);
     EXPECT_FALSE(shownTexts(view).contains(u"Automatic In Office Tracking"_s));
     for (const auto& [isTracking, isOn, permission, warnings, canScan] : rows) {
@@ -184,7 +184,7 @@ TEST(NetworkNameTest, showsWhatCannotBeSeenAndKeepsToItself)
 
 TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
 {
-    GeneralSettingsView view(parts, false);
+    GeneralSettingsView view(*settings, launchAtLogin, false);
     show(view);
     const auto switches = view.findChildren<Switch*>();
     auto& login = named<Switch>(view, "launchAtLogin");
@@ -202,5 +202,5 @@ TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
     const QSignalSpy again(&view, &GeneralSettingsView::welcomeRequested);
     click(button(view, "welcome"));
     EXPECT_EQ(again.size(), 1);
-    EXPECT_EQ(GeneralSettingsView(parts, true).findChild<QWidget*>(u"welcome"_s), nullptr);
+    EXPECT_EQ(GeneralSettingsView(*settings, launchAtLogin, true).findChild<QWidget*>(u"welcome"_s), nullptr);
 }
