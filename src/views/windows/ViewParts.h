@@ -10,7 +10,7 @@ class ModelContext;
 class ViewSettings;
 class WiFiClient;
 
-/// What the views work on. They borrow all of it; it outlives them.
+/// What the windows hand out to their views, each of which asks for what it needs. All of it outlives them.
 struct ViewParts {
     ModelContext& context;
     AppSettings& settings;
