@@ -94,8 +94,8 @@
         <translation>Pellory</translation>
     </message>
     <message>
-        <source>Pellory goes on checking whether you are in the office. Start it again to see its window.</source>
-        <translation>Pellory prüft weiterhin, ob Sie im Büro sind. Ein erneuter Start zeigt das Fenster wieder.</translation>
+        <source>Pellory keeps checking in the background whether you are in the office. Start it again to open its window.</source>
+        <translation>Pellory prüft im Hintergrund weiter, ob Sie im Büro sind. Ein erneuter Start öffnet das Fenster wieder.</translation>
     </message>
 </context>
 <context>
@@ -854,7 +854,7 @@
         <translation>Willkommen bei Pellory</translation>
     </message>
     <message>
-        <source>Mark where you spend each day, and see how far you are from your goals. Try it on this sample month: a click changes a day, a right click offers all states.</source>
+        <source>Mark where you spend each day, and see how far you are from your goals. Try it on this sample month: click a day to change it, or right-click it for all states.</source>
         <translation>Markieren Sie, wo Sie jeden Tag verbringen, und sehen Sie, wie weit Sie von Ihren Zielen entfernt sind. Probieren Sie es an diesem Beispielmonat aus: Ein Klick ändert einen Tag, ein Rechtsklick bietet jeden Status an.</translation>
     </message>
     <message>
@@ -862,7 +862,7 @@
         <translation>Ihre Ziele</translation>
     </message>
     <message>
-        <source>How many days a week do you want, or have, to be in the office on average? The progress tracker shows how many days you still need for each goal.</source>
+        <source>On average, how many days a week do you want or need to be in the office? The progress tracker shows how many days you still need for each goal.</source>
         <translation>An wie vielen Tagen pro Woche möchten oder müssen Sie im Durchschnitt im Büro sein? Der Fortschrittsbalken zeigt, wie viele Tage für jedes Ziel noch fehlen. Zahlen stehen mit Punkt statt Komma.</translation>
     </message>
     <message>
@@ -870,8 +870,8 @@
         <translation>Immer da, nie im Weg</translation>
     </message>
     <message>
-        <source>Pellory can start with your session, without a window, and tell you what it has marked.</source>
-        <translation>Pellory kann mit Ihrer Sitzung starten, ohne Fenster, und melden, was es erfasst hat.</translation>
+        <source>Pellory can start without a window when you log in, and notify you when it marks a day.</source>
+        <translation>Pellory kann bei der Anmeldung ohne Fenster starten und melden, wenn es einen Tag erfasst.</translation>
     </message>
     <message>
         <source>Days that mark themselves</source>
@@ -886,7 +886,7 @@
         <translation>Alles bereit</translation>
     </message>
     <message>
-        <source>This is what you have chosen. You can change all of it later in the settings (Ctrl+,), and F1 explains the colours.</source>
+        <source>These are your choices. You can change them later in the settings (Ctrl+,). Press F1 to see what the colours mean.</source>
         <translation>Das haben Sie gewählt. Alles lässt sich später in den Einstellungen (Strg+,) ändern, und F1 erklärt die Farben.</translation>
     </message>
     <message>

@@ -44,7 +44,8 @@ void Background::lastClosed()
         return;
     m_settings.setValue(noticeWasGiven, true);
     m_notifier.post({tr("Pellory"),
-                     tr("Pellory goes on checking whether you are in the office. Start it again to see its window."),
+                     tr("Pellory keeps checking in the background whether you are in the office. Start it again to "
+                        "open its window."),
                      {}});
 }
 

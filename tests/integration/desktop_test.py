@@ -143,7 +143,7 @@ class DesktopTest(unittest.TestCase):
         self.press(*tracking, then="Wi-Fi or Location Off")
         self.assert_handed_over(program)
         self.close_windows(program, "Settings", "Pellory")
-        self.assertIn("goes on checking", eventually(told)[0][1][4])
+        self.assertIn("keeps checking in the background", eventually(told)[0][1][4])
         server("EmitSignal", "sssav", NOTIFICATIONS, "ActionInvoked", "us", [dbus.UInt32(1), "default"])
         eventually(lambda: self.on_display(program, "Pellory"))
         self.close_windows(program, "Pellory")

@@ -63,7 +63,7 @@ QWidget* WelcomeSteps::makeIntroduction(ModelContext& context, const AppSettings
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Welcome to Pellory"),
                               tr("Mark where you spend each day, and see how far you are from your goals. Try it on "
-                                 "this sample month: a click changes a day, a right click offers all states."));
+                                 "this sample month: click a day to change it, or right-click it for all states."));
     const auto sample = makeSampleMonth(clock.today());
     auto* calendar = new CalendarView(context, viewSettings, clock, true);
     calendar->setContentsMargins(16, 12, 16, 12);
@@ -81,7 +81,7 @@ QWidget* WelcomeSteps::makeGoals(AppSettings& settings)
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Your goals"),
-                              tr("How many days a week do you want, or have, to be in the office on average? The "
+                              tr("On average, how many days a week do you want or need to be in the office? The "
                                  "progress tracker shows how many days you still need for each goal."));
     addCard(*column, new DaysPerWeekGoalView(settings, false));
     return new Page(step);
@@ -91,8 +91,8 @@ QWidget* WelcomeSteps::makeGeneral(AppSettings& settings, LaunchAtLogin& launchA
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Always there, never in the way"),
-                              tr("Pellory can start with your session, without a window, and tell you what it "
-                                 "has marked."));
+                              tr("Pellory can start without a window when you log in, and notify you when it marks a "
+                                 "day."));
     addCard(*column, new GeneralSettingsView(settings, launchAtLogin, true));
     return new Page(step);
 }
@@ -102,8 +102,8 @@ QWidget* WelcomeSteps::makeWiFi(AppSettings& settings, WiFiClient& wifiClient, L
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Days that mark themselves"),
-                              tr("When a Wi-Fi network of your office is in range, Pellory can mark "
-                                 "the day for you. Nothing about it leaves this computer."));
+                              tr("When a Wi-Fi network of your office is in range, Pellory can mark the day for you. "
+                                 "Nothing about it leaves this computer."));
     column->addWidget(new LocationStatus(locationManager));
     column->addSpacing(4);
     addCard(*column, new SsidSettingsView(settings, wifiClient, locationManager, check, false));
@@ -114,8 +114,8 @@ QWidget* WelcomeSteps::makeSummary(const AppSettings& settings, const LaunchAtLo
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("All set"),
-                              tr("This is what you have chosen. You can change all of it later in the "
-                                 "settings (Ctrl+,), and F1 explains the colours."));
+                              tr("These are your choices. You can change them later in the settings (Ctrl+,). Press "
+                                 "F1 to see what the colours mean."));
     auto* list = new QWidget;
     auto* lines = new QVBoxLayout(list);
     lines->setContentsMargins({});
