@@ -24,9 +24,15 @@ QDate dateOnTheWall()
     return QDateTime::currentDateTimeUtc().toTimeZone(berlin).date();
 }
 
+auto entriesOf(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
+// Not counting the one file of each thread: the toolkit starts threads whenever it has much to paint.
 auto openFiles()
 {
-    return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
+    return entriesOf(u"/proc/self/fd"_s) - entriesOf(u"/proc/self/task"_s);
 }
 
 // Nothing here comes from outside this process, so a few turns of its event loop are enough.
@@ -106,11 +112,11 @@ protected:
 
 TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
 {
+    liveCheck.start();
+    const auto files = openFiles();
     show(window);
     const QSignalSpy newDay(&systemClock, &Clock::dayChanged);
-    liveCheck.start();
     expectCheck();
-    const auto files = openFiles();
     double memory = 0;
     for (int day = 0; day < 90 && !HasFatalFailure(); ++day) {
         if (day == 30) { // all that is built once has been
@@ -130,7 +136,8 @@ TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
     }
     EXPECT_GT(expected.marks.size(), 60);
     EXPECT_EQ(newDay.size(), dates); // and of nothing else it has told
-    EXPECT_EQ(openFiles(), files);
+    // A thread that has just been started has yet to open its file.
+    EXPECT_TRUE(eventually([&] { return openFiles() == files; })) << openFiles() - files << " more files are open";
     // A few new months are in memory, but nothing of every check. With the sanitizers, which look for leaks themselves,
     // there is nothing to be seen here.
     EXPECT_LT((double(mallinfo2().uordblks) - memory) / checks, 200) << "bytes of a check";
