@@ -2,6 +2,7 @@
 #include "InOfficeModelUpdater.h"
 
 #include "Clock.h"
+#include "DayMarker.h"
 #include "InOfficeDetectionError.h"
 #include "Log.h"
 #include "ModelContainer.h"
@@ -19,11 +20,6 @@ QDate workdayBefore(QDate date)
     return date;
 }
 
-bool isOpen(DayState state)
-{
-    return state == DayState::UNKNOWN || state == DayState::WILL_BE_IN_OFFICE;
-}
-
 } // namespace
 
 bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday)
@@ -32,13 +28,13 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
     const QDate previous = workdayBefore(today);
     const auto monthOfToday = findOrCreateMonth(today);
 
-    const bool isMarked = inOfficeNow && markIfOpen(*monthOfToday, today, DayState::IN_OFFICE);
+    const bool isMarked = inOfficeNow && mark(*monthOfToday, today, DayState::IN_OFFICE);
     if (isMarked) {
         qCInfo(logDetection, "Logged as in office on %d-%d-%d", today.year(), today.month(), today.day());
         if (notificationsEnabled)
             m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today});
     }
-    if (markPreviousWorkday && markIfOpen(*findOrCreateMonth(previous), previous, DayState::OUT_OF_OFFICE)) {
+    if (markPreviousWorkday && mark(*findOrCreateMonth(previous), previous, DayState::OUT_OF_OFFICE)) {
         qCInfo(logDetection, "Logged as out of office on %d-%d-%d", previous.year(), previous.month(), previous.day());
         if (notificationsEnabled)
             m_notifier.post(
@@ -60,16 +56,10 @@ std::shared_ptr<Month> InOfficeModelUpdater::findOrCreateMonth(QDate date)
     return created;
 }
 
-bool InOfficeModelUpdater::markIfOpen(Month& month, QDate date, DayState state)
+bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state)
 {
     const auto index = month.indexOf(date.day());
     if (!index)
         qFatal("The month %d-%d has no day %d", date.year(), date.month(), date.day());
-    QList<Day> days = month.days;
-    Day& day = days[*index];
-    if (!isOpen(day.state))
-        return false;
-    day = {date.day(), state, isMondayToFriday(date)};
-    month.days = days;
-    return true;
+    return DayMarker(m_container.mainContext()).mark(month, *index, state, MarkedBy::Check);
 }

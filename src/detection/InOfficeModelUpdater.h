@@ -34,7 +34,7 @@ public:
     [[nodiscard]] std::shared_ptr<Month> findOrCreateMonth(QDate date);
 
 private:
-    static bool markIfOpen(Month& month, QDate date, DayState state);
+    bool mark(Month& month, QDate date, DayState state);
 
     ModelContainer& m_container;
     Clock& m_clock;

@@ -1,31 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Day.h"
+#include "DayMarker.h"
 
-class ModelContext;
-class Month;
-
-/// The changes that a person makes to a day by hand. `index` is the day's place in the grid of its month, 0 to 37; any
-/// other stops the program. Each click operation ends with a save; a save that fails keeps the change in memory.
+/// What a person can do to a day by hand. `index` is the day's place in the grid of its month, 0 to 37; any other stops
+/// the program. A click operation ends with a save; if that fails, the change stays in memory.
 class DayEditor {
 public:
-    explicit DayEditor(ModelContext& context);
+    explicit DayEditor(ModelContext& context)
+        : m_marker(context)
+    {
+    }
 
-    /// On to the next state; after the last comes the first.
+    /// Sets the next state; after the last comes the first.
     void cycleDayState(Month& month, qsizetype index);
-    /// Back to unknown.
+    /// Sets the state to unknown.
     void resetDayState(Month& month, qsizetype index);
-    /// To "will be in office", or back to unknown from there.
+    /// Sets "will be in office", or unknown if that is the state already.
     void toggleWillBeInOffice(Month& month, qsizetype index);
-    /// To "vacation day", or back to unknown from there.
+    /// Sets "vacation day", or unknown if that is the state already.
     void toggleVacationDay(Month& month, qsizetype index);
 
-    /// Sets a state that was picked. The context saves it by itself.
-    static void setDayState(Month& month, qsizetype index, DayState state);
+    /// Sets a state that was picked from the menu. It is saved at the end of the turn.
+    void setDayState(Month& month, qsizetype index, DayState state);
 
 private:
-    void write(Month& month, qsizetype index, DayState state);
+    void toggle(Month& month, qsizetype index, DayState state);
 
-    ModelContext& m_context;
+    DayMarker m_marker;
 };

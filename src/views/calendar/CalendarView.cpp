@@ -115,7 +115,7 @@ void CalendarView::showPicker(qsizetype index, const QPoint& position)
 {
     // The month is kept alive, and the one that was clicked is marked even if another is shown by then.
     QMenu* menu = makeStatusPicker(
-        this, [month = m_month, index](DayState state) { DayEditor::setDayState(*month, index, state); });
+        this, [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
     menu->popup(position);
 }
 
