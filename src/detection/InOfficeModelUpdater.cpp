@@ -6,9 +6,9 @@
 #include "InOfficeDetectionError.h"
 #include "Log.h"
 #include "ModelContainer.h"
-#include "ModelContext.h"
 #include "Month.h"
 #include "Notifier.h"
+#include "StoredMonths.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
 {
     const QDate today = m_clock.today();
     const QDate previous = workdayBefore(today);
-    const auto monthOfToday = findOrCreateMonth(today);
+    const auto monthOfToday = monthOf(today);
 
     const bool isMarked = inOfficeNow && mark(*monthOfToday, today, DayState::IN_OFFICE);
     if (isMarked) {
@@ -34,7 +34,7 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
         if (notificationsEnabled)
             m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today});
     }
-    if (markPreviousWorkday && mark(*findOrCreateMonth(previous), previous, DayState::OUT_OF_OFFICE)) {
+    if (markPreviousWorkday && mark(*monthOf(previous), previous, DayState::OUT_OF_OFFICE)) {
         qCInfo(logDetection, "Logged as out of office on %d-%d-%d", previous.year(), previous.month(), previous.day());
         if (notificationsEnabled)
             m_notifier.post(
@@ -43,17 +43,13 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
     return isMarked;
 }
 
-std::shared_ptr<Month> InOfficeModelUpdater::findOrCreateMonth(QDate date)
+std::shared_ptr<Month> InOfficeModelUpdater::monthOf(QDate date)
 {
-    ModelContext& context = m_container.mainContext();
-    const auto found = context.fetchMonths(date.year(), date.month());
-    if (found.size() > 1)
+    try {
+        return findOrCreateMonth(m_container.mainContext(), date);
+    } catch (const DuplicateMonthError&) {
         throw InOfficeDetectionError(InOfficeDetectionError::duplicateMonthModels);
-    if (!found.isEmpty())
-        return found.first();
-    auto created = std::make_shared<Month>(date.year(), date.month());
-    context.insert(created);
-    return created;
+    }
 }
 
 bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state)

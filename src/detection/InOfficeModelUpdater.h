@@ -30,10 +30,8 @@ public:
     /// twice, and a StoreError when the store cannot be read; what was marked before that stays marked.
     bool update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday);
 
-    /// The one record of the month of a date; a new one where there is none. Throws as update() does.
-    [[nodiscard]] std::shared_ptr<Month> findOrCreateMonth(QDate date);
-
 private:
+    [[nodiscard]] std::shared_ptr<Month> monthOf(QDate date);
     bool mark(Month& month, QDate date, DayState state);
 
     ModelContainer& m_container;

@@ -4,10 +4,10 @@
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
 #include "InOfficeCheck.h"
-#include "InOfficeModelUpdater.h"
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "Notifier.h"
+#include "StoredMonths.h"
 #include "Testing.h"
 
 #include <QTemporaryDir>
@@ -62,7 +62,7 @@ struct Run : public Notifier {
     }
     void setByHand(QDate date, DayState state)
     {
-        mark(*InOfficeModelUpdater(container, clock, *this).findOrCreateMonth(date), date.day(), state);
+        mark(*findOrCreateMonth(container.mainContext(), date), date.day(), state);
         container.mainContext().save();
         expected.marks[date] = state;
         std::erase_if(expected.marks, [](const auto& day) { return day.second == DayState::UNKNOWN; });

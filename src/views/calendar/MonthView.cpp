@@ -8,7 +8,7 @@
 #include "MonthCard.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
-#include "QuarterMonths.h"
+#include "StoredMonths.h"
 #include "Rows.h"
 #include "StoreError.h"
 #include "ViewSettings.h"

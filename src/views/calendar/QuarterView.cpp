@@ -4,9 +4,9 @@
 #include "CalendarView.h"
 #include "Clock.h"
 #include "MonthCard.h"
-#include "QuarterMonths.h"
 #include "QuarterStatsView.h"
 #include "StoreError.h"
+#include "StoredMonths.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

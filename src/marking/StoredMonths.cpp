@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "StoredMonths.h"
+
+#include "ModelContext.h"
+#include "Month.h"
+
+#include <span>
+
+namespace {
+
+enum class Duplicates { Ignored, Refused };
+
+// Everything is read before anything is created, so that an unreadable store is left as it is.
+QList<std::shared_ptr<Month>> findOrCreate(ModelContext& context, int year, std::span<const int> numbers,
+                                           Duplicates duplicates)
+{
+    QList<std::shared_ptr<Month>> months;
+    for (const int number : numbers) {
+        const auto found = context.fetchMonths(year, number);
+        if (found.size() > 1 && duplicates == Duplicates::Refused)
+            throw DuplicateMonthError();
+        months.append(found.value(0));
+    }
+    for (qsizetype i = 0; i < months.size(); ++i) {
+        if (!months[i]) {
+            months[i] = std::make_shared<Month>(year, numbers[static_cast<std::size_t>(i)]);
+            context.insert(months[i]);
+        }
+    }
+    return months;
+}
+
+} // namespace
+
+std::shared_ptr<Month> findOrCreateMonth(ModelContext& context, QDate date)
+{
+    const int number = date.month();
+    return findOrCreate(context, date.year(), {&number, 1}, Duplicates::Refused).first();
+}
+
+QList<std::shared_ptr<Month>> quarterMonths(ModelContext& context, const YearQuarter& quarter)
+{
+    return findOrCreate(context, quarter.year, quarter.months(), Duplicates::Ignored);
+}
