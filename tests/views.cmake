@@ -8,7 +8,7 @@ pellory_test(views
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
-add_dependencies(views_test pellory_app_lrelease)
+add_dependencies(views_test pellory_app) # which compiles the translations
 target_compile_definitions(views_test PRIVATE GERMAN_TEXTS="${PROJECT_BINARY_DIR}/src/app/pellory_de.qm")
 pellory_test(life
     SOURCES life/MonthsOfRunningTest.cpp support/FakeWiFiClient.h support/WindowTestMain.cpp

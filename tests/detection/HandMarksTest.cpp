@@ -45,9 +45,9 @@ struct Run : public Notifier {
         else if (what == "notices")
             settings.notificationsEnabled = how % 2;
         else if (what == "day")
-            move({day, clock.now().time(), Qt::UTC});
+            move({day, clock.now().time(), QTimeZone::utc()});
         else if (what == "midnight")
-            move(clock.today().addDays(1).startOfDay(Qt::UTC));
+            move(clock.today().addDays(1).startOfDay(QTimeZone::utc()));
         client.isHeld = true;
         const auto task = what.ends_with("check") ? check.check(how % 2) : QCoro::Task<bool>();
         if (what.starts_with("mark")) // which may be in the middle of a check
@@ -123,7 +123,7 @@ RC_GTEST_PROP(HandMarksTest, winOverEveryCheckAndSurviveEveryEnd, ())
         run.reset();
         run.emplace(folder.filePath(u"Pellory.store"_s), now, expected);
     };
-    start({QDate(2026, 12, 31), QTime(9, 0), Qt::UTC}); // the last workday is in another year tomorrow
+    start({QDate(2026, 12, 31), QTime(9, 0), QTimeZone::utc()}); // the last workday is in another year tomorrow
     for (const Command& command : commands) {
         if (std::get<0>(command) == "restart")
             start(QDateTime(run->clock.now()));

@@ -4,6 +4,8 @@
 #include "Testing.h"
 #include "WiFiMonitor.h"
 
+#include <QCoreApplication>
+
 TEST(WiFiMonitorTest, isOnUntilToldOtherwiseAndFollowsTheRadio)
 {
     testing::StrictMock<FakeWiFiClient> client;

@@ -6,6 +6,7 @@
 #include "SignalAwaiter.h"
 
 #include <QList>
+#include <QTimeZone>
 
 /// A clock that stands still in the morning of a day until it is moved.
 class FixedClock : public Clock {
@@ -36,5 +37,5 @@ private:
         Q_EMIT dayChanged();
     }
 
-    QDateTime m_now{QDate(2026, 11, 20), QTime(9, 0), Qt::UTC};
+    QDateTime m_now{QDate(2026, 11, 20), QTime(9, 0), QTimeZone::utc()};
 };
