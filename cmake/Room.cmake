@@ -3,6 +3,10 @@
 # What every target of ours is compiled with.
 add_library(pellory_options INTERFACE)
 target_compile_options(pellory_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wredundant-decls)
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    # Compiled as one source, unnamed namespaces look to it as if they were in a header.
+    target_compile_options(pellory_options INTERFACE -Wno-subobject-linkage)
+endif()
 target_compile_definitions(pellory_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 
 # pellory_room(<name> SOURCES ... LINKS ... [USES ...] [PRECOMPILES ... | SHARES <room>])
