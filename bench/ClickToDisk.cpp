@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 // ClickToDisk <folder> <rounds>
 //
-// Times a click on a day until it is on disk. Writes one line per round: the microseconds of a click in a store of
+// Times a click on a day until it is on disk. Prints one line per round: the microseconds of a click in a store of
 // three months, of a text of the same size written by SQLite alone, and of a click in a store of 1,200 months.
 
 namespace {
@@ -65,7 +65,7 @@ sqlite3* bareDatabase(const QString& path)
 
 double write(sqlite3* database, sqlite3_stmt* update, QList<Day> days, int round)
 {
-    // Each text differs from the one before: SQLite does not write what is there already.
+    // Each text differs from the previous one, as after a click.
     days[clickedCell].state = allDayStates.at(static_cast<std::size_t>(round) % allDayStates.size());
     const std::string text = encodedDays(days);
     return microseconds([&] {
@@ -91,7 +91,7 @@ int main(int argc, char* argv[])
 
     for (int round = 0; round < rounds; ++round) {
         double taken[3]{};
-        // Whoever comes first may pay for what others left to the disk, so the order goes round.
+        // The first write may have to wait for what earlier ones left to the disk, so the order rotates.
         for (int i = 0; i < 3; ++i) {
             const int turn = (round + i) % 3;
             if (turn == 1)

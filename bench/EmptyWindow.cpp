@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <QMainWindow>
 
-// What any program of this kind costs: the window of Pellory with nothing in it.
+// What any program with a window costs: Pellory's window with nothing in it.
 int main(int argc, char* argv[])
 {
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -16,9 +16,9 @@
 
 // FirstPaint <program> [argument...]
 //
-// Starts a program on the X display and measures from outside, without its help, how long it takes until its window is
-// drawn. Writes that, its own begin on the monotonic clock, the window and the process as one line of JSON. Ends the
-// program when its own input ends.
+// Starts a program on the X display and measures from outside how long it takes until its window is drawn. Prints that,
+// the time of the start on the monotonic clock, the window and the process as one line of JSON. Terminates the program
+// when standard input ends.
 
 namespace {
 
@@ -28,7 +28,7 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 constexpr auto longestWait = std::chrono::seconds(30);
 constexpr int smallestWindow = 100;
 
-// The root window is filled with it. A window has no picture of its own before it is drawn, so this shows through.
+// The colour of the root window. It shows through a window until that is drawn.
 constexpr std::uint32_t undrawn = 0xff00ff;
 constexpr std::uint32_t colourBits = 0xffffff;
 
@@ -54,7 +54,7 @@ void prepareRoot()
     const std::uint32_t values[]{undrawn, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY};
     xcb_change_window_attributes(display, screen.root, XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
     xcb_clear_area(display, 0, screen.root, 0, 0, 0, 0);
-    // The pointer rests where no window is.
+    // The pointer must not hover over a window.
     xcb_warp_pointer(display, XCB_NONE, screen.root, 0, 0, 0, 0, static_cast<std::int16_t>(screen.width_in_pixels - 1),
                      static_cast<std::int16_t>(screen.height_in_pixels - 1));
     if (!owned(xcb_damage_query_version_reply(display, xcb_damage_query_version(display, 1, 1), nullptr)))
@@ -64,7 +64,7 @@ void prepareRoot()
 struct Picture {
     int width = 0;
     int height = 0;
-    /// None while the window is hidden, small, or has a spot that is not drawn yet.
+    /// 0 while the window is hidden, small, or not completely drawn.
     std::ptrdiff_t colours = 0;
 };
 
@@ -90,7 +90,7 @@ Picture pictureAfter(const xcb_generic_event_t& event)
 {
     const int type = event.response_type & 0x7f;
     if (type == XCB_CREATE_NOTIFY) {
-        // A window that is drawn before this request arrives is reported in answer to it.
+        // If the window is drawn before this request arrives, the request is answered with a report.
         xcb_damage_create(display, xcb_generate_id(display),
                           reinterpret_cast<const xcb_create_notify_event_t&>(event).window,
                           XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
@@ -143,7 +143,7 @@ int main(int argc, char* argv[])
     if (waitpid(child, &status, WNOHANG) != 0)
         fail("the program ended by itself");
     kill(child, SIGTERM);
-    // One that knows the signal ends well, and one that does not is ended by it.
+    // A program that does not handle the signal is killed by it, which is fine.
     if (waitpid(child, &status, 0) != child || (WIFEXITED(status) && WEXITSTATUS(status) != 0))
         fail("the program did not end well");
 }

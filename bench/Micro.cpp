@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A store of 1,200 months that all benchmarks share.
+/// The path of a store of 1,200 months, shared by all benchmarks.
 QString sampleStore()
 {
     static const QTemporaryDir folder;
@@ -76,7 +76,7 @@ public:
     }
 };
 
-/// What windows are made of, without a network.
+/// What windows need, without a network.
 struct Parts {
     const QTemporaryDir folder;
     QSettings settings{folder.filePath(u"settings"_s), QSettings::IniFormat};

@@ -11,8 +11,8 @@
 
 // Pulse <seconds>
 //
-// Asks the windows on the X display again and again whether they live, as window managers do (_NET_WM_PING), which a
-// program answers on the thread that its windows live on. Writes how long the slowest answer took, in milliseconds.
+// Keeps pinging the window on the X display, as window managers do (_NET_WM_PING). A program answers on its main
+// thread. Prints how long the slowest answer took, in milliseconds.
 
 namespace {
 
@@ -76,7 +76,7 @@ void waitForAnswer(std::uint32_t number)
     }
 }
 
-/// The window of the program: the only one that is shown.
+/// The window of the program, the only visible one.
 xcb_window_t shownWindow()
 {
     const auto tree = owned(xcb_query_tree_reply(display, xcb_query_tree(display, root), nullptr));
@@ -98,9 +98,9 @@ int main(int argc, char* argv[])
 {
     display = xcb_connect(nullptr, nullptr);
     if (argc != 2 || xcb_connection_has_error(display) != 0)
-        fail("no time is given, or the display cannot be reached");
+        fail("no duration is given, or the display cannot be reached");
     root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
-    // Answers go to whoever hears what becomes of the root window or of its children, and not to all in every toolkit.
+    // Answers are sent to the root window, with one of these event masks or the other depending on the toolkit.
     const std::uint32_t answers = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(display, root, XCB_CW_EVENT_MASK, &answers);
     const xcb_window_t window = shownWindow();

@@ -7,14 +7,14 @@
 #include "Month.h"
 #include "Period.h"
 
-/// Opens the store at `path`, or creates it where there is none.
+/// Opens the store at `path`, or creates it.
 inline std::unique_ptr<ModelContainer> openStore(const QString& path)
 {
     return std::make_unique<ModelContainer>(ModelConfiguration{.name = QStringLiteral("Benchmark"), .path = path});
 }
 
-/// Fills a new store with `count` months in a row, those of the current quarter among them, every workday marked, and
-/// with settings that have days marked automatically.
+/// Fills a new store with `count` consecutive months including the current quarter, with every workday marked, and with
+/// settings that enable tracking.
 inline void fillStore(const QString& path, int count)
 {
     const auto container = openStore(path);
