@@ -3,7 +3,7 @@
 
 class QString;
 
-/// The one door to every modal message and question, so that a test can answer in a person's place.
+/// Shows modal messages and questions. Tests answer in the person's place.
 class Alerts {
 public:
     Alerts() = default;
@@ -13,7 +13,7 @@ public:
 
     /// Shows a message about a failure and returns when it is dismissed.
     virtual void showCritical(const QString& message, const QString& informativeText) = 0;
-    /// Asks a question with two answers; true only when the first button was pressed.
+    /// Asks a question with two answers and returns whether the first button was pressed.
     [[nodiscard]] virtual bool confirmWarning(const QString& message, const QString& informativeText,
                                               const QString& firstButton, const QString& secondButton) = 0;
 };

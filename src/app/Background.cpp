@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto noticeWasGiven = u"backgroundNoticeWasGiven"_s;
+constexpr auto noticeWasGiven = "backgroundNoticeWasGiven"_L1;
 
 } // namespace
 
@@ -26,7 +26,7 @@ Background::Background(const ViewParts& parts, AppWindows& windows, Notifier& no
     , m_notifier(notifier)
     , m_settings(settings)
 {
-    connect(&windows, &AppWindows::lastClosed, this, &Background::lastClosed);
+    connect(&windows, &AppWindows::lastClosed, this, &Background::handleLastClosed);
     connect(&notifier, &Notifier::activated, &windows, &AppWindows::openDay);
     connect(&trayHost, &TrayHost::appeared, this, &Background::showTrayIcon);
     connect(&trayHost, &TrayHost::gone, this, [this] { m_trayIcon.reset(); });
@@ -34,7 +34,9 @@ Background::Background(const ViewParts& parts, AppWindows& windows, Notifier& no
 
 Background::~Background() = default;
 
-void Background::lastClosed()
+// Without tracking there is nothing left to do. The first time ever that it continues without a window, the person is
+// told.
+void Background::handleLastClosed()
 {
     if (!isTracking()) {
         Q_EMIT quitRequested();
@@ -57,7 +59,7 @@ void Background::runCheck()
         m_windows.openMain();
 }
 
-// Before the first run is completed nothing is checked.
+// Nothing is checked before the welcome is completed.
 bool Background::isTracking() const
 {
     return m_parts.settings.wifiTrackingEnabled && !m_parts.settings.firstTime;

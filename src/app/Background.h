@@ -12,8 +12,8 @@ class TrayIcon;
 class AppWindows;
 struct ViewParts;
 
-/// What the program is while no window is open: it goes on checking where it tracks, and can be found in the tray and
-/// by its notifications.
+/// Keeps the program reachable without a window, through the tray and its notifications, and decides whether it runs on
+/// when the last window is closed.
 class Background : public QObject {
     Q_OBJECT
 
@@ -22,16 +22,14 @@ public:
                QSettings& settings);
     ~Background() override;
 
-    /// The last window has been closed: with tracking on the checks go on, and the first time ever the person is told
-    /// so; with tracking off there is nothing left to do.
-    void lastClosed();
-    /// One check, or the window where none is made: there is what has to be set first.
+    /// Runs a check, or opens the window if tracking is not set up.
     void runCheck();
 
 Q_SIGNALS:
     void quitRequested();
 
 private:
+    void handleLastClosed();
     [[nodiscard]] bool isTracking() const;
     void showTrayIcon();
 

@@ -9,10 +9,10 @@
 
 using namespace Qt::StringLiterals;
 
-Start readCommandLine(const QStringList& arguments)
+StartMode readCommandLine(const QStringList& arguments)
 {
     if (arguments.size() <= 1)
-        return Start::Shown;
+        return StartMode::Shown;
     const QCommandLineOption atLogin(
         u"at-login"_s,
         QCoreApplication::translate("main", "Start without a window, as at the beginning of a session."));
@@ -26,8 +26,8 @@ Start readCommandLine(const QStringList& arguments)
     parser.addOptions({atLogin, checkNow});
     parser.process(arguments);
     if (parser.isSet(atLogin))
-        return Start::AtLogin;
-    return parser.isSet(checkNow) ? Start::WithCheck : Start::Shown;
+        return StartMode::AtLogin;
+    return parser.isSet(checkNow) ? StartMode::WithCheck : StartMode::Shown;
 }
 
 bool hasOption(std::span<char* const> arguments, std::initializer_list<std::string_view> options)

@@ -7,17 +7,17 @@
 #include <span>
 #include <string_view>
 
-/// What a start is asked for on the command line.
-enum class Start {
+/// What the command line asks for.
+enum class StartMode {
     Shown,
-    /// By the session itself: nothing is shown.
+    /// Started by the session: no window is opened.
     AtLogin,
-    /// With a check: one that runs already makes it, a new one makes it anyway.
+    /// A running program is to check now. A new one checks when it starts anyway.
     WithCheck
 };
 
-/// Help, version and what cannot be understood are printed and end the process.
-[[nodiscard]] Start readCommandLine(const QStringList& arguments);
+/// Prints help, the version or an error if need be, and then ends the process.
+[[nodiscard]] StartMode readCommandLine(const QStringList& arguments);
 
-/// Whether one of the options is there, for what has to be known before there is an application.
+/// Whether one of the options is given. Can be called before there is an application.
 [[nodiscard]] bool hasOption(std::span<char* const> arguments, std::initializer_list<std::string_view> options);

@@ -14,11 +14,11 @@ void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& message, c
 {
     box.setWindowTitle(QApplication::applicationDisplayName());
     box.setIcon(icon);
-    // A path in the text may hold what would be taken for markup.
+    // A path in the text could be taken for markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(message);
     box.setInformativeText(informativeText);
-    // Left to itself the box is as narrow as its shortest text.
+    // Otherwise the box is as narrow as its shortest text.
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
         grid->addItem(new QSpacerItem(textWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }

@@ -10,7 +10,7 @@ class Alerts;
 class AppSettings;
 class ModelContainer;
 
-/// Why the program cannot start. The person has been told.
+/// The program cannot start, and the person has been told why.
 class FatalStop : public std::runtime_error {
 public:
     explicit FatalStop(const QString& message)
@@ -19,14 +19,12 @@ public:
     }
 };
 
-/// The application: it opens the data store, with the person's help where that fails, and holds the records that every
-/// other part works on.
+/// Opens the data store, asking the person what to do if that fails, and finds or creates the settings.
 class PelloryApp {
     Q_DECLARE_TR_FUNCTIONS(PelloryApp)
 
 public:
-    /// Starts up. `dataFolder` is the folder of the user in which programs keep their data. Throws a FatalStop when
-    /// there is no store to work on.
+    /// `dataFolder` is the user's folder for the data of applications. Throws a FatalStop if no store can be opened.
     PelloryApp(const QString& dataFolder, Alerts& alerts);
     ~PelloryApp();
     PelloryApp(const PelloryApp&) = delete;

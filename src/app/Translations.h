@@ -3,11 +3,11 @@
 
 #include <QTranslator>
 
-/// The texts in the person's language, ours and the toolkit's, for as long as this lives. English, in which they are
-/// written, and a language that they are not translated to load nothing.
+/// Translates our texts and the toolkit's for as long as it lives. Nothing is loaded for English, in which the texts
+/// are written, and for languages without a catalogue.
 class Translations {
 public:
-    /// `languages` are names of locales such as "de-AT", the one that is liked best first.
+    /// `languages` are names of locales such as "de-AT", in order of preference.
     explicit Translations(const QStringList& languages);
 
 private:

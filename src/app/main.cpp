@@ -42,26 +42,26 @@ namespace {
 
 Q_LOGGING_CATEGORY(logStart, "pellory.start", QtInfoMsg)
 
-// For whoever measures a start: the time is that of the monotonic clock.
-void logReached(const char* stage)
+// The stages of a start in monotonic time, for benchmarks.
+void logStage(const char* stage)
 {
     using Milliseconds = std::chrono::duration<double, std::milli>;
     const Milliseconds now = std::chrono::steady_clock::now().time_since_epoch();
     qCDebug(logStart, "%s: %.3f ms", stage, now.count());
 }
 
-// The desktop tells its colour scheme only after the window has been drawn: until then the last one holds.
-const auto lastSchemeIsDark = u"appearanceLastSchemeIsDark"_s;
+// The desktop is asked for its colour scheme only after the first paint. Until it answers, the last one is used.
+constexpr auto lastSchemeIsDark = "appearanceLastSchemeIsDark"_L1;
 
-void wear(ColorScheme scheme)
+void applyScheme(ColorScheme scheme)
 {
     QApplication::setPalette(paletteFor(scheme));
 }
 
-void wearLastScheme(const QSettings& settings)
+void applyLastScheme(const QSettings& settings)
 {
     const bool desktopIsDark = colorSchemeOf(QApplication::palette()) == ColorScheme::Dark;
-    wear(settings.value(lastSchemeIsDark, desktopIsDark).toBool() ? ColorScheme::Dark : ColorScheme::Light);
+    applyScheme(settings.value(lastSchemeIsDark, desktopIsDark).toBool() ? ColorScheme::Dark : ColorScheme::Light);
 }
 
 void followColorScheme(Appearance& appearance, QSettings& settings)
@@ -69,13 +69,12 @@ void followColorScheme(Appearance& appearance, QSettings& settings)
     QObject::connect(&appearance, &Appearance::colorSchemeReported, &appearance, [&settings](ColorScheme scheme) {
         if (scheme == colorSchemeOf(QApplication::palette()))
             return;
-        wear(scheme);
+        applyScheme(scheme);
         settings.setValue(lastSchemeIsDark, scheme == ColorScheme::Dark);
     });
 }
 
-// What the program knows of the computer that it runs on.
-struct Computer {
+struct PlatformServices {
     QuitSignals quitSignals;
     SystemClock clock;
     NetworkManagerWiFiClient wifiClient;
@@ -87,108 +86,120 @@ struct Computer {
     StatusNotifierHost trayHost;
 };
 
-// Not quit(), which closes the windows first and lets each of them have its say.
+// Not quit(), which first closes every window.
 void quit()
 {
     QCoreApplication::exit();
 }
 
-int work(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, Start start)
+void openFirstWindow(AppWindows& windows, PlatformServices& platform, StartMode mode)
 {
-    Computer computer;
+    // What is asked of the desktop can wait until there is something to see.
+    const auto afterFirstPaint = [&windows](auto* context, auto start) {
+        QObject::connect(&windows, &AppWindows::mainPainted, context, start, Qt::SingleShotConnection);
+    };
+    afterFirstPaint(&platform.appearance, &Appearance::start);
+    afterFirstPaint(&windows, [] { logStage("window painted"); });
+    if (mode == StartMode::AtLogin) {
+        platform.trayHost.start();
+    } else {
+        afterFirstPaint(&platform.trayHost, &TrayHost::start);
+        windows.openMain();
+        logStage("window built");
+    }
+}
+
+int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, StartMode mode)
+{
+    PlatformServices platform;
     InOfficeCheck check(
-        {pellory.container(), pellory.settings(), computer.wifiClient, computer.notifier, computer.clock});
+        {pellory.container(), pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
     QMetaObject::invokeMethod(
-        &computer.clock, [&check] { check.start(); }, Qt::QueuedConnection);
+        &platform.clock, [&check] { check.start(); }, Qt::QueuedConnection);
 
     ViewSettings viewSettings(settings);
-    LocationManagerKey locationManager(computer.authorization, computer.systemSettings);
-    LaunchAtLogin launchAtLogin(computer.loginItem);
+    LocationManagerKey locationManager(platform.authorization, platform.systemSettings);
+    LaunchAtLogin launchAtLogin(platform.loginItem);
     ModelContext& context = pellory.container().mainContext();
     const ViewParts parts{context,        pellory.settings(),  viewSettings,
-                          computer.clock, computer.wifiClient, locationManager,
+                          platform.clock, platform.wifiClient, locationManager,
                           check,          launchAtLogin};
     AppWindows windows(parts);
-    Background background(parts, windows, computer.notifier, computer.trayHost, settings);
-    followColorScheme(computer.appearance, settings);
+    Background background(parts, windows, platform.notifier, platform.trayHost, settings);
+    followColorScheme(platform.appearance, settings);
 
     QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openMain);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
-    QObject::connect(&computer.quitSignals, &QuitSignals::requested, &windows, quit);
+    QObject::connect(&platform.quitSignals, &QuitSignals::requested, &windows, quit);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
     QObject::connect(&windows, &AppWindows::quitRequested, &windows, quit);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &windows, [&context] { context.save(); });
-    QObject::connect(&computer.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
+    QObject::connect(&platform.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
-    if (start == Start::AtLogin) {
-        computer.trayHost.start();
-    } else {
-        // What is asked of the desktop can wait until there is something to see.
-        QObject::connect(&windows, &AppWindows::mainPainted, &computer.trayHost, &TrayHost::start,
-                         Qt::SingleShotConnection);
-        windows.openMain();
-        logReached("window built");
-    }
-    QObject::connect(&windows, &AppWindows::mainPainted, &computer.appearance, &Appearance::start,
-                     Qt::SingleShotConnection);
-    QObject::connect(
-        &windows, &AppWindows::mainPainted, &windows, [] { logReached("window painted"); }, Qt::SingleShotConnection);
+    openFirstWindow(windows, platform, mode);
     return QApplication::exec();
 }
 
-SingleInstance::Errand errandOf(Start start)
+SingleInstance::Errand requestOf(StartMode mode)
 {
-    switch (start) {
-    case Start::AtLogin:
+    switch (mode) {
+    case StartMode::AtLogin:
         return SingleInstance::Errand::None;
-    case Start::WithCheck:
+    case StartMode::WithCheck:
         return SingleInstance::Errand::Check;
-    case Start::Shown:
+    case StartMode::Shown:
         break;
     }
     return SingleInstance::Errand::Show;
 }
 
-int run(SingleInstance& instance)
+// False if a running program has taken over the request. Throws a FatalStop if one runs that does not respond.
+bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
 {
-    const Start start = readCommandLine(QApplication::arguments());
-    // Not earlier: what makes the application takes variables out of the environment.
-    std::jthread fonts = start == Start::AtLogin ? std::jthread() : preloadFontConfig();
-    installAccessibleRoles();
-    QSettings settings;
-    wearLastScheme(settings);
-    MessageBoxAlerts alerts;
-    // Before anything touches the store: two programs would each hold their own copies of the records.
-    switch (instance.claim(errandOf(start))) {
+    switch (instance.claim(requestOf(mode))) {
     case SingleInstance::Claim::Owned:
-        break;
+        return true;
     case SingleInstance::Claim::HandedOver:
-        return EXIT_SUCCESS;
+        return false;
     case SingleInstance::Claim::Refused:
-        alerts.showCritical(
-            QApplication::translate("main", "Pellory is running already"),
-            QApplication::translate("main", "It does not answer. End it, or log out and in again, and start anew."));
-        throw FatalStop(u"Pellory is running already and does not answer"_s);
+        break;
     }
-    logReached("name owned");
-    PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
-    logReached("store open");
-    if (fonts.joinable())
-        fonts.join();
-    logReached("fonts read");
-    return work(pellory, settings, alerts, instance, start);
+    alerts.showCritical(
+        QApplication::translate("main", "Pellory is running already"),
+        QApplication::translate("main", "It does not answer. End it, or log out and in again, and start anew."));
+    throw FatalStop(u"Pellory is running already and does not answer"_s);
 }
 
-void introduce()
+int run(SingleInstance& instance)
+{
+    const StartMode mode = readCommandLine(QApplication::arguments());
+    // Only now: the constructor of the application removes variables from the environment, which a thread could read.
+    std::jthread fonts = mode == StartMode::AtLogin ? std::jthread() : preloadFontConfig();
+    installAccessibleRoles();
+    QSettings settings;
+    applyLastScheme(settings);
+    MessageBoxAlerts alerts;
+    // Before anything touches the store: two programs would each hold their own copies of the records.
+    if (!claimName(instance, mode, alerts))
+        return EXIT_SUCCESS;
+    logStage("name owned");
+    PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
+    logStage("store open");
+    if (fonts.joinable())
+        fonts.join();
+    logStage("fonts read");
+    return runApplication(pellory, settings, alerts, instance, mode);
+}
+
+void setApplicationMetadata()
 {
     QCoreApplication::setOrganizationName(u"Pellory"_s);
     QCoreApplication::setApplicationName(u"Pellory"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(PELLORY_VERSION));
 }
 
-// A text can be had without a display.
-bool isTextWanted(std::span<char* const> arguments)
+bool asksForText(std::span<char* const> arguments)
 {
     return hasOption(arguments, {"-h", "--help", "--help-all", "-v", "--version"});
 }
@@ -206,16 +217,16 @@ int printText(int argc, char* argv[])
 int main(int argc, char* argv[])
 {
     limitMallocArenas();
-    introduce();
+    setApplicationMetadata();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
-    if (isTextWanted(arguments))
+    if (asksForText(arguments)) // for which no display is needed
         return printText(argc, argv);
     logToJournalIfPresent();
-    logReached("program loaded");
+    logStage("program loaded");
     SingleInstance instance;
     QApplication::setStyle(u"Fusion"_s);
     const QApplication application(argc, argv);
-    logReached("toolkit ready");
+    logStage("toolkit ready");
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -223,7 +234,7 @@ int main(int argc, char* argv[])
     try {
         return run(instance);
     } catch (const FatalStop& stop) {
-        // Something that the person can mend ends the program without a core dump.
+        // No core dump for something that the person can fix.
         qCritical("%s", stop.what());
         return EXIT_FAILURE;
     }

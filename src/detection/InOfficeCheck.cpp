@@ -37,11 +37,11 @@ QCoro::Task<> InOfficeCheck::run()
     try {
         co_await check(true);
         for (;;) {
-            co_await sleep();
+            co_await sleepUntilNextCheck();
             co_await check(true);
         }
     } catch (const Abandoned&) {
-        // The program ends, and this with it.
+        // The program is ending.
     }
 }
 
@@ -50,7 +50,7 @@ QCoro::Task<> InOfficeCheck::checkOnce(bool markPreviousWorkday)
     try {
         co_await check(markPreviousWorkday);
     } catch (const Abandoned&) {
-        // The program ends, and this with it.
+        // The program is ending.
     }
 }
 
@@ -96,21 +96,21 @@ void InOfficeCheck::report(const char* failure)
                            u"detection-problem"_s});
 }
 
-QCoro::Task<> InOfficeCheck::sleep()
+QCoro::Task<> InOfficeCheck::sleepUntilNextCheck()
 {
     const std::chrono::seconds duration = std::max(checkInterval(m_parts.settings), shortestSleep);
     qCDebug(logDetection, "Sleeping for %lld seconds", qint64(duration.count()));
     nextCheck = m_parts.clock.now().addDuration(duration);
     const bool failedBefore = m_lastSleepFailed;
-    const bool isDone = co_await isSleepDone(duration);
-    m_lastSleepFailed = !isDone;
+    const bool hasSlept = co_await trySleep(duration);
+    m_lastSleepFailed = !hasSlept;
     if (failedBefore && m_lastSleepFailed) {
-        // The check that follows a failed sleep at once must not become a loop without rest.
+        // A failed sleep is followed by a check at once. If it fails again and again, that must not be a busy loop.
         co_await delay(std::min(duration, longestTimer), &m_parts.clock);
     }
 }
 
-QCoro::Task<bool> InOfficeCheck::isSleepDone(std::chrono::seconds duration)
+QCoro::Task<bool> InOfficeCheck::trySleep(std::chrono::seconds duration)
 {
     try {
         co_await m_parts.clock.sleep(duration);

@@ -15,7 +15,7 @@ class ModelContainer;
 class Notifier;
 class WiFiClient;
 
-/// What a check works with.
+/// What a check needs.
 struct CheckParts {
     ModelContainer& container;
     AppSettings& settings;
@@ -24,10 +24,10 @@ struct CheckParts {
     Clock& clock;
 };
 
-/// The product of minutes and 60. One that is no 64-bit number stops the program.
+/// The interval of the settings, in seconds. One that overflows 64 bits stops the program.
 [[nodiscard]] std::chrono::seconds checkInterval(const AppSettings& settings);
 
-/// Finds out whether the person is at the office and writes it down: once when asked, and by itself again and again.
+/// Checks whether the person is at the office and marks the day, periodically and on request.
 class InOfficeCheck {
     Q_DECLARE_TR_FUNCTIONS(InOfficeCheck)
 
@@ -40,19 +40,19 @@ public:
     InOfficeCheck& operator=(const InOfficeCheck&) = delete;
     ~InOfficeCheck() = default;
 
-    /// Begins to check: now, and then after each interval of the settings, which is read anew every time. Goes on until
-    /// the clock or the Wi-Fi client is destroyed. To be called once.
+    /// Starts the periodic checks: one now, then one after each interval, which is read from the settings every time.
+    /// They end when the clock or the Wi-Fi client is destroyed. Must be called only once.
     void start() { run(); }
 
-    /// One check. True when it has marked today as in the office. A failure is logged and told to the person; only
-    /// Abandoned is thrown.
+    /// Runs one check and returns whether it marked today as in the office. A failure is logged and reported to the
+    /// person; only Abandoned is thrown.
     QCoro::Task<bool> check(bool markPreviousWorkday);
 
-    /// Begins one check, for which nobody waits.
+    /// Starts one check without waiting for its result.
     void checkNow(bool markPreviousWorkday) { checkOnce(markPreviousWorkday); }
 
-    /// When the last check looked for networks that was not skipped, and when the next one is due by itself. Invalid
-    /// where there is none.
+    /// When a check last looked for networks, and when the next periodic one is due. Invalid if there is none; skipped
+    /// checks do not count.
     QProperty<QDateTime> lastCheck;
     QProperty<QDateTime> nextCheck;
 
@@ -61,8 +61,8 @@ private:
     QCoro::Task<> checkOnce(bool markPreviousWorkday);
     QCoro::Task<bool> detectAndUpdate(bool markPreviousWorkday);
     void report(const char* failure);
-    QCoro::Task<> sleep();
-    QCoro::Task<bool> isSleepDone(std::chrono::seconds duration);
+    QCoro::Task<> sleepUntilNextCheck();
+    QCoro::Task<bool> trySleep(std::chrono::seconds duration);
 
     CheckParts m_parts;
     bool m_lastSleepFailed = false;

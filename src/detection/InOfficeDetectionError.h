@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-/// Why the automatic marking could not do its work.
+/// Why a check failed.
 class InOfficeDetectionError : public std::runtime_error {
     Q_DECLARE_TR_FUNCTIONS(InOfficeDetectionError)
 
@@ -15,7 +15,7 @@ public:
     explicit InOfficeDetectionError(Case code);
 
     [[nodiscard]] Case code() const { return m_code; }
-    /// In the person's language.
+    /// Translated.
     [[nodiscard]] QString description() const { return QString::fromUtf8(what()); }
 
 private:

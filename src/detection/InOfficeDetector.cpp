@@ -11,7 +11,7 @@
 
 namespace {
 
-// Two texts are canonically equivalent when their decompositions are the same.
+// Two texts are canonically equivalent if their decompositions are equal.
 QString decomposed(const QString& text)
 {
     return text.normalized(QString::NormalizationForm_D);

@@ -7,7 +7,7 @@
 
 class WiFiClient;
 
-/// Finds out whether an office network is in range, by one scan per question.
+/// Finds out whether an office network is in range.
 class InOfficeDetector {
 public:
     explicit InOfficeDetector(WiFiClient& client)
@@ -15,9 +15,9 @@ public:
     {
     }
 
-    /// Whether any network in range has one of these names: the whole name, canonically equivalent by Unicode and
-    /// otherwise exact. Throws an InOfficeDetectionError without a radio that is on, and the scan's own error when the
-    /// scan fails.
+    /// Scans once and returns whether any network in range has one of these names. Names match if they are canonically
+    /// equivalent in Unicode. Throws an InOfficeDetectionError if there is no radio or it is off, and a PlatformError
+    /// if the scan fails.
     [[nodiscard]] QCoro::Task<bool> isInOffice(QStringList officeSsids);
 
 private:

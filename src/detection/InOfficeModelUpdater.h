@@ -12,8 +12,8 @@ class Month;
 class Notifier;
 enum class DayState;
 
-/// Writes what a detection has found into the records. No other part marks days by itself, and a state that the person
-/// has chosen is never touched: only unknown and planned days are.
+/// Marks days automatically, by what a detection has found. The person's own marks win: only unknown and planned days
+/// change.
 class InOfficeModelUpdater {
     Q_DECLARE_TR_FUNCTIONS(InOfficeModelUpdater)
 
@@ -25,9 +25,9 @@ public:
     {
     }
 
-    /// Marks today as in the office when that is where the person is and, if asked, the last workday before today as
-    /// out of office. True when this call has marked today. Throws an InOfficeDetectionError where a month is stored
-    /// twice, and a StoreError when the store cannot be read; what was marked before that stays marked.
+    /// Marks today as in the office if `inOfficeNow`, and the last workday before today as out of office if
+    /// `markPreviousWorkday`. Returns whether today was marked. Throws an InOfficeDetectionError if a month is stored
+    /// more than once, and a StoreError if the store cannot be read; marks made before that stay.
     bool update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday);
 
 private:

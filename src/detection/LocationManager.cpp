@@ -52,7 +52,7 @@ void LocationManager::didChangeAuthorization()
 void LocationManager::update(AuthorizationStatus status)
 {
     const AuthorizationStatus before = locationPermissionStatus;
-    // The same change may have been told of twice before it is carried out.
+    // The same change may have been queued twice.
     if (status == before)
         return;
     locationPermissionStatus = status;

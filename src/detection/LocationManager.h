@@ -9,14 +9,14 @@
 
 class SystemSettings;
 
-/// Knows whether this program may learn the names of networks.
+/// Tracks whether this program is allowed to see the names of networks.
 class LocationManager : public QObject {
 public:
     LocationManager(LocationAuthorization& authorization, SystemSettings& systemSettings);
 
     QProperty<AuthorizationStatus> locationPermissionStatus;
 
-    /// Through which a screen asks for the permission.
+    /// For a screen that asks for the permission.
     [[nodiscard]] LocationAuthorization& locationManager() { return m_authorization; }
     void openLocationSettings();
 
@@ -28,7 +28,7 @@ private:
     SystemSettings& m_systemSettings;
 };
 
-/// Through which views come to the one location manager of the process. It is made when the first of them needs it.
+/// Gives views the one location manager of the process, which is created on first use.
 class LocationManagerKey {
 public:
     LocationManagerKey(LocationAuthorization& authorization, SystemSettings& systemSettings)

@@ -3,5 +3,5 @@
 
 #include <QLoggingCategory>
 
-/// What the automatic marking does. No network is named here that is not in the person's own list.
+/// The log of automatic marking. It names only networks that are on the person's own list.
 Q_DECLARE_LOGGING_CATEGORY(logDetection)

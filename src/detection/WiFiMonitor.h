@@ -8,13 +8,13 @@
 
 class WiFiClient;
 
-/// Knows whether Wi-Fi is on, for as long as somebody wants to show it.
+/// Tracks whether Wi-Fi is on, for a screen that shows it.
 class WiFiMonitor : public QObject {
 public:
     explicit WiFiMonitor(WiFiClient& client);
     ~WiFiMonitor() override;
 
-    /// True until the computer has told otherwise.
+    /// True until it was read for the first time.
     QProperty<bool> isWiFiEnabled{true};
 
 private:
