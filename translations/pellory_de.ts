@@ -967,20 +967,20 @@
         <translation>Pellory läuft bereits</translation>
     </message>
     <message>
-        <source>It does not answer. End it, or log out and in again, and start anew.</source>
-        <translation>Es antwortet nicht. Bitte das laufende Programm beenden oder neu anmelden und noch einmal starten.</translation>
+        <source>It does not answer. End it, or log out and in again, and start Pellory again.</source>
+        <translation>Es antwortet nicht. Beenden Sie es, oder melden Sie sich ab und wieder an, und starten Sie Pellory dann erneut.</translation>
     </message>
     <message>
-        <source>Start without a window, as at the beginning of a session.</source>
-        <translation>Ohne Fenster starten, wie am Anfang einer Sitzung.</translation>
+        <source>Start without a window, as at login.</source>
+        <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
     </message>
     <message>
-        <source>Have the running Pellory look for office networks now.</source>
+        <source>Make the running Pellory check for office networks now.</source>
         <translation>Das laufende Pellory sofort nach Büronetzwerken suchen lassen.</translation>
     </message>
     <message>
-        <source>A calendar of days in the office that marks them by the Wi-Fi networks in range.</source>
-        <translation>Ein Kalender der Tage im Büro, der sie an den WLANs in Reichweite erkennt.</translation>
+        <source>A calendar of your days in the office that marks them by the Wi-Fi networks in range.</source>
+        <translation>Ein Kalender Ihrer Bürotage, der sie an den WLANs in Reichweite erkennt.</translation>
     </message>
 </context>
 </TS>

@@ -13,14 +13,13 @@ StartMode readCommandLine(const QStringList& arguments)
 {
     if (arguments.size() <= 1)
         return StartMode::Shown;
-    const QCommandLineOption atLogin(
-        u"at-login"_s,
-        QCoreApplication::translate("main", "Start without a window, as at the beginning of a session."));
+    const QCommandLineOption atLogin(u"at-login"_s,
+                                     QCoreApplication::translate("main", "Start without a window, as at login."));
     const QCommandLineOption checkNow(
-        u"check-now"_s, QCoreApplication::translate("main", "Have the running Pellory look for office networks now."));
+        u"check-now"_s, QCoreApplication::translate("main", "Make the running Pellory check for office networks now."));
     QCommandLineParser parser;
     parser.setApplicationDescription(QCoreApplication::translate(
-        "main", "A calendar of days in the office that marks them by the Wi-Fi networks in range."));
+        "main", "A calendar of your days in the office that marks them by the Wi-Fi networks in range."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({atLogin, checkNow});

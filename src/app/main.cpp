@@ -154,7 +154,7 @@ SingleInstance::Errand requestOf(StartMode mode)
     return SingleInstance::Errand::Show;
 }
 
-// False if a running program has taken over the request. Throws a FatalStop if one runs that does not respond.
+// False if a running program has taken over the request. Throws a FatalStop if one runs that does not answer.
 bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
 {
     switch (instance.claim(requestOf(mode))) {
@@ -165,9 +165,9 @@ bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
     case SingleInstance::Claim::Refused:
         break;
     }
-    alerts.showCritical(
-        QApplication::translate("main", "Pellory is running already"),
-        QApplication::translate("main", "It does not answer. End it, or log out and in again, and start anew."));
+    alerts.showCritical(QApplication::translate("main", "Pellory is running already"),
+                        QApplication::translate(
+                            "main", "It does not answer. End it, or log out and in again, and start Pellory again."));
     throw FatalStop(u"Pellory is running already and does not answer"_s);
 }
 
