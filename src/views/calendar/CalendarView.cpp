@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarView.h"
 
+#include "Accessibility.h"
 #include "Clock.h"
 #include "CommandClickableButton.h"
 #include "Follow.h"
@@ -40,6 +41,7 @@ CalendarView::CalendarView(ModelContext& context, const ViewSettings& viewSettin
     , m_editor(context)
     , m_highlighted(highlighted)
 {
+    setAccessibleRole(*this, QAccessible::Grouping);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins({});
     grid->setHorizontalSpacing(2);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "KeyCap.h"
 
+#include "Accessibility.h"
 #include "Fonts.h"
 #include "Theme.h"
 
@@ -33,6 +34,7 @@ KeyCap::KeyCap(const QString& name, QWidget* parent)
     , m_name(name)
 {
     setFont(fonts::caption(font()));
+    setAccessibleRole(*this, QAccessible::StaticText);
     setAccessibleName(name);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StepDots.h"
 
+#include "Accessibility.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -16,6 +17,7 @@ StepDots::StepDots(int count, QWidget* parent)
     : QWidget(parent)
     , m_count(count)
 {
+    setAccessibleRole(*this, QAccessible::Graphic);
     setFixedSize((count - 1) * distance + diameter + 2, diameter + 2);
 }
 

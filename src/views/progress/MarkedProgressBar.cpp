@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MarkedProgressBar.h"
 
+#include "Accessibility.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
 #include "StatisticsTexts.h"
@@ -35,6 +36,7 @@ QFont labelFont(const QWidget& widget)
 MarkedProgressBar::MarkedProgressBar(QWidget* parent)
     : QWidget(parent)
 {
+    setAccessibleRole(*this, QAccessible::Graphic);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_hoverDelay.setSingleShot(true);

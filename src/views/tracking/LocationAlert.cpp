@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LocationAlert.h"
 
+#include "Accessibility.h"
 #include "AppSettings.h"
 #include "Button.h"
 #include "ButtonRow.h"
@@ -23,6 +24,7 @@ LocationAlert::LocationAlert(TrackingStatus& status, AppSettings& settings, Loca
     m_access->setProminent(true);
     auto* disable = new Button(tr("Disable Automatic Tracking"));
     disable->setObjectName("disableTracking"_L1);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
     setAccessibleName(tr("Location Permissions Needed"));
     auto* card = new Card;
     auto* around = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
+#include "Accessibility.h"
 #include "AppIcon.h"
 #include "AppSettings.h"
 #include "CalendarViewSettingsView.h"
@@ -171,6 +172,7 @@ QWidget* AppWindows::makeSettings()
 
 void AppWindows::prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize)
 {
+    setAccessibleRole(window, QAccessible::Window);
     window.setObjectName(name);
     window.setWindowTitle(title);
     window.setAttribute(Qt::WA_DeleteOnClose);
