@@ -17,7 +17,7 @@ constexpr int roomForRings = 5;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
 
-const HoverLabel::Style labelStyle{.padding = {10, 4, 10, 4}, .radius = 6.0, .backgroundOpacity = 0.9};
+constexpr HoverLabel::Style labelStyle{.padding = {10, 4, 10, 4}, .radius = 6.0, .backgroundOpacity = 0.9};
 
 void drawRing(QPainter& painter, const QRectF& face, qreal outset, const QPen& pen)
 {

@@ -6,59 +6,65 @@
 
 namespace {
 
-constexpr QRgb nearBlack = 0xff202124;
-constexpr QRgb white = 0xffffffff;
+// As QColor(QRgb), which is not constexpr.
+constexpr QColor rgb(QRgb color)
+{
+    return {qRed(color), qGreen(color), qBlue(color)};
+}
 
-const Theme light{
-    .page = 0xfff6f6f7,
-    .card = 0xffffffff,
-    .border = 0xffe2e2e5,
-    .text = 0xff202124,
-    .dimText = 0xff5f6065,
-    .accent = 0xff175fcf,
-    .errorText = 0xffb3261e,
-    .field = 0xffffffff,
-    .fieldBorder = 0xff8b8d94,
-    .trough = 0xffe4e4e8,
-    .chosen = 0xffffffff,
-    .progressTrack = 0xffe4e4e8,
-    .progress = 0xff1a7f37,
-    .progressText = 0xff1a7f37,
-    .prediction = 0xfff5c518,
-    .predictionText = 0xff9a6700,
-    .hoverLabel = 0xff55585e,
-    .unknown = 0xff1f6feb,
-    .inOffice = 0xff1a7f37,
-    .outOfOffice = 0xffd1242f,
-    .vacationDay = 0xff8250df,
-    .willBeInOffice = 0xfff5c518,
-    .nonWorkday = 0xffb9bcc2,
+constexpr QColor nearBlack = rgb(0x202124);
+constexpr QColor white = rgb(0xffffff);
+
+constexpr Theme light{
+    .page = rgb(0xf6f6f7),
+    .card = rgb(0xffffff),
+    .border = rgb(0xe2e2e5),
+    .text = rgb(0x202124),
+    .dimText = rgb(0x5f6065),
+    .accent = rgb(0x175fcf),
+    .errorText = rgb(0xb3261e),
+    .field = rgb(0xffffff),
+    .fieldBorder = rgb(0x8b8d94),
+    .trough = rgb(0xe4e4e8),
+    .chosen = rgb(0xffffff),
+    .progressTrack = rgb(0xe4e4e8),
+    .progress = rgb(0x1a7f37),
+    .progressText = rgb(0x1a7f37),
+    .prediction = rgb(0xf5c518),
+    .predictionText = rgb(0x9a6700),
+    .hoverLabel = rgb(0x55585e),
+    .unknown = rgb(0x1f6feb),
+    .inOffice = rgb(0x1a7f37),
+    .outOfOffice = rgb(0xd1242f),
+    .vacationDay = rgb(0x8250df),
+    .willBeInOffice = rgb(0xf5c518),
+    .nonWorkday = rgb(0xb9bcc2),
 };
 
-const Theme dark{
-    .page = 0xff1e1f22,
-    .card = 0xff27282c,
-    .border = 0xff3a3b40,
-    .text = 0xfff2f2f4,
-    .dimText = 0xffa4a6ac,
-    .accent = 0xff5b9bff,
-    .errorText = 0xffff8a80,
-    .field = 0xff1e1f22,
-    .fieldBorder = 0xff74767d,
-    .trough = 0xff33343a,
-    .chosen = 0xff4a4c53,
-    .progressTrack = 0xff3a3b41,
-    .progress = 0xff238a43,
-    .progressText = 0xff45b868,
-    .prediction = 0xfff2c94c,
-    .predictionText = 0xfff2c94c,
-    .hoverLabel = 0xff5f6268,
-    .unknown = 0xff2f7af0,
-    .inOffice = 0xff238a43,
-    .outOfOffice = 0xffdc3d43,
-    .vacationDay = 0xff8e5ce6,
-    .willBeInOffice = 0xfff2c94c,
-    .nonWorkday = 0xff5b5e66,
+constexpr Theme dark{
+    .page = rgb(0x1e1f22),
+    .card = rgb(0x27282c),
+    .border = rgb(0x3a3b40),
+    .text = rgb(0xf2f2f4),
+    .dimText = rgb(0xa4a6ac),
+    .accent = rgb(0x5b9bff),
+    .errorText = rgb(0xff8a80),
+    .field = rgb(0x1e1f22),
+    .fieldBorder = rgb(0x74767d),
+    .trough = rgb(0x33343a),
+    .chosen = rgb(0x4a4c53),
+    .progressTrack = rgb(0x3a3b41),
+    .progress = rgb(0x238a43),
+    .progressText = rgb(0x45b868),
+    .prediction = rgb(0xf2c94c),
+    .predictionText = rgb(0xf2c94c),
+    .hoverLabel = rgb(0x5f6268),
+    .unknown = rgb(0x2f7af0),
+    .inOffice = rgb(0x238a43),
+    .outOfOffice = rgb(0xdc3d43),
+    .vacationDay = rgb(0x8e5ce6),
+    .willBeInOffice = rgb(0xf2c94c),
+    .nonWorkday = rgb(0x5b5e66),
 };
 
 // WCAG 2.1, "relative luminance", 0 to 1.

@@ -24,7 +24,7 @@ constexpr qreal barRadius = 7.0;
 constexpr int overhang = static_cast<int>(ProgressBarGeometry::captionOverhang);
 constexpr int defaultBarWidth = 375;
 
-const HoverLabel::Style tooltipStyle{.padding = {6, 6, 6, 6}, .radius = 4.0, .backgroundOpacity = 1.0};
+constexpr HoverLabel::Style tooltipStyle{.padding = {6, 6, 6, 6}, .radius = 4.0, .backgroundOpacity = 1.0};
 
 QFont labelFont(const QWidget& widget)
 {
