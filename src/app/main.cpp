@@ -141,23 +141,23 @@ int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, Sin
     return QApplication::exec();
 }
 
-SingleInstance::Errand requestOf(StartMode mode)
+SingleInstance::Request requestFor(StartMode mode)
 {
     switch (mode) {
     case StartMode::AtLogin:
-        return SingleInstance::Errand::None;
+        return SingleInstance::Request::None;
     case StartMode::WithCheck:
-        return SingleInstance::Errand::Check;
+        return SingleInstance::Request::Check;
     case StartMode::Shown:
         break;
     }
-    return SingleInstance::Errand::Show;
+    return SingleInstance::Request::Show;
 }
 
 // False if a running program has taken over the request. Throws a FatalStop if one runs that does not answer.
 bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
 {
-    switch (instance.claim(requestOf(mode))) {
+    switch (instance.claim(requestFor(mode))) {
     case SingleInstance::Claim::Owned:
         return true;
     case SingleInstance::Claim::HandedOver:

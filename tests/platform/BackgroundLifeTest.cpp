@@ -13,7 +13,7 @@
 
 using namespace std::chrono_literals;
 using Claim = SingleInstance::Claim;
-using Errand = SingleInstance::Errand;
+using Request = SingleInstance::Request;
 
 TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
 {
@@ -81,24 +81,24 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
     qunsetenv("DESKTOP_STARTUP_ID");
     const auto interface = u"org.freedesktop.Application"_s;
     PlayedService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
-    const std::tuple<const char*, Errand, Claim> rows[]{
-        {"raise ValueError", Errand::None, Claim::HandedOver},
-        {"assert args[-1] == {'activation-token': 'token'}", Errand::Show, Claim::HandedOver},
-        {"assert list(args[:2]) == ['run-check', []]", Errand::Check, Claim::HandedOver},
-        {"raise ValueError", Errand::Show, Claim::Refused},
-        {"import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", Errand::Check, Claim::Refused},
-        {"import os; os._exit(1)", Errand::Show, Claim::Owned}};
-    for (const auto& [code, errand, outcome] : rows) {
+    const std::tuple<const char*, Request, Claim> rows[]{
+        {"raise ValueError", Request::None, Claim::HandedOver},
+        {"assert args[-1] == {'activation-token': 'token'}", Request::Show, Claim::HandedOver},
+        {"assert list(args[:2]) == ['run-check', []]", Request::Check, Claim::HandedOver},
+        {"raise ValueError", Request::Show, Claim::Refused},
+        {"import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", Request::Check, Claim::Refused},
+        {"import os; os._exit(1)", Request::Show, Claim::Owned}};
+    for (const auto& [code, request, outcome] : rows) {
         first.startMock({first.name, first.path, interface});
-        const bool isCheck = errand == Errand::Check;
+        const bool isCheck = request == Request::Check;
         first.tell("AddMethod", interface, isCheck ? u"ActivateAction"_s : u"Activate"_s,
                    isCheck ? u"sava{sv}"_s : u"a{sv}"_s, QString(), QString::fromLatin1(code));
-        EXPECT_EQ(SingleInstance(200ms).claim(errand), outcome) << code;
+        EXPECT_EQ(SingleInstance(200ms).claim(request), outcome) << code;
         first.bus.unregisterService(first.name);
         first.stop();
     }
     SingleInstance instance;
-    EXPECT_EQ(instance.claim(Errand::Show), Claim::Owned);
+    EXPECT_EQ(instance.claim(Request::Show), Claim::Owned);
     QSignalSpy activated(&instance, &SingleInstance::activated);
     const auto bus = QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"other"_s);
     const QVariantMap id{{u"desktop-startup-id"_s, u"id"_s}};
@@ -119,11 +119,11 @@ TEST(SingleInstanceTest, theFirstOneIsToldOfOthersUnlessItIsDead)
     EXPECT_TRUE(checkRequested.size() == 1 && activated.isEmpty());
     QDBusConnection::disconnectFromBus(u"other"_s);
     first.bus.unregisterService(first.name);
-    EXPECT_EQ(instance.claim(Errand::Show, noBus), Claim::Owned);
+    EXPECT_EQ(instance.claim(Request::Show, noBus), Claim::Owned);
     QFile lock(folder.filePath(u"pellory.lock"_s));
     EXPECT_TRUE(lock.open(QFile::ReadWrite) &&
                 lock.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFile::FileModificationTime));
-    EXPECT_EQ(SingleInstance().claim(Errand::Show, noBus), Claim::Refused) << "of whatever age the lock is";
+    EXPECT_EQ(SingleInstance().claim(Request::Show, noBus), Claim::Refused) << "of whatever age the lock is";
 }
 
 TEST(QuitSignalsTest, areHeardOfAndAreTheSystemsOwnAfterwards)

@@ -28,12 +28,12 @@ SingleInstance::SingleInstance(std::chrono::milliseconds timeout)
         m_platformData.insert(startupIdKey, qEnvironmentVariable("DESKTOP_STARTUP_ID"));
 }
 
-SingleInstance::Claim SingleInstance::claim(Errand errand)
+SingleInstance::Claim SingleInstance::claim(Request request)
 {
-    return claim(errand, QDBusConnection::sessionBus());
+    return claim(request, QDBusConnection::sessionBus());
 }
 
-SingleInstance::Claim SingleInstance::claim(Errand errand, QDBusConnection bus)
+SingleInstance::Claim SingleInstance::claim(Request request, QDBusConnection bus)
 {
     // Before the name, so that nobody finds the name without an object behind it.
     if (!bus.isConnected() || !bus.registerObject(ownPath, this, QDBusConnection::ExportScriptableSlots))
@@ -45,8 +45,8 @@ SingleInstance::Claim SingleInstance::claim(Errand errand, QDBusConnection bus)
         if (name == QDBusConnectionInterface::ServiceRegistered)
             return Claim::Owned;
         const QString owner = bus.interface()->serviceOwner(ownService);
-        if (errand == Errand::None ||
-            bus.call(messageFor(errand), QDBus::Block, m_timeout).type() == QDBusMessage::ReplyMessage)
+        if (request == Request::None ||
+            bus.call(messageFor(request), QDBus::Block, m_timeout).type() == QDBusMessage::ReplyMessage)
             return Claim::HandedOver;
         // One that has died without an answer is no longer the owner.
         if (!owner.isEmpty() && bus.interface()->serviceOwner(ownService) == owner)
@@ -55,9 +55,9 @@ SingleInstance::Claim SingleInstance::claim(Errand errand, QDBusConnection bus)
     return Claim::Refused;
 }
 
-QDBusMessage SingleInstance::messageFor(Errand errand) const
+QDBusMessage SingleInstance::messageFor(Request request) const
 {
-    const bool isCheck = errand == Errand::Check;
+    const bool isCheck = request == Request::Check;
     auto message =
         QDBusMessage::createMethodCall(ownService, ownPath, interface, isCheck ? u"ActivateAction"_s : u"Activate"_s);
     if (isCheck)

@@ -19,14 +19,14 @@ class SingleInstance : public QObject {
 public:
     enum class Claim { Owned, HandedOver, Refused };
     /// What the one that is there already has to do.
-    enum class Errand { None, Show, Check };
+    enum class Request { None, Show, Check };
 
     /// Reads from the environment what the desktop gave for the start. A QApplication takes some of that away.
     explicit SingleInstance(std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
-    /// Becomes the one instance or hands over to the one that is there; refused when that has an errand and is deaf.
-    [[nodiscard]] Claim claim(Errand errand);
-    [[nodiscard]] Claim claim(Errand errand, QDBusConnection bus);
+    /// Becomes the one instance or hands over to the one that is there; refused when that has an request and is deaf.
+    [[nodiscard]] Claim claim(Request request);
+    [[nodiscard]] Claim claim(Request request, QDBusConnection bus);
 
     // NOLINTBEGIN(readability-identifier-naming): the names of the interface
     Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& data);
@@ -40,7 +40,7 @@ Q_SIGNALS:
     void checkRequested();
 
 private:
-    [[nodiscard]] QDBusMessage messageFor(Errand errand) const;
+    [[nodiscard]] QDBusMessage messageFor(Request request) const;
     [[nodiscard]] Claim claimLock();
 
     int m_timeout;
