@@ -58,8 +58,8 @@ TEST_F(AutomaticMarkingTest, aDayAtTheOfficeIsMarkedAndToldOnce)
     PlayedService network{QDBusConnection::systemBus(), networkManager, u"/org/freedesktop"_s};
     PlayedService server{QDBusConnection::sessionBus(), u"org.freedesktop.Notifications"_s,
                          u"/org/freedesktop/Notifications"_s};
-    network.startMock(QStringLiteral(NETWORK_MANAGER_TEMPLATE));
-    server.startMock(u"notification_daemon"_s);
+    network.startMock({u"-t"_s, QStringLiteral(NETWORK_MANAGER_TEMPLATE)});
+    server.startMock({u"-t"_s, u"notification_daemon"_s});
     network.tell("AddRadio", u"1"_s, u"wlan0"_s, 100U);
     network.tell("AddNetwork", u"1"_s, u"1"_s, u"Büro"_s.toUtf8(), 0);
     network.tell("AddNetwork", u"1"_s, u"2"_s, u"Neighbour"_s.toUtf8(), 0);

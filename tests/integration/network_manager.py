@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A dbusmock template: NetworkManager with Wi-Fi radios that scan.
 
-It goes beyond the template of dbusmock by scans, permissions, raw names and the changes that a person makes. Times are
-seconds of CLOCK_BOOTTIME, as NetworkManager tells them.
+It adds scans, permissions, raw names and the changes that a person makes to the template of dbusmock. Times are seconds
+of CLOCK_BOOTTIME, as in NetworkManager.
 """
 
 import time
@@ -18,7 +18,6 @@ DEVICES = "/org/freedesktop/NetworkManager/Devices/"
 ACCESS_POINTS = "/org/freedesktop/NetworkManager/AccessPoint/"
 CONNECTIONS = "/org/freedesktop/NetworkManager/ActiveConnection/"
 PERMISSION = "org.freedesktop.NetworkManager.wifi.scan"
-DISCONNECTED, UNAVAILABLE = 30, 20
 AddEthernetDevice = base.AddEthernetDevice
 
 
@@ -35,7 +34,8 @@ def load(mock, parameters):
     manager().AddProperties(base.MANAGER_IFACE, {"PrimaryConnection": dbus.ObjectPath("/")})
     manager().AddMethod(base.MANAGER_IFACE, "GetPermissions", "", "a{ss}", "ret = self.permissions")
     manager().permissions = dbus.Dictionary({PERMISSION: "yes"}, signature="ss")
-    mock.connection.add_message_filter(note_interactive)
+    manager().reads = 0
+    mock.connection.add_message_filter(count_call)
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="ssu")
@@ -69,16 +69,15 @@ def SetState(_self, number, state):
     radio.EmitSignal(base.DEVICE_IFACE, "StateChanged", "uuu", [dbus.UInt32(state), old, dbus.UInt32(0)])
 
 
-@dbus.service.method(MOCK_IFACE, in_signature="b")
-def SetPower(self, is_on):
-    self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "WirelessEnabled", dbus.Boolean(is_on))
-    for path in manager().Get(base.MANAGER_IFACE, "Devices"):
-        self.SetState(path.removeprefix(DEVICES), DISCONNECTED if is_on else UNAVAILABLE)
+@dbus.service.method(MOCK_IFACE, in_signature="s")
+def Connect(self, number):
+    """Makes the connection of a radio the one that everything goes through."""
+    self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "PrimaryConnection", dbus.ObjectPath(CONNECTIONS + number))
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="ssayi")
 def AddNetwork(self, radio, name, ssid, seconds_ago):
-    """An access point with a raw name that was seen last so many seconds ago."""
+    """Adds an access point with a raw name that was last seen so many seconds ago."""
     base.AddAccessPoint(self, DEVICES + radio, name, "", "00:00:00:00:00:00", 2, 2412, 54000, 80, 0)
     properties = dbusmock.get_object(ACCESS_POINTS + name).props[base.ACCESS_POINT_IFACE]
     properties["Ssid"] = dbus.ByteArray(bytes(ssid))
@@ -101,20 +100,20 @@ def Use(self, radio, name):
 
 @dbus.service.method(MOCK_IFACE, in_signature="sis")
 def SetScan(_self, number, milliseconds, error):
-    """How long the scans of a radio take from now on, negative for ever, and the error that refuses them."""
+    """Sets how long the scans of a radio take, negative for ever, or which error refuses them."""
     radio = dbusmock.get_object(DEVICES + number)
     radio.milliseconds, radio.error = milliseconds, error
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="s", out_signature="i")
 def CountScans(_self, number):
-    """One that may ask the person counts for a hundred more."""
+    """A request that may ask the person counts for a hundred more."""
     return dbusmock.get_object(DEVICES + number).scans
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="s")
 def SetPermission(_self, permission):
-    """Empty for a version that does not know this permission. Told twice, as NetworkManager does."""
+    """Empty for a version that does not know this permission. Signals twice, as NetworkManager does."""
     permissions = {PERMISSION: permission} if permission else {}
     manager().permissions = dbus.Dictionary(permissions, signature="ss")
     for _ in range(2):
@@ -123,13 +122,21 @@ def SetPermission(_self, permission):
 
 @dbus.service.method(MOCK_IFACE, in_signature="sssv")
 def Change(_self, path, interface, name, value):
-    told = [interface, {name: value}, []]
     dbusmock.get_object(path).props[interface][name] = value
-    dbusmock.get_object(path).EmitSignal(dbus.PROPERTIES_IFACE, "PropertiesChanged", "sa{sv}as", told)
+    changes = [interface, {name: value}, []]
+    dbusmock.get_object(path).EmitSignal(dbus.PROPERTIES_IFACE, "PropertiesChanged", "sa{sv}as", changes)
 
 
-def note_interactive(_connection, message):
-    if message.get_member() == "RequestScan" and message.get_allow_interactive_authorization():
+@dbus.service.method(MOCK_IFACE, out_signature="i")
+def CountReads(_self):
+    """How often all objects were read."""
+    return manager().reads
+
+
+def count_call(_connection, message):
+    if message.get_member() == "GetManagedObjects":
+        manager().reads += 1
+    elif message.get_member() == "RequestScan" and message.get_allow_interactive_authorization():
         dbusmock.get_object(message.get_path()).scans += 100
     return dbus.lowlevel.HANDLER_RESULT_NOT_YET_HANDLED
 
@@ -137,7 +144,8 @@ def note_interactive(_connection, message):
 def scan(radio):
     radio.scans += 1
     if radio.error:
-        raise dbus.exceptions.DBusException("Scanning is refused here", name=radio.error)
+        name = f"org.freedesktop.NetworkManager.{radio.error}"
+        raise dbus.exceptions.DBusException("Scanning is refused here", name=name)
     if radio.milliseconds >= 0:
         GLib.timeout_add(radio.milliseconds, end_scan, radio)
 

@@ -2,25 +2,16 @@
 #pragma once
 
 #include "NetworkManager.h"
+#include "NetworkScan.h"
 #include "WiFiClient.h"
 
-#include <chrono>
+#include <QHash>
+
 #include <memory>
 
-class QDBusMessage;
-class QDBusServiceWatcher;
+class PowerWatch;
 
-struct ScanTiming {
-    /// How long a scan may take.
-    std::chrono::milliseconds longest = std::chrono::seconds(20);
-    /// How long after its end the last access points are still being listed.
-    std::chrono::milliseconds settling = std::chrono::milliseconds(300);
-    /// How long each question may take.
-    std::chrono::milliseconds answer = busTimeout;
-};
-
-/// The Wi-Fi of this computer as NetworkManager runs it. A NetworkManager that is not there, or not any more, is a
-/// computer without Wi-Fi until it comes back.
+/// Wi-Fi as NetworkManager runs it. Without NetworkManager, or while it is gone, the computer has no Wi-Fi.
 class NetworkManagerWiFiClient : public WiFiClient {
     Q_OBJECT
 
@@ -30,27 +21,21 @@ public:
 
     [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> defaultInterface() override;
     [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> interfaceWithName(QString name) override;
-    /// Asks for a scan only where that needs nobody's leave; otherwise tells the networks that were seen lately.
+    /// Scans only if no password is needed for it; otherwise returns the networks that were seen lately.
     [[nodiscard]] QCoro::Task<QList<WiFiNetwork>> scanForNetworks(QString interfaceName) override;
     void startMonitoringPowerEvents() override;
     void stopMonitoringPowerEvents() override;
 
 private:
-    [[nodiscard]] QCoro::Task<NetworkManagerState> readStateIfThere();
-    [[nodiscard]] QCoro::Task<bool> isScanned(QString devicePath);
-    QCoro::Task<> tellPower();
+    [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
+    [[nodiscard]] QCoro::Task<NetworkManagerState> readStateOrNone();
+    [[nodiscard]] QCoro::Task<QString> devicePath(QString interfaceName);
+    [[nodiscard]] QCoro::Task<bool> scan(QString devicePath);
 
     ScanTiming m_timing;
     NetworkManager m_networkManager;
+    /// By the names of interfaces, as last read.
+    QHash<QString, QString> m_devicePaths;
     int m_monitors = 0;
-    std::unique_ptr<QDBusServiceWatcher> m_serviceWatcher;
-    /// The last default interface that was told of.
-    QString m_toldInterface;
-    bool m_isTelling = false;
-    bool m_isToldOutdated = false;
-
-private Q_SLOTS:
-    void handleManagerChanged(const QDBusMessage& signal);
-    void handleDeviceChanged(uint state, uint oldState);
-    void handleBusGone();
+    std::unique_ptr<PowerWatch> m_powerWatch;
 };

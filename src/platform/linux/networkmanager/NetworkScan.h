@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "BusCall.h"
+
+#include <QObject>
+
+#include <QCoroTask>
+
+#include <chrono>
+
+class NetworkManager;
+class QDBusMessage;
+
+struct ScanTiming {
+    /// How long a scan may take.
+    std::chrono::milliseconds scanTimeout = std::chrono::seconds(20);
+    /// The last access points are listed only some time after a scan has ended.
+    std::chrono::milliseconds settlingTime = std::chrono::milliseconds(300);
+    /// How long each bus call may take.
+    std::chrono::milliseconds callTimeout = busTimeout;
+};
+
+/// One scan by one device.
+class NetworkScan : public QObject {
+    Q_OBJECT
+
+public:
+    NetworkScan(NetworkManager& networkManager, const QString& devicePath, QObject* parent)
+        : QObject(parent)
+        , m_networkManager(networkManager)
+        , m_devicePath(devicePath)
+    {
+    }
+
+    /// Scans, and returns once the results can be read. Returns false if scanning is not permitted. Throws a BusError
+    /// if NetworkManager fails, and Abandoned if it or this is destroyed meanwhile.
+    [[nodiscard]] QCoro::Task<bool> run(ScanTiming timing);
+
+Q_SIGNALS:
+    void ended();
+
+private:
+    [[nodiscard]] QCoro::Task<bool> request();
+
+    NetworkManager& m_networkManager;
+    QString m_devicePath;
+    bool m_hasEnded = false;
+
+private Q_SLOTS:
+    void handlePropertiesChanged(const QDBusMessage& signal);
+};
