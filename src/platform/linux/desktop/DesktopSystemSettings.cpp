@@ -9,15 +9,15 @@ namespace {
 
 struct Page {
     QLatin1StringView desktop;
-    QString program;
-    QStringList arguments;
+    QLatin1StringView program;
+    QLatin1StringView argument;
 };
 
-// KDE has no page for the location; its network page is the nearest to what is missing.
-const Page pages[]{
-    {"GNOME"_L1, u"gnome-control-center"_s, {u"location"_s}},
-    {"KDE"_L1, u"systemsettings"_s, {u"kcm_networkmanagement"_s}},
-    {"KDE"_L1, u"systemsettings5"_s, {u"kcm_networkmanagement"_s}},
+// KDE has no location page; its network page is the closest.
+constexpr Page pages[]{
+    {"GNOME"_L1, "gnome-control-center"_L1, "location"_L1},
+    {"KDE"_L1, "systemsettings"_L1, "kcm_networkmanagement"_L1},
+    {"KDE"_L1, "systemsettings5"_L1, "kcm_networkmanagement"_L1},
 };
 
 } // namespace
@@ -26,7 +26,7 @@ void DesktopSystemSettings::openLocationSettings()
 {
     const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
     for (const Page& page : pages) {
-        if (desktops.contains(page.desktop) && QProcess::startDetached(page.program, page.arguments))
+        if (desktops.contains(page.desktop) && QProcess::startDetached(page.program, {page.argument}))
             return;
     }
     Q_EMIT cannotOpen(tr("No settings page for it could be opened. Whoever administers this computer can let you see "

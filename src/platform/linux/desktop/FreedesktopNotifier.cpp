@@ -14,10 +14,10 @@ namespace {
 
 Q_LOGGING_CATEGORY(logNotifier, "pellory.notifier", QtInfoMsg)
 
-const auto notificationsService = u"org.freedesktop.Notifications"_s;
-const auto notificationsPath = u"/org/freedesktop/Notifications"_s;
-const auto applicationId = u"io.github.pellory.Pellory"_s;
-const auto defaultAction = u"default"_s;
+constexpr auto notificationsService = "org.freedesktop.Notifications"_L1;
+constexpr auto notificationsPath = "/org/freedesktop/Notifications"_L1;
+constexpr auto applicationId = "io.github.pellory.Pellory"_L1;
+constexpr auto defaultAction = "default"_L1;
 constexpr int timeoutOfTheServer = -1;
 constexpr uchar urgencyNormal = 1;
 

@@ -11,11 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto portalService = u"org.freedesktop.portal.Desktop"_s;
-const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
-const auto settingsInterface = u"org.freedesktop.portal.Settings"_s;
-const auto appearanceGroup = u"org.freedesktop.appearance"_s;
-const auto colorSchemeKey = u"color-scheme"_s;
+constexpr auto portalService = "org.freedesktop.portal.Desktop"_L1;
+constexpr auto portalPath = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto settingsInterface = "org.freedesktop.portal.Settings"_L1;
+constexpr auto appearanceGroup = "org.freedesktop.appearance"_L1;
+constexpr auto colorSchemeKey = "color-scheme"_L1;
 
 } // namespace
 

@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto ownService = u"io.github.pellory.Pellory"_s;
-const auto ownPath = u"/io/github/pellory/Pellory"_s;
-const auto interface = u"org.freedesktop.Application"_s;
-const auto checkAction = u"run-check"_s;
-const auto tokenKey = u"activation-token"_s;
-const auto startupIdKey = u"desktop-startup-id"_s;
+constexpr auto ownService = "io.github.pellory.Pellory"_L1;
+constexpr auto ownPath = "/io/github/pellory/Pellory"_L1;
+constexpr auto interface = "org.freedesktop.Application"_L1;
+constexpr auto checkAction = "run-check"_L1;
+constexpr auto tokenKey = "activation-token"_L1;
+constexpr auto startupIdKey = "desktop-startup-id"_L1;
 
 } // namespace
 

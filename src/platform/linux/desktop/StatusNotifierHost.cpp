@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto watcherService = u"org.kde.StatusNotifierWatcher"_s;
-const auto watcherPath = u"/StatusNotifierWatcher"_s;
+constexpr auto watcherService = "org.kde.StatusNotifierWatcher"_L1;
+constexpr auto watcherPath = "/StatusNotifierWatcher"_L1;
 
 } // namespace
 

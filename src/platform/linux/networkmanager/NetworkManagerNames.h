@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QLatin1StringView>
 
-// What NetworkManager is called on the system bus.
-inline const QString networkManagerService = QStringLiteral("org.freedesktop.NetworkManager");
-inline const QString networkManagerPath = QStringLiteral("/org/freedesktop/NetworkManager");
-inline const QString networkManagerObjects = QStringLiteral("/org/freedesktop");
-inline const QString managerInterface = networkManagerService;
-inline const QString deviceInterface = QStringLiteral("org.freedesktop.NetworkManager.Device");
-inline const QString wirelessInterface = QStringLiteral("org.freedesktop.NetworkManager.Device.Wireless");
-inline const QString accessPointInterface = QStringLiteral("org.freedesktop.NetworkManager.AccessPoint");
-inline const QString activeConnectionInterface = QStringLiteral("org.freedesktop.NetworkManager.Connection.Active");
-inline const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+// NetworkManager's names on the system bus.
+inline constexpr QLatin1StringView networkManagerService("org.freedesktop.NetworkManager");
+inline constexpr QLatin1StringView networkManagerPath("/org/freedesktop/NetworkManager");
+inline constexpr QLatin1StringView networkManagerObjects("/org/freedesktop");
+inline constexpr QLatin1StringView managerInterface = networkManagerService;
+inline constexpr QLatin1StringView deviceInterface("org.freedesktop.NetworkManager.Device");
+inline constexpr QLatin1StringView wirelessInterface("org.freedesktop.NetworkManager.Device.Wireless");
+inline constexpr QLatin1StringView accessPointInterface("org.freedesktop.NetworkManager.AccessPoint");
+inline constexpr QLatin1StringView activeConnectionInterface("org.freedesktop.NetworkManager.Connection.Active");
+inline constexpr QLatin1StringView propertiesInterface("org.freedesktop.DBus.Properties");
