@@ -25,7 +25,8 @@ QLabel* addRow(QFormLayout& rows, const QString& name)
 
 } // namespace
 
-TrackingPopover::TrackingPopover(TrackingStatus& status, InOfficeCheck& check, const Clock& clock, QWidget* anchor)
+TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock,
+                                 QWidget* anchor)
     : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
     , m_status(status)
     , m_check(check)

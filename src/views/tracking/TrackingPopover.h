@@ -14,7 +14,7 @@ class TrackingPopover : public QWidget {
     Q_OBJECT
 
 public:
-    TrackingPopover(TrackingStatus& status, InOfficeCheck& check, const Clock& clock, QWidget* anchor);
+    TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock, QWidget* anchor);
 
     void popUp();
 
@@ -26,7 +26,7 @@ private:
     [[nodiscard]] QString timeText(const QDateTime& time) const;
 
     TrackingStatus& m_status;
-    InOfficeCheck& m_check;
+    const InOfficeCheck& m_check;
     const Clock& m_clock;
     QLabel* m_title;
     QFormLayout* m_rows;

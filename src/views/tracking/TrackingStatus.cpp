@@ -6,7 +6,7 @@
 #include "LocationManager.h"
 #include "WiFiMonitor.h"
 
-TrackingStatus::TrackingStatus(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+TrackingStatus::TrackingStatus(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
                                QObject* parent)
     : QObject(parent)
     , m_settings(settings)

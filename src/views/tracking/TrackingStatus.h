@@ -17,7 +17,7 @@ class TrackingStatus : public QObject {
     Q_OBJECT
 
 public:
-    TrackingStatus(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+    TrackingStatus(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
                    QObject* parent = nullptr);
     ~TrackingStatus() override;
 
@@ -38,7 +38,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    AppSettings& m_settings;
+    const AppSettings& m_settings;
     WiFiClient& m_wifiClient;
     LocationManagerKey& m_locationManager;
     std::unique_ptr<WiFiMonitor> m_wifiMonitor;

@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-TrayIcon::TrayIcon(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager)
+TrayIcon::TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager)
     : m_status(std::make_unique<TrackingStatus>(settings, wifiClient, locationManager))
     , m_menu(std::make_unique<QMenu>())
     , m_icon(std::make_unique<QSystemTrayIcon>(QIcon(new PanelIcon)))

@@ -17,7 +17,7 @@ class TrayIcon : public QObject {
     Q_OBJECT
 
 public:
-    TrayIcon(AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager);
+    TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager);
     ~TrayIcon() override;
 
 Q_SIGNALS:
