@@ -274,8 +274,8 @@
 <context>
     <name>DesktopSystemSettings</name>
     <message>
-        <source>No settings page for it could be opened. Whoever administers this computer can let you see Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan.</source>
-        <translation>Dafür ließ sich keine Einstellungsseite öffnen. Wer diesen Computer verwaltet, kann die Suche nach WLAN-Netzwerken erlauben: Die Berechtigung heißt org.freedesktop.NetworkManager.wifi.scan.</translation>
+        <source>No settings page for this could be opened. Ask your administrator to allow you to see Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan.</source>
+        <translation>Dafür ließ sich keine Einstellungsseite öffnen. Bitten Sie Ihren Administrator, Ihnen die Suche nach WLAN-Netzwerken zu erlauben: Die Berechtigung heißt org.freedesktop.NetworkManager.wifi.scan.</translation>
     </message>
 </context>
 <context>

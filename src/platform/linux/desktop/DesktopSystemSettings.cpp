@@ -29,6 +29,6 @@ void DesktopSystemSettings::openLocationSettings()
         if (desktops.contains(page.desktop) && QProcess::startDetached(page.program, {page.argument}))
             return;
     }
-    Q_EMIT cannotOpen(tr("No settings page for it could be opened. Whoever administers this computer can let you see "
-                         "Wi-Fi networks: the permission is called org.freedesktop.NetworkManager.wifi.scan."));
+    Q_EMIT cannotOpen(tr("No settings page for this could be opened. Ask your administrator to allow you to see Wi-Fi "
+                         "networks: the permission is called org.freedesktop.NetworkManager.wifi.scan."));
 }
