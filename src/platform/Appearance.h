@@ -5,13 +5,13 @@
 
 enum class ColorScheme { Light, Dark };
 
-/// Tells whether the desktop is set to light or dark.
+/// Reports whether the desktop is light or dark.
 class Appearance : public QObject {
     Q_OBJECT
 
 public:
-    /// Asks for the colour scheme and follows it from then on. Returns at once; a desktop that does not tell is never
-    /// heard of.
+    /// Asks for the colour scheme and follows its changes. Returns at once; a desktop without a colour scheme reports
+    /// none.
     virtual void start() = 0;
 
 Q_SIGNALS:

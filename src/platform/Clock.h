@@ -8,7 +8,7 @@
 
 #include <chrono>
 
-/// Tells the time, and when a new day has begun.
+/// Knows the time, and when a new day begins.
 class Clock : public QObject {
     Q_OBJECT
 
@@ -17,11 +17,11 @@ public:
     [[nodiscard]] virtual QDateTime now() const = 0;
     [[nodiscard]] QDate today() const { return now().date(); }
 
-    /// Waits so long, a time that the computer is suspended included; after a suspend it may take a little longer. Is
-    /// abandoned when the clock is destroyed; throws a PlatformError when there is nothing to wait with.
+    /// Waits, including any time the computer is suspended; after a suspend it may take a little longer. Throws
+    /// Abandoned if the clock is destroyed, and a PlatformError if the system has no timer left.
     [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::seconds duration) = 0;
 
 Q_SIGNALS:
-    /// today() may be another day than it was: midnight has passed, or the clock was set.
+    /// today() may have changed: midnight has passed, or the clock was set.
     void dayChanged();
 };

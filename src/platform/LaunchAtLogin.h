@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-/// Whether the program is started at login, as the person is shown it and sets it.
+/// The "launch at login" setting as a switch shows and changes it.
 class LaunchAtLogin : public QObject {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     }
 
     [[nodiscard]] bool isEnabled() const { return m_item.isEnabled(); }
-    /// A failure is only logged: isEnabled() tells what has become of it.
+    /// A failure is only logged; isEnabled() returns what the system has made of it.
     void setEnabled(bool isEnabled);
 
 Q_SIGNALS:

@@ -3,8 +3,7 @@
 
 #include <QObject>
 
-/// Whether this program may learn which networks are around it, which is to learn where it is. Values beyond these are
-/// possible and mean no.
+/// Whether this program may see which networks are in range, and so where it is. Other values are possible and mean no.
 enum class AuthorizationStatus : qint32 {
     notDetermined = 0,
     restricted = 1,
@@ -13,24 +12,24 @@ enum class AuthorizationStatus : qint32 {
     authorizedWhenInUse = 4,
 };
 
-/// The one rule by which everybody reads a status.
+/// The one rule for what counts as permission.
 [[nodiscard]] constexpr bool isAccessGranted(AuthorizationStatus status)
 {
     return status == AuthorizationStatus::authorizedAlways;
 }
 
-/// The permission of this program to learn names of networks.
+/// This program's permission to see the names of networks.
 class LocationAuthorization : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins to follow the status. Returns at once; what is found is told by didChangeAuthorization.
+    /// Reads the status and follows its changes. Returns at once; didChangeAuthorization reports the result.
     virtual void start() = 0;
     [[nodiscard]] virtual AuthorizationStatus authorizationStatus() const = 0;
-    /// Has the system ask the person. Only to be called when the person has asked for it.
+    /// Has the system ask the person. Call it only on the person's request.
     virtual void requestAlwaysAuthorization() = 0;
 
 Q_SIGNALS:
-    /// The status may be another one than it was.
+    /// The status may have changed.
     void didChangeAuthorization();
 };

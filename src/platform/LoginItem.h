@@ -3,16 +3,16 @@
 
 #include <QtGlobal>
 
-/// What makes the session start this program when the person logs in.
+/// Makes the session start this program when the person logs in.
 class LoginItem {
 public:
     LoginItem() = default;
     virtual ~LoginItem() = default;
     Q_DISABLE_COPY_MOVE(LoginItem)
 
-    /// As it is now: others can change it at any time.
+    /// The current state; other programs can change it at any time.
     [[nodiscard]] virtual bool isEnabled() const = 0;
-    /// Both throw a PlatformError.
+    /// Both throw a PlatformError if the system refuses.
     virtual void registerItem() = 0;
     virtual void unregisterItem() = 0;
 };

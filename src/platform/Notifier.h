@@ -8,23 +8,24 @@
 struct Notification {
     QString title;
     QString subtitle;
-    /// A notification with a topic takes the place of the last one with the same topic, where that is still on screen.
+    /// A notification replaces the last one with the same topic if that is still on screen.
     QString topic;
-    /// The day that it speaks of; none where it speaks of no day.
+    /// The day that it is about; invalid if there is none.
     QDate day = {};
 
     bool operator==(const Notification&) const = default;
 };
 
-/// Tells the person something on the desktop, whether or not there is a window.
+/// Shows notifications on the desktop, with or without a window.
 class Notifier : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows a notification now, with the default sound. Returns at once; nobody hears of a failure.
+    /// Shows a notification with the default sound. Returns at once; failures are only logged.
     virtual void post(const Notification& notification) = 0;
 
 Q_SIGNALS:
-    /// The person wants to see what a notification speaks of. A token lets a window come to the front; it can be empty.
+    /// The person has clicked a notification about this day. The token lets a window come to the front; it may be
+    /// empty.
     void activated(QDate day, const QString& activationToken);
 };

@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-/// What a service of the computer has refused or failed to do, in its own words.
+/// A refusal or failure of a system service, in its own words.
 class PlatformError : public std::runtime_error {
 public:
     explicit PlatformError(const QString& description)

@@ -3,15 +3,15 @@
 
 #include <QObject>
 
-/// The settings of the desktop.
+/// The desktop's settings program.
 class SystemSettings : public QObject {
     Q_OBJECT
 
 public:
-    /// Opens the page on which the person can give access to the location.
+    /// Opens the page where the person can allow access to the location.
     virtual void openLocationSettings() = 0;
 
 Q_SIGNALS:
-    /// There is no such page that could be opened: what the person can do instead.
+    /// No page could be opened; `advice` says what the person can do instead.
     void cannotOpen(const QString& advice);
 };

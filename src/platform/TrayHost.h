@@ -3,16 +3,16 @@
 
 #include <QObject>
 
-/// Tells whether the desktop has a place where an icon of this program is shown.
+/// Reports whether the desktop has a tray for this program's icon.
 class TrayHost : public QObject {
     Q_OBJECT
 
 public:
-    /// Looks for the place and follows it from then on. Returns at once; until appeared() there is none.
+    /// Looks for a tray and follows its coming and going. Returns at once; until appeared() there is none.
     virtual void start() = 0;
 
 Q_SIGNALS:
-    /// These two come in turn.
+    /// These two alternate.
     void appeared();
     void gone();
 };

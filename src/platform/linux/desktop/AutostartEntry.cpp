@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Two rules, one on top of the other: that of a quoted argument, then that of every string in such a file.
+// Escapes twice: as a quoted argument, and as a string in a desktop file.
 QString quoted(QString argument)
 {
     for (const QChar special : uR"(\"`$)"_s)
@@ -48,16 +48,16 @@ bool AutostartEntry::isEnabled() const
     QFile file(m_path);
     if (!file.open(QFile::ReadOnly))
         return false;
-    bool isInGroup = false, isThere = false;
+    bool isInGroup = false, hasGroup = false;
     for (const QByteArray& text : file.readAll().split('\n')) {
         const QByteArray line = text.simplified().replace(" =", "=").replace("= ", "=");
         if (line.startsWith('['))
             isInGroup = line == "[Desktop Entry]";
         else if (isInGroup && (line == "Hidden=true" || line == "X-GNOME-Autostart-enabled=false"))
             return false;
-        isThere = isThere || isInGroup;
+        hasGroup = hasGroup || isInGroup;
     }
-    return isThere;
+    return hasGroup;
 }
 
 void AutostartEntry::registerItem()

@@ -5,22 +5,22 @@
 
 #include <QStringList>
 
-/// The entry of this program in the folder that the desktop goes through at login (XDG autostart).
+/// This program's entry in the folder of programs that the desktop starts at login (XDG autostart).
 class AutostartEntry : public LoginItem {
 public:
-    /// `configFolder` is $XDG_CONFIG_HOME. `command` is what the desktop starts: the absolute path of an executable or
-    /// a name on its PATH, and arguments.
+    /// `configFolder` is $XDG_CONFIG_HOME. `command` is an absolute path or a name on the desktop's PATH, and
+    /// arguments.
     AutostartEntry(const QString& configFolder, const QStringList& command)
         : m_folder(configFolder + QStringLiteral("/autostart"))
         , m_command(command)
     {
     }
 
-    /// That of the running program. The desktop sees neither the folders nor the executable of a Flatpak, and a program
-    /// runs in one where the file `sandboxMark` exists.
+    /// The entry of the running program. In a Flatpak, where the file `sandboxMark` exists, the desktop sees neither
+    /// the program's folders nor its executable.
     [[nodiscard]] static AutostartEntry ofThisProgram(const QString& sandboxMark = QStringLiteral("/.flatpak-info"));
 
-    /// False as well where a desktop has switched the entry off, which leaves the file in place.
+    /// Also false if a desktop has disabled the entry, which leaves the file in place.
     [[nodiscard]] bool isEnabled() const override;
     void registerItem() override;
     void unregisterItem() override;

@@ -3,7 +3,7 @@
 
 #include "SystemSettings.h"
 
-/// The settings programs of GNOME and KDE. Other desktops have no page of this kind.
+/// The settings programs of GNOME and KDE. Other desktops have no such page.
 class DesktopSystemSettings : public SystemSettings {
     Q_OBJECT
 

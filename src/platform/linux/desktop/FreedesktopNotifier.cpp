@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FreedesktopNotifier.h"
 
-
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QLoggingCategory>
@@ -18,10 +17,10 @@ constexpr auto notificationsService = "org.freedesktop.Notifications"_L1;
 constexpr auto notificationsPath = "/org/freedesktop/Notifications"_L1;
 constexpr auto applicationId = "io.github.pellory.Pellory"_L1;
 constexpr auto defaultAction = "default"_L1;
-constexpr int timeoutOfTheServer = -1;
+constexpr int serverDefaultTimeout = -1;
 constexpr uchar urgencyNormal = 1;
 
-QDBusMessage callOf(const QString& method)
+QDBusMessage methodCall(const QString& method)
 {
     return QDBusMessage::createMethodCall(notificationsService, notificationsPath, notificationsService, method);
 }
@@ -44,54 +43,54 @@ FreedesktopNotifier::~FreedesktopNotifier() = default;
 
 void FreedesktopNotifier::post(const Notification& notification)
 {
-    m_waiting.enqueue(notification);
-    if (!std::exchange(m_isSending, true))
-        QMetaObject::invokeMethod(this, &FreedesktopNotifier::sendAll, Qt::QueuedConnection);
+    m_queue.enqueue(notification);
+    if (!std::exchange(m_isPosting, true))
+        QMetaObject::invokeMethod(this, &FreedesktopNotifier::postAll, Qt::QueuedConnection);
 }
 
-// One after the other: the number of the last one of a topic must be known before the next one is sent.
-QCoro::Task<> FreedesktopNotifier::sendAll()
+// One at a time: the next one of a topic needs the id of the last.
+QCoro::Task<> FreedesktopNotifier::postAll()
 {
-    while (!m_waiting.isEmpty()) {
-        const Notification next = m_waiting.dequeue();
-        co_await send(next);
+    while (!m_queue.isEmpty()) {
+        const Notification next = m_queue.dequeue();
+        co_await postNow(next);
     }
-    m_isSending = false;
+    m_isPosting = false;
 }
 
-QCoro::Task<> FreedesktopNotifier::send(Notification notification)
+QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
 {
     followServer();
     try {
-        const QStringList abilities = co_await abilitiesOfTheServer();
-        const bool isMarkup = abilities.contains("body-markup"_L1);
-        const QString body = isMarkup ? notification.subtitle.toHtmlEscaped() : notification.subtitle;
+        const QStringList supported = co_await capabilities();
+        const bool hasMarkup = supported.contains("body-markup"_L1);
+        const QString body = hasMarkup ? notification.subtitle.toHtmlEscaped() : notification.subtitle;
         QStringList actions;
-        if (abilities.contains("actions"_L1))
+        if (supported.contains("actions"_L1))
             actions << defaultAction << tr("Open");
-        auto call = callOf(u"Notify"_s);
-        call << u"Pellory"_s << m_numbers.value(notification.topic) << applicationId << notification.title << body
-             << actions << hints() << timeoutOfTheServer;
+        auto call = methodCall(u"Notify"_s);
+        call << u"Pellory"_s << m_ids.value(notification.topic) << applicationId << notification.title << body
+             << actions << hints() << serverDefaultTimeout;
         const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call, m_timeout);
-        const auto number = reply.arguments().value(0).toUInt();
+        const auto id = reply.arguments().value(0).toUInt();
         if (!notification.topic.isEmpty())
-            m_numbers.insert(notification.topic, number);
-        m_days.insert(number, notification.day);
-        if (m_days.size() > 20) // some servers never tell that one has gone
+            m_ids.insert(notification.topic, id);
+        m_days.insert(id, notification.day);
+        if (m_days.size() > 20) // some servers never report that one is closed
             m_days.erase(m_days.begin());
     } catch (const BusError& error) {
-        qCWarning(logNotifier, "Could not notify: %s", error.what());
+        qCWarning(logNotifier, "Could not show a notification: %s", error.what());
     }
 }
 
-QCoro::Task<QStringList> FreedesktopNotifier::abilitiesOfTheServer()
+QCoro::Task<QStringList> FreedesktopNotifier::capabilities()
 {
-    if (!m_abilities) {
+    if (!m_capabilities) {
         const QDBusMessage reply =
-            co_await busCall(this, QDBusConnection::sessionBus(), callOf(u"GetCapabilities"_s), m_timeout);
-        m_abilities = reply.arguments().value(0).toStringList();
+            co_await busCall(this, QDBusConnection::sessionBus(), methodCall(u"GetCapabilities"_s), m_timeout);
+        m_capabilities = reply.arguments().value(0).toStringList();
     }
-    co_return std::as_const(*m_abilities); // which the task would take away otherwise
+    co_return std::as_const(*m_capabilities); // the task would move it out otherwise
 }
 
 void FreedesktopNotifier::followServer()
@@ -100,10 +99,10 @@ void FreedesktopNotifier::followServer()
         return;
     QDBusConnection bus = QDBusConnection::sessionBus();
     m_serverWatcher = std::make_unique<QDBusServiceWatcher>(notificationsService, bus);
-    // The numbers of a server mean nothing to the next one: there they may be those of another program.
+    // To another server these ids mean nothing, or another program's notifications.
     connect(m_serverWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
-        m_abilities.reset();
-        m_numbers.clear();
+        m_capabilities.reset();
+        m_ids.clear();
         m_days.clear();
     });
     bus.connect(notificationsService, notificationsPath, notificationsService, u"ActivationToken"_s, this,
@@ -114,9 +113,9 @@ void FreedesktopNotifier::followServer()
                 SLOT(handleNotificationClosed(uint)));
 }
 
-void FreedesktopNotifier::handleActionInvoked(uint number, const QString& action)
+void FreedesktopNotifier::handleActionInvoked(uint id, const QString& action)
 {
-    const auto [numberOfToken, token] = std::exchange(m_token, {});
-    if (m_days.contains(number) && action == defaultAction)
-        Q_EMIT activated(m_days.value(number), numberOfToken == number ? token : QString());
+    const auto [tokenId, token] = std::exchange(m_token, {});
+    if (m_days.contains(id) && action == defaultAction)
+        Q_EMIT activated(m_days.value(id), tokenId == id ? token : QString());
 }

@@ -17,7 +17,7 @@
 
 class QDBusServiceWatcher;
 
-/// Posts to the notification server of the desktop (org.freedesktop.Notifications).
+/// Posts to the desktop's notification server (org.freedesktop.Notifications).
 class FreedesktopNotifier : public Notifier {
     Q_OBJECT
 
@@ -29,25 +29,25 @@ public:
     void post(const Notification& notification) override;
 
 private:
-    QCoro::Task<> sendAll();
-    QCoro::Task<> send(Notification notification);
-    QCoro::Task<QStringList> abilitiesOfTheServer();
+    QCoro::Task<> postAll();
+    QCoro::Task<> postNow(Notification notification);
+    QCoro::Task<QStringList> capabilities();
     void followServer();
 
     std::chrono::milliseconds m_timeout;
-    QQueue<Notification> m_waiting;
-    bool m_isSending = false;
-    std::optional<QStringList> m_abilities;
-    /// The number that the server has given to the last notification of each topic.
-    QHash<QString, quint32> m_numbers;
-    /// What each notification on screen speaks of, by its number.
+    QQueue<Notification> m_queue;
+    bool m_isPosting = false;
+    std::optional<QStringList> m_capabilities;
+    /// The server's ids of the last notification of each topic.
+    QHash<QString, quint32> m_ids;
+    /// What each notification on screen is about, by its id.
     QMap<quint32, QDate> m_days;
-    /// The last token, and the number of the notification that it is for.
+    /// The last token, with the id of the notification that it is for.
     std::pair<quint32, QString> m_token;
     std::unique_ptr<QDBusServiceWatcher> m_serverWatcher;
 
 private Q_SLOTS:
-    void handleActivationToken(uint number, const QString& token) { m_token = {number, token}; }
-    void handleActionInvoked(uint number, const QString& action);
-    void handleNotificationClosed(uint number) { m_days.remove(number); }
+    void handleActivationToken(uint id, const QString& token) { m_token = {id, token}; }
+    void handleActionInvoked(uint id, const QString& action);
+    void handleNotificationClosed(uint id) { m_days.remove(id); }
 };

@@ -22,17 +22,17 @@ constexpr auto colorSchemeKey = "color-scheme"_L1;
 void PortalAppearance::start()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    // The match on group and key keeps every other setting of the desktop from waking this process.
+    // Match group and key, so that no other desktop setting wakes this process.
     bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, {appearanceGroup, colorSchemeKey},
                 u"ssv"_s, this, SLOT(handleSettingChanged(QDBusMessage)));
 
     auto read = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
     read << appearanceGroup << colorSchemeKey;
     auto* call = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, &PortalAppearance::handleAnswer);
+    connect(call, &QDBusPendingCallWatcher::finished, this, &PortalAppearance::handleReply);
 }
 
-void PortalAppearance::handleAnswer(QDBusPendingCallWatcher* call)
+void PortalAppearance::handleReply(QDBusPendingCallWatcher* call)
 {
     call->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *call;
@@ -47,7 +47,7 @@ void PortalAppearance::handleSettingChanged(const QDBusMessage& signal)
 
 void PortalAppearance::report(const QVariant& value)
 {
-    // "Read" wraps its answer in one variant more than the signal does.
+    // Read's reply has one more variant around it than the signal.
     QVariant scheme = value;
     while (scheme.metaType() == QMetaType::fromType<QDBusVariant>())
         scheme = scheme.value<QDBusVariant>().variant();

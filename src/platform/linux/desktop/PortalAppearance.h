@@ -6,8 +6,8 @@
 class QDBusMessage;
 class QDBusPendingCallWatcher;
 
-/// The colour scheme as the desktop portal tells it (org.freedesktop.appearance, color-scheme: 1 is dark, 2 is light, 0
-/// is no preference, which is what GNOME says for light).
+/// The colour scheme from the desktop portal (org.freedesktop.appearance, color-scheme: 1 is dark, 2 is light, 0 is no
+/// preference, which GNOME uses for light).
 class PortalAppearance : public Appearance {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     void start() override;
 
 private:
-    void handleAnswer(QDBusPendingCallWatcher* call);
+    void handleReply(QDBusPendingCallWatcher* call);
     void report(const QVariant& value);
 
 private Q_SLOTS:

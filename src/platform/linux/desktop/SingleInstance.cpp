@@ -35,12 +35,12 @@ SingleInstance::Claim SingleInstance::claim(Request request)
 
 SingleInstance::Claim SingleInstance::claim(Request request, QDBusConnection bus)
 {
-    // Before the name, so that nobody finds the name without an object behind it.
+    // Before the name, so that nobody finds the name without the object.
     if (!bus.isConnected() || !bus.registerObject(ownPath, this, QDBusConnection::ExportScriptableSlots))
         return claimLock();
     for (int attempt = 0; attempt < 3; ++attempt) {
         const auto name = bus.interface()->registerService(ownService, QDBusConnectionInterface::DontQueueService);
-        if (!name.isValid()) // a bus on which this program may have no name
+        if (!name.isValid()) // the bus does not allow this program the name
             return claimLock();
         if (name == QDBusConnectionInterface::ServiceRegistered)
             return Claim::Owned;
@@ -48,7 +48,7 @@ SingleInstance::Claim SingleInstance::claim(Request request, QDBusConnection bus
         if (request == Request::None ||
             bus.call(messageFor(request), QDBus::Block, m_timeout).type() == QDBusMessage::ReplyMessage)
             return Claim::HandedOver;
-        // One that has died without an answer is no longer the owner.
+        // If it died instead of answering, it no longer owns the name: try again.
         if (!owner.isEmpty() && bus.interface()->serviceOwner(ownService) == owner)
             break;
     }
@@ -67,7 +67,7 @@ QDBusMessage SingleInstance::messageFor(Request request) const
     return message;
 }
 
-// For a session without a bus. No age makes a lock invalid, only the death of its owner.
+// For sessions without a bus. A lock stays valid as long as its owner lives.
 SingleInstance::Claim SingleInstance::claimLock()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);

@@ -11,31 +11,32 @@
 class QDBusConnection;
 class QDBusMessage;
 
-/// Sees to it that a session runs this program once (org.freedesktop.Application on the session bus).
+/// Makes sure that a session runs this program only once (org.freedesktop.Application on the session bus).
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
     enum class Claim { Owned, HandedOver, Refused };
-    /// What the one that is there already has to do.
+    /// What the first instance is asked to do.
     enum class Request { None, Show, Check };
 
-    /// Reads from the environment what the desktop gave for the start. A QApplication takes some of that away.
+    /// Reads the desktop's start-up data from the environment; create it before QApplication, which removes some of it.
+    /// `timeout` is how long the first instance may take to answer.
     explicit SingleInstance(std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
-    /// Becomes the one instance or hands over to the one that is there; refused when that has an request and is deaf.
+    /// Becomes the instance, or hands the request over to the first one. Refused if that does not answer.
     [[nodiscard]] Claim claim(Request request);
     [[nodiscard]] Claim claim(Request request, QDBusConnection bus);
 
-    // NOLINTBEGIN(readability-identifier-naming): the names of the interface
+    // NOLINTBEGIN(readability-identifier-naming): names set by the interface
     Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& data);
     Q_SCRIPTABLE Q_SLOT void Open(const QStringList&, const QVariantMap& data) { Activate(data); }
     Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList&, const QVariantMap& data);
     // NOLINTEND(readability-identifier-naming)
 
 Q_SIGNALS:
-    /// Somebody wants to see the program. With the token its window may come to the front; it can be empty.
+    /// The person has started the program again. The token lets its window come to the front; it may be empty.
     void activated(const QString& token);
     void checkRequested();
 

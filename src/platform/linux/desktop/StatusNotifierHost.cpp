@@ -20,36 +20,36 @@ constexpr auto watcherPath = "/StatusNotifierWatcher"_L1;
 void StatusNotifierHost::start()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    // QtDBus would wait for the owner of a service. Whoever sends these, it is the watcher that is asked.
+    // With a service name QtDBus would block to look up its owner. No sender needs trust: we ask the watcher anyway.
     for (const QString& signal : {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s})
-        bus.connect({}, watcherPath, watcherService, signal, this, SLOT(ask()));
+        bus.connect({}, watcherPath, watcherService, signal, this, SLOT(readHost()));
     auto* watcher = new QDBusServiceWatcher(watcherService, bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
         report(false);
-        ask();
+        readHost();
     });
-    ask();
+    readHost();
 }
 
-void StatusNotifierHost::ask()
+void StatusNotifierHost::readHost()
 {
     auto get =
         QDBusMessage::createMethodCall(watcherService, watcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     get << watcherService << u"IsStatusNotifierHostRegistered"_s;
     get.setAutoStartService(false);
     auto* call = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(get), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, question = ++m_questions] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, request = ++m_requests] {
         call->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *call;
-        if (question == m_questions)
+        if (request == m_requests)
             report(reply.isValid() && reply.value().variant().toBool());
     });
 }
 
-void StatusNotifierHost::report(bool isThere)
+void StatusNotifierHost::report(bool hasHost)
 {
-    if (m_isThere == isThere)
+    if (m_hasHost == hasHost)
         return;
-    m_isThere = isThere;
-    Q_EMIT isThere ? appeared() : gone();
+    m_hasHost = hasHost;
+    Q_EMIT hasHost ? appeared() : gone();
 }

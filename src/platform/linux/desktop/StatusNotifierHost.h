@@ -3,7 +3,7 @@
 
 #include "TrayHost.h"
 
-/// The hosts of status notifier items, of which their watcher on the session bus knows.
+/// The hosts that the watcher of status notifier items on the session bus knows.
 class StatusNotifierHost : public TrayHost {
     Q_OBJECT
 
@@ -11,12 +11,12 @@ public:
     void start() override;
 
 private:
-    void report(bool isThere);
+    void report(bool hasHost);
 
-    bool m_isThere = false;
-    /// The answers to all questions but the last one are out of date.
-    int m_questions = 0;
+    bool m_hasHost = false;
+    /// Replies to all requests but the last are outdated.
+    int m_requests = 0;
 
 private Q_SLOTS:
-    void ask();
+    void readHost();
 };

@@ -14,7 +14,7 @@ BootTimer::BootTimer(std::chrono::seconds duration, QObject* parent)
 {
     itimerspec until{};
     until.it_value.tv_sec = duration.count();
-    until.it_value.tv_nsec = 1; // nothing at all would be no timer
+    until.it_value.tv_nsec = 1; // zero would disarm the timer
     if (m_timer < 0 || timerfd_settime(m_timer, 0, &until, nullptr) != 0) {
         const PlatformError error(qt_error_string());
         if (m_timer >= 0)

@@ -8,12 +8,12 @@
 
 class QSocketNotifier;
 
-/// Expires once, after a time in which suspended time counts: when it ends during a suspend, at the resume.
+/// Expires once, after a time that includes suspends; if it ends during one, on resume.
 class BootTimer : public QObject {
     Q_OBJECT
 
 public:
-    /// Throws a PlatformError when the system gives no timer.
+    /// Throws a PlatformError if the system has no timer left.
     BootTimer(std::chrono::seconds duration, QObject* parent);
     ~BootTimer() override;
 

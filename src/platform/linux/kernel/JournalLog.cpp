@@ -13,8 +13,7 @@
 
 namespace {
 
-// The journal says by device and inode which stream it listens to: a standard error that was sent elsewhere since is
-// none of its own.
+// The journal names its stream by device and inode, because standard error may have been redirected since.
 bool isStandardErrorJournal()
 {
     struct stat file {};

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <ctime>
 
-/// What a clock of the kernel shows, such as CLOCK_BOOTTIME, by which NetworkManager tells when it saw something.
+/// Reads a kernel clock in whole seconds, such as CLOCK_BOOTTIME, the clock of NetworkManager's times.
 [[nodiscard]] inline std::chrono::seconds readKernelClock(clockid_t clock)
 {
     timespec time{};

@@ -12,26 +12,26 @@
 namespace {
 
 constexpr std::array quitSignals{SIGTERM, SIGINT, SIGHUP};
-/// A pipe, open until the process ends: a handler may do little more than write.
-std::array<int, 2> ends{};
+// A pipe, because a signal handler may do little more than write. Open until the process ends.
+std::array<int, 2> pipeEnds{};
 
 void writeToPipe(int /*signal*/)
 {
-    const int before = errno;
-    static_cast<void>(!write(ends[1], "", 1));
-    errno = before;
+    const int savedErrno = errno;
+    static_cast<void>(!write(pipeEnds[1], "", 1));
+    errno = savedErrno;
 }
 
 } // namespace
 
 QuitSignals::QuitSignals()
 {
-    if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
-        return; // the signals go on ending the program at once
-    auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
+    if (pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+        return; // signals still end the program, but at once
+    auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] {
         char written = 0;
-        static_cast<void>(!read(ends[0], &written, 1));
+        static_cast<void>(!read(pipeEnds[0], &written, 1));
         Q_EMIT requested();
     });
     for (const int signal : quitSignals)

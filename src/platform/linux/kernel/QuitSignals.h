@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-/// Turns the signals by which a session or a terminal ends a program into one of the event loop. There is one of these.
+/// Turns the signals with which a session or terminal ends a program into a Qt signal. Create only one.
 class QuitSignals : public QObject {
     Q_OBJECT
 

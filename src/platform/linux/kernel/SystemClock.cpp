@@ -18,8 +18,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(logClock, "pellory.clock", QtInfoMsg)
 
-// A radio is not back at once when the computer has been suspended, and would be taken for one that is off.
-constexpr auto timeToWakeUp = 10s;
+// After a suspend the radio needs a while, and would count as switched off until then.
+constexpr auto radioWakeUpTime = 10s;
 
 std::chrono::seconds timeSuspended()
 {
@@ -32,11 +32,11 @@ SystemClock::SystemClock()
     : m_timer(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC))
 {
     if (m_timer < 0) {
-        qCWarning(logClock, "No timer for midnight: %s", qUtf8Printable(qt_error_string()));
+        qCWarning(logClock, "Cannot set a timer for midnight: %s", qUtf8Printable(qt_error_string()));
         return;
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::wake);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::wakeUp);
     sleepUntilMidnight();
 }
 
@@ -59,22 +59,21 @@ QCoro::Task<> SystemClock::sleep(std::chrono::seconds duration)
     co_await nextSignal(timer, &BootTimer::expired);
     timer->deleteLater();
     if (timeSuspended() - suspendedBefore > 2s)
-        co_await delay(timeToWakeUp, this);
+        co_await delay(radioWakeUpTime, this);
 }
 
 void SystemClock::sleepUntilMidnight()
 {
-    // An absolute time on this clock also comes true after a suspend, and CANCEL_ON_SET ends the sleep when somebody
-    // sets the clock.
+    // An absolute time also expires after a suspend, and CANCEL_ON_SET wakes us when the clock is set.
     const QDateTime midnight = today().addDays(1).startOfDay();
     itimerspec until{};
     until.it_value.tv_sec = midnight.toSecsSinceEpoch();
     timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &until, nullptr);
 }
 
-void SystemClock::wake()
+void SystemClock::wakeUp()
 {
-    // The read fails with ECANCELED when the clock was set: either way the day may be another one now.
+    // The read fails with ECANCELED if the clock was set; either way the day may have changed.
     quint64 expirations = 0;
     [[maybe_unused]] const ssize_t size = read(m_timer, &expirations, sizeof expirations);
     sleepUntilMidnight();

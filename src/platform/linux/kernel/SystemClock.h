@@ -7,7 +7,7 @@
 
 class QSocketNotifier;
 
-/// The clock of this computer. It sleeps in the kernel until local midnight, and is woken when the clock is set.
+/// The computer's clock. A kernel timer wakes it at local midnight and when the clock is set.
 class SystemClock : public Clock {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
 
 private:
     void sleepUntilMidnight();
-    void wake();
+    void wakeUp();
 
     int m_timer = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;

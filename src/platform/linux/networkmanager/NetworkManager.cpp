@@ -13,10 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeToAnswerAQuestion = 120s;
+constexpr auto passwordPromptTimeout = 120s;
 
-// A service that is not running is a fact to be told, and nothing to be started.
-QDBusMessage callOf(const QString& path, const QString& interface, const QString& method)
+// Does not start a service that is not running.
+QDBusMessage methodCall(const QString& path, const QString& interface, const QString& method)
 {
     auto call = QDBusMessage::createMethodCall(networkManagerService, path, interface, method);
     call.setAutoStartService(false);
@@ -34,7 +34,8 @@ AuthorizationStatus statusOf(const QString& permission)
 
 QCoro::Task<NetworkManagerState> NetworkManager::readState()
 {
-    const auto call = callOf(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
+    const auto call =
+        methodCall(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
     const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
     NetworkManagerReader reader(reply);
     while (reader.readSome())
@@ -44,21 +45,21 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 
 QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()
 {
-    const auto call = callOf(networkManagerPath, managerInterface, u"GetPermissions"_s);
+    const auto call = methodCall(networkManagerPath, managerInterface, u"GetPermissions"_s);
     const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
-    // To read an answer of another type as this one would end the program.
+    // Reading a reply of another type would end the program.
     QMap<QString, QString> permissions;
     if (reply.signature() == "a{ss}"_L1)
         permissions = qdbus_cast<QMap<QString, QString>>(reply.arguments().value(0));
     const auto scan = permissions.constFind(u"org.freedesktop.NetworkManager.wifi.scan"_s);
-    // A version that does not know this permission lets everybody scan.
+    // A version without this permission lets everybody scan.
     co_return scan == permissions.cend() ? AuthorizationStatus::authorizedAlways : statusOf(*scan);
 }
 
 QCoro::Task<> NetworkManager::requestScan(QString devicePath, bool isInteractive)
 {
-    auto call = callOf(devicePath, wirelessInterface, u"RequestScan"_s);
+    auto call = methodCall(devicePath, wirelessInterface, u"RequestScan"_s);
     call << QVariantMap();
     call.setInteractiveAuthorizationAllowed(isInteractive);
-    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? timeToAnswerAQuestion : m_timeout);
+    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? passwordPromptTimeout : m_timeout);
 }

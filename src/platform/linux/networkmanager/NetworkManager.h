@@ -9,7 +9,8 @@
 
 #include <QCoroTask>
 
-/// Calls to NetworkManager on the system bus. They throw a BusError, and Abandoned when this is destroyed meanwhile.
+/// Calls to NetworkManager on the system bus. They throw a BusError on failure, and Abandoned if this is destroyed
+/// meanwhile.
 class NetworkManager : public QObject {
 public:
     /// `timeout` is how long each call waits for its reply.
@@ -18,14 +19,14 @@ public:
     {
     }
 
-    /// All that it knows of Wi-Fi, in one round trip.
+    /// Reads everything about Wi-Fi in one call.
     [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
 
-    /// What it lets this program do about scanning, without asking anybody.
+    /// Reads whether this program may scan, without asking anybody.
     [[nodiscard]] QCoro::Task<AuthorizationStatus> readScanPermission();
 
-    /// Asks a device to scan, which it then does in its own time. With `isInteractive` the system may ask the person
-    /// for the permission, and is given time for that.
+    /// Asks a device to scan and returns before it does. If `isInteractive`, the system may ask the person for
+    /// permission, and has time for that.
     QCoro::Task<> requestScan(QString devicePath, bool isInteractive);
 
 private:

@@ -20,9 +20,9 @@ Q_LOGGING_CATEGORY(logAuthorization, "pellory.authorization", QtInfoMsg)
 
 NetworkManagerAuthorization::NetworkManagerAuthorization()
 {
-    m_soon.setSingleShot(true);
-    m_soon.setInterval(100ms);
-    connect(&m_soon, &QTimer::timeout, this, &NetworkManagerAuthorization::read);
+    m_debounce.setSingleShot(true);
+    m_debounce.setInterval(100ms);
+    connect(&m_debounce, &QTimer::timeout, this, &NetworkManagerAuthorization::read);
 }
 
 NetworkManagerAuthorization::~NetworkManagerAuthorization() = default;
@@ -30,7 +30,7 @@ NetworkManagerAuthorization::~NetworkManagerAuthorization() = default;
 void NetworkManagerAuthorization::start()
 {
     QDBusConnection bus = QDBusConnection::systemBus();
-    bus.connect(networkManagerService, networkManagerPath, managerInterface, u"CheckPermissions"_s, &m_soon,
+    bus.connect(networkManagerService, networkManagerPath, managerInterface, u"CheckPermissions"_s, &m_debounce,
                 SLOT(start()));
     m_serviceWatcher = std::make_unique<QDBusServiceWatcher>(networkManagerService, bus);
     connect(m_serviceWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -44,7 +44,7 @@ QCoro::Task<> NetworkManagerAuthorization::read()
     try {
         status = co_await m_networkManager.readScanPermission();
     } catch (const BusError& error) {
-        qCDebug(logAuthorization, "No permission to be read: %s", error.what());
+        qCDebug(logAuthorization, "Cannot read the permission: %s", error.what());
     }
     if (status == m_status)
         co_return;
@@ -59,7 +59,7 @@ QCoro::Task<> NetworkManagerAuthorization::request()
         if (const WirelessDevice* device = state.defaultDevice())
             co_await m_networkManager.requestScan(device->path, true);
     } catch (const BusError& error) {
-        qCDebug(logAuthorization, "The permission was not given: %s", error.what());
+        qCDebug(logAuthorization, "The permission was not granted: %s", error.what());
     }
     co_await read();
 }

@@ -10,8 +10,8 @@
 
 class QDBusServiceWatcher;
 
-/// NetworkManager's own permission to scan: it decides whether this program can learn which networks are in range. A
-/// computer without NetworkManager asks nobody for a permission that nobody can give.
+/// NetworkManager's permission to scan, which decides whether this program can see which networks are in range. Without
+/// NetworkManager there is nothing to permit, and access counts as granted.
 class NetworkManagerAuthorization : public LocationAuthorization {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private:
 
     NetworkManager m_networkManager;
     std::unique_ptr<QDBusServiceWatcher> m_serviceWatcher;
-    /// One change of a permission is told of several times in a row.
-    QTimer m_soon;
+    /// NetworkManager signals a change several times in a row.
+    QTimer m_debounce;
     AuthorizationStatus m_status = AuthorizationStatus::authorizedAlways;
 };

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As many as are read in a fraction of a frame.
-constexpr int objectsAtOnce = 200;
+// Takes a fraction of a frame.
+constexpr int objectsPerChunk = 200;
 
 QString pathIn(const QVariantMap& properties, const QString& name)
 {
@@ -51,7 +51,7 @@ NetworkManagerReader::NetworkManagerReader(const QDBusMessage& managedObjects)
 
 NetworkManagerReader::~NetworkManagerReader()
 {
-    // A map that is begun and not ended holds the whole message for ever.
+    // Until the map is ended it keeps the whole message in memory.
     if (m_isReadable)
         m_objects.endMap();
 }
@@ -59,7 +59,7 @@ NetworkManagerReader::~NetworkManagerReader()
 bool NetworkManagerReader::readSome()
 {
     for (int count = 0; m_isReadable && !m_objects.atEnd(); ++count) {
-        if (count == objectsAtOnce)
+        if (count == objectsPerChunk)
             return true;
         QDBusObjectPath object;
         BusInterfaces interfaces;
@@ -91,7 +91,7 @@ NetworkManagerState NetworkManagerReader::state() const
 {
     NetworkManagerState state = m_state;
     state.primaryDevices = m_devicesOfConnections.value(m_primaryConnection);
-    // The objects come in no order; the numbers of the devices are that in which they were found.
+    // Objects come in no order, but NetworkManager numbers devices as it finds them.
     std::ranges::sort(state.devices, {},
                       [](const WirelessDevice& device) { return std::pair(device.path.size(), device.path); });
     return state;

@@ -10,17 +10,17 @@ class QDBusMessage;
 /// The interfaces of a bus object, with their properties.
 using BusInterfaces = QMap<QString, QVariantMap>;
 
-/// Reads the answer of GetManagedObjects, in pieces that are short enough for the thread of the windows. What is
-/// missing, or of another type than it should be, counts as absent.
+/// Reads the reply to GetManagedObjects, in chunks short enough for the main thread. Values of an unexpected type count
+/// as missing.
 class NetworkManagerReader {
 public:
     explicit NetworkManagerReader(const QDBusMessage& managedObjects);
     ~NetworkManagerReader();
     Q_DISABLE_COPY_MOVE(NetworkManagerReader)
 
-    /// Reads the next piece. True when there is more.
+    /// Reads the next chunk, and returns whether there is more.
     [[nodiscard]] bool readSome();
-    /// What was read so far.
+    /// What has been read so far.
     [[nodiscard]] NetworkManagerState state() const;
 
 private:

@@ -46,8 +46,8 @@ QList<WiFiNetwork> NetworkManagerState::networksSeenSince(const WirelessDevice& 
     for (const QString& path : device.accessPoints) {
         const auto accessPoint = accessPoints.find(path);
         if (accessPoint == accessPoints.end())
-            continue; // it has gone while the objects were being listed
-        const bool isFresh = accessPoint->lastSeen >= std::max<qint64>(time.count(), 0); // never is a negative time
+            continue; // it went while the objects were being listed
+        const bool isFresh = accessPoint->lastSeen >= std::max<qint64>(time.count(), 0); // never seen is negative
         if (isFresh || path == device.activeAccessPoint)
             networks.append({ssidText(accessPoint->ssid)});
     }
@@ -58,7 +58,7 @@ std::optional<QString> ssidText(const QByteArray& ssid)
 {
     if (std::ranges::all_of(ssid, [](char byte) { return byte == 0; }))
         return std::nullopt;
-    // With a byte order mark the name is another one than without, and one that ends within a character is none.
+    // A byte order mark is part of the name, and a name that ends within a character is not UTF-8.
     QStringDecoder utf8(QStringConverter::Utf8,
                         QStringConverter::Flag::ConvertInitialBom | QStringConverter::Flag::Stateless);
     const QString text = utf8.decode(ssid);

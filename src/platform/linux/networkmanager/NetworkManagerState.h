@@ -9,7 +9,7 @@
 
 #include <chrono>
 
-// The states of a device that matter, as NMDeviceState numbers them.
+// The device states that matter, by the numbers of NMDeviceState.
 [[nodiscard]] constexpr bool isManaged(uint deviceState)
 {
     return deviceState >= 20;
@@ -23,16 +23,16 @@
     return deviceState == 100;
 }
 
-/// What NetworkManager knows of an access point.
+/// An access point as NetworkManager knows it.
 struct AccessPoint {
     QByteArray ssid;
-    /// Seconds since the computer was started, suspended time included; -1 for never.
+    /// In seconds of CLOCK_BOOTTIME; -1 for never.
     qint64 lastSeen = -1;
 };
 
-/// What NetworkManager knows of a Wi-Fi radio.
+/// A Wi-Fi radio as NetworkManager knows it.
 struct WirelessDevice {
-    /// The bus object.
+    /// Of the bus object.
     QString path;
     /// Such as "wlan0".
     QString interface;
@@ -42,22 +42,23 @@ struct WirelessDevice {
     QString activeAccessPoint;
 };
 
-/// The part of NetworkManager's objects that has to do with Wi-Fi, at one moment.
+/// What NetworkManager knows about Wi-Fi at one moment.
 struct NetworkManagerState {
     bool isWirelessEnabled = false;
-    /// The devices of the connection that everything goes through.
+    /// The devices of the primary connection.
     QStringList primaryDevices;
     QList<WirelessDevice> devices;
     QHash<QString, AccessPoint> accessPoints;
 
-    /// The radio that Wi-Fi goes through: that of the primary connection, else a connected one, else one that could
-    /// connect, else one that is off. None when there is no radio that NetworkManager manages.
+    /// The radio of the primary connection, else a connected one, else one that could connect, else one that is off.
+    /// Null if NetworkManager manages no radio.
     [[nodiscard]] const WirelessDevice* defaultDevice() const;
+    /// Null if there is no such device.
     [[nodiscard]] const WirelessDevice* deviceWithInterface(const QString& name) const;
     [[nodiscard]] bool isPowered(const WirelessDevice& device) const;
-    /// The networks of the access points of a radio that were seen since then, or are in use.
+    /// The networks of a radio whose access points were seen since `time` (of CLOCK_BOOTTIME), or are in use.
     [[nodiscard]] QList<WiFiNetwork> networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const;
 };
 
-/// The text of a network's name: UTF-8, else Latin-1. None for a hidden one, which is empty or all zeros.
+/// A network's name as text: UTF-8, else Latin-1. None for a hidden one, which is empty or all zeros.
 [[nodiscard]] std::optional<QString> ssidText(const QByteArray& ssid);
