@@ -3,12 +3,10 @@
 #include "CalendarView.h"
 #include "ContentView.h"
 #include "HelpView.h"
-#include "LegendView.h"
 #include "LocationAlert.h"
 #include "MarkedTextLabel.h"
 #include "MonthView.h"
 #include "SettingsView.h"
-#include "SsidSettingsView.h"
 #include "Switch.h"
 #include "ViewTest.h"
 #include "WelcomeView.h"
@@ -24,14 +22,12 @@ class AppWindowsTest : public ViewTest {
 protected:
     AppWindowsTest() { settings->firstTime = false; }
 
-    /// The view in a window that can be worked with.
+    /// The view of this kind in an open window, which is activated.
     template <class View> static View* shown()
     {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            auto* view = qobject_cast<View*>(window);
-            if (view == nullptr)
-                view = window->findChild<View*>();
-            if (view != nullptr && view->window()->isVisible()) {
+        for (QWidget* each : QApplication::allWidgets()) {
+            auto* view = qobject_cast<View*>(each);
+            if (view != nullptr && view->isVisible()) {
                 show(*view->window());
                 return view;
             }
@@ -43,12 +39,13 @@ protected:
     AppWindows windows{parts};
 };
 
-TEST_F(AppWindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
+TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
 {
     const QSignalSpy closed(&windows, &AppWindows::lastClosed);
     windows.openMain();
     auto* main = shown<ContentView>();
     EXPECT_TRUE(eventually([&] { return !main->windowIcon().isNull(); }));
+    press(*main, Qt::Key_Escape); // which closes the other windows only
     for (int i = 0; i < 2; ++i) {
         press(*main, Qt::Key_Comma, Qt::ControlModifier);
         press(*main, Qt::Key_F1);
@@ -56,84 +53,54 @@ TEST_F(AppWindowsTest, areOpenedOnceByButtonsAndKeysAndClosed)
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible), 3);
     press(*shown<SettingsView>(), Qt::Key_Escape);
     press(*shown<HelpView>()->window(), Qt::Key_W, Qt::ControlModifier);
+    windows.openDay({2025, 2, 3});
     ASSERT_EQ(shown<ContentView>(), main);
-    press(*main, Qt::Key_2, Qt::ControlModifier);
-    EXPECT_EQ(viewSettings.selectedTab, 2);
-    press(*main, Qt::Key_1, Qt::ControlModifier);
-    press(*main, Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2026, 10}));
-    windows.openDay(QDate(2025, 2, 3));
+    EXPECT_TRUE(eventually([&] { return main->findChild<CalendarView*>()->focusedDay() == 3; }));
     EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2025, 2}));
-    EXPECT_TRUE(
-        eventually([&] { return main->findChild<MonthView*>()->findChild<CalendarView*>()->focusedDay() == 3; }));
     main->resize(700, 640);
     EXPECT_EQ(closed.size(), 0);
     press(*main, Qt::Key_W, Qt::ControlModifier);
-    EXPECT_TRUE(eventually([&] { return closed.size() == 1; }));
-    windows.openMain();
+    windows.openMain(); // before the other is deleted
     EXPECT_EQ(shown<ContentView>()->size(), QSize(700, 640));
+    shown<ContentView>()->close();
+    EXPECT_TRUE(eventually([&] { return closed.size() == 1; }));
 }
 
 TEST_F(AppWindowsTest, whatIsBeingTypedIsTakenWhenTheProgramEnds)
 {
     {
         AppWindows ending(parts);
+        const QSignalSpy quit(&ending, &AppWindows::quitRequested);
         ending.open(WindowId::settings);
         const auto fields = shown<SettingsView>()->findChildren<QLineEdit*>();
         auto* days = *std::ranges::find(fields, u"4.00"_s, &QLineEdit::text);
         days->setFocus();
         days->selectAll();
         QTest::keyClicks(days, u"5"_s);
+        press(*days->window(), Qt::Key_Q, Qt::ControlModifier);
+        EXPECT_EQ(quit.size(), 1);
     }
-    EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek, u"5.00"_s);
+    EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek.value(), u"5.00"_s);
 }
 
 TEST_F(AppWindowsTest, aSwitchIsTheSameInEveryWindow)
 {
-    windows.openMain();
     windows.open(WindowId::calendarViewSettings);
     windows.open(WindowId::help);
-    const auto hover = [] {
-        QList<bool> states;
-        for (const QWidget* each : QApplication::allWidgets()) {
-            const auto* toggle = qobject_cast<const Switch*>(each);
-            if (toggle != nullptr && toggle->text() == u"Show day status on hover"_s)
-                states.append(toggle->isChecked());
-        }
-        return states;
-    };
-    EXPECT_EQ(hover(), QList({true, true}));
-    auto& legend = *shown<LegendView>();
-    click(*legend.findChild<Switch*>());
-    EXPECT_EQ(hover(), QList({false, false}));
-    EXPECT_THAT(shownTexts(legend), testing::IsSupersetOf({u": Open Status Picker Menu "_s, u"Weekend Day"_s}));
-}
-
-TEST_F(AppWindowsTest, theAlertIsThereWhileTrackingLacksItsPermission)
-{
-    settings->wifiTrackingEnabled = true;
-    windows.openMain();
-    const auto* main = shown<ContentView>();
-    EXPECT_EQ(main->findChild<LocationAlert*>(), nullptr);
-    authorization.change(AuthorizationStatus::notDetermined);
-    EXPECT_TRUE(eventually([&] {
-        const auto* alert = main->findChild<LocationAlert*>();
-        return alert != nullptr && alert->isVisible() && alert->y() > 0; // below the header, where it can be clicked
-    }));
-    const auto* alert = main->findChild<LocationAlert*>();
-    EXPECT_CALL(authorization, requestAlwaysAuthorization);
-    push(*alert, "giveAccess");
-    authorization.change(AuthorizationStatus::denied);
-    QCoreApplication::processEvents();
-    EXPECT_CALL(systemSettings, openLocationSettings);
-    push(*alert, "giveAccess");
-    authorization.change(AuthorizationStatus::authorizedAlways);
-    EXPECT_TRUE(eventually([&] { return !alert->isVisible(); }));
-    authorization.change(AuthorizationStatus::restricted);
-    EXPECT_TRUE(eventually([&] { return alert->isVisible(); }));
-    push(*alert, "disableTracking");
-    EXPECT_FALSE(settings->wifiTrackingEnabled);
-    EXPECT_FALSE(alert->isVisible());
+    QList<Switch*> switches;
+    for (QWidget* each : QApplication::allWidgets()) {
+        auto* toggle = qobject_cast<Switch*>(each);
+        if (toggle != nullptr && toggle->text() == u"Show day status on hover"_s)
+            switches.append(toggle);
+    }
+    ASSERT_EQ(switches.size(), 2);
+    for (Switch* toggle : switches) {
+        show(*toggle->window());
+        click(*toggle);
+        EXPECT_EQ(switches.first()->isChecked(), switches.last()->isChecked());
+        EXPECT_EQ(viewSettings.showStatusLabelOnHover, toggle->isChecked());
+    }
+    EXPECT_THAT(shownTexts(*shown<HelpView>()), testing::Contains(u": Open Status Picker Menu "_s));
 }
 
 TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
@@ -141,6 +108,8 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
     settings->firstTime = true;
     settings->wifiTrackingEnabled = true;
     settings->inOfficeSsids = {u"Office"_s};
+    authorization.status = AuthorizationStatus::notDetermined;
+    EXPECT_CALL(authorization, requestAlwaysAuthorization).Times(2);
     for (const bool completes : {false, true}) {
         windows.openMain();
         WelcomeView* welcome = nullptr;
@@ -149,10 +118,12 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
         EXPECT_EQ(welcome->findChild<MarkedTextLabel*>(u"headline"_s)->text(), u"5 days in the office this month"_s);
         for (int step = 1; step < 5; ++step)
             press(*welcome, Qt::Key_Return);
-        EXPECT_TRUE(shownTexts(*welcome).contains(u"Office networks: 1"_s));
+        EXPECT_THAT(shownTexts(*welcome), testing::Contains(u"Automatic tracking is on"_s));
         push(*welcome, "back");
-        EXPECT_TRUE(welcome->findChild<SsidSettingsView*>()->isVisible());
+        push(*welcome, "grant");
+        settings->notificationsEnabled = completes;
         push(*welcome, "skip");
+        EXPECT_EQ(shownTexts(*welcome).contains(u"Notifications are on"_s), completes);
         if (completes)
             push(*welcome, "next");
         else
@@ -164,6 +135,11 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
     Month expected(2026, 11);
     mark(expected, 20, DayState::IN_OFFICE); // by the one check, and nothing of the sample
     EXPECT_EQ(month(2026, 11)->days.value(), expected.days.value());
+
+    windows.open(WindowId::settings);
+    Q_EMIT shown<SettingsView>()->welcomeRequested();
+    EXPECT_EQ(shown<SettingsView>(), nullptr);
+    EXPECT_NE(shown<WelcomeView>(), nullptr);
 }
 
 // Every text a third longer, as another language may have it.

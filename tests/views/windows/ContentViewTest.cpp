@@ -32,7 +32,7 @@ TEST_F(ContentViewTest, settingsHaveTheirKeysAndAreStoredAtOnce)
     EXPECT_EQ(viewSettings.selectedTab, 1);
 }
 
-TEST_F(ContentViewTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
+TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
 {
     for (const auto& [before, isQuarter] : {std::pair(1, false), {2, true}, {-3, false}, {7, true}}) {
         SCOPED_TRACE(before);
@@ -41,20 +41,25 @@ TEST_F(ContentViewTest, opensTheStoredTabAndBuildsTheOtherWhenItIsShown)
         const QSignalSpy painted(&window, &ContentView::painted);
         show(window);
         EXPECT_TRUE(eventually([&] { return painted.size() == 1; }));
-        auto* tabs = window.findChild<QTabBar*>();
-        EXPECT_EQ(tabs->currentIndex(), isQuarter ? 1 : 0);
-        EXPECT_EQ(window.findChild<MonthView*>() == nullptr, isQuarter);
-        EXPECT_EQ(window.findChild<QuarterView*>() == nullptr, !isQuarter);
-        const QPoint otherTab = tabs->tabRect(isQuarter ? 0 : 1).center();
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, tabs->mapTo(&window, otherTab));
+        EXPECT_EQ(window.findChildren<CalendarPage*>().size(), 1); // the other is built when it is shown
+        EXPECT_EQ(window.findChild<QuarterView*>() != nullptr, isQuarter);
+        dayButton(window, 15).setFocus();
+        press(window, isQuarter ? Qt::Key_1 : Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(window.focusWidget(), window.findChild<QTabBar*>());
         EXPECT_EQ(stored.value("contentViewSelectedTab"), QVariant(isQuarter ? 1 : 2));
-        EXPECT_EQ(window.findChild<MonthView*>()->isVisible(), isQuarter);
-        EXPECT_EQ(window.findChild<QuarterView*>()->isVisible(), !isQuarter);
-        // The keys that turn the pages work while the tabs have the focus.
-        tabs->setCurrentIndex(0);
-        tabs->setFocus();
-        press(window, Qt::Key_PageDown);
-        EXPECT_EQ(window.findChild<MonthView*>()->period(), (YearMonth{2026, 12}));
+        const auto& month = *window.findChild<MonthView*>();
+        const auto& quarter = *window.findChild<QuarterView*>();
+        EXPECT_EQ(month.isVisible(), isQuarter);
+        EXPECT_EQ(quarter.isVisible(), !isQuarter);
+        const std::tuple<Qt::Key, Qt::KeyboardModifiers, bool> keys[]{{Qt::Key_PageDown, {}, true},
+                                                                      {Qt::Key_Left, Qt::AltModifier, false},
+                                                                      {Qt::Key_Right, Qt::AltModifier, true},
+                                                                      {Qt::Key_PageUp, {}, false}};
+        for (const auto& [key, held, isNext] : keys) {
+            press(window, key, held);
+            EXPECT_EQ(month.period().month, isQuarter && isNext ? 12 : 11);
+            EXPECT_EQ(quarter.quarter().quarter, !isQuarter && isNext ? 1 : 4);
+        }
         EXPECT_EQ(painted.size(), 1);
     }
 }

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ContentView.h"
+#include "LocationAlert.h"
+#include "TrackingIndicator.h"
+#include "TrackingPopover.h"
+#include "ViewTest.h"
+
+class TrackingTest : public ViewTest {};
+
+TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
+{
+    EXPECT_CALL(authorization, start).Times(0); // nothing is queried before the window is visible
+    ContentView window(parts);
+    const auto& indicator = *window.findChild<TrackingIndicator*>();
+    EXPECT_EQ(indicator.toolTip(), u"Tracking Off"_s);
+    testing::Mock::VerifyAndClearExpectations(&authorization);
+    EXPECT_CALL(authorization, start);
+    bool isMonitoring = false;
+    EXPECT_CALL(wifiClient, startMonitoringPowerEvents).WillOnce([&] { isMonitoring = true; });
+    EXPECT_CALL(wifiClient, stopMonitoringPowerEvents);
+    show(window);
+    EXPECT_TRUE(eventually([&] { return isMonitoring; }));
+
+    click(indicator);
+    const QPointer popover = window.findChild<TrackingPopover*>();
+    EXPECT_GT(popover->y(), indicator.mapToGlobal(indicator.rect().bottomLeft()).y());
+    EXPECT_TRUE(popover->screen()->availableGeometry().contains(popover->geometry()));
+    settings->firstTime = false;
+    check.lastCheck = clock.now().addDays(-1);
+    check.nextCheck = clock.now().addSecs(1800);
+    const QString off = u"Tracking Off"_s, on = u"Tracking On"_s, lacking = u"Wi-Fi or Location Off"_s;
+    // Whether it tracks and Wi-Fi is on, the permission; then what is shown.
+    const std::tuple<bool, bool, int, Symbol, QString> rows[]{
+        {false, true, 3, Symbol::Wifi, off},          {true, true, 3, Symbol::Wifi, on},
+        {true, false, 3, Symbol::WifiSlash, lacking}, {false, false, 3, Symbol::WifiSlash, off},
+        {true, true, 4, Symbol::WifiSlash, lacking},  {true, true, 3, Symbol::Wifi, on},
+    };
+    for (const auto& [isTracking, isOn, permission, symbol, status] : rows) {
+        settings->wifiTrackingEnabled = isTracking;
+        setRadio(isOn, permission);
+        EXPECT_EQ(indicator.symbol(), symbol);
+        EXPECT_EQ(indicator.toolTip(), status);
+        EXPECT_EQ(indicator.accessibleName(), status);
+        EXPECT_THAT(shownTexts(*popover),
+                    testing::ElementsAre(status, u"Wi-Fi"_s, isOn ? u"On"_s : u"Off"_s, u"Location access"_s,
+                                         permission == 3 ? u"Allowed"_s : u"Missing"_s, u"Last check"_s,
+                                         u"19 Nov 2026 09:00:00"_s, u"Next check"_s,
+                                         isTracking ? u"09:30:00"_s : u"None"_s));
+    }
+    settings->firstTime = true;
+    check.lastCheck = QDateTime();
+    EXPECT_EQ(shownTexts(*popover).count(u"None"_s), 2);
+    popover->close();
+    EXPECT_TRUE(eventually([&] { return popover.isNull(); }));
+}
+
+TEST_F(TrackingTest, theAlertIsVisibleWhileThePermissionIsMissing)
+{
+    settings->wifiTrackingEnabled = true;
+    ContentView window(parts);
+    show(window);
+    const auto isVisible = [&] {
+        const auto* alert = window.findChild<LocationAlert*>();
+        return alert != nullptr && alert->isVisible() && alert->y() > 0; // below the header, where it can be clicked
+    };
+    const auto push = [&](const char* name) { click(named<QAbstractButton>(window, name)); };
+    EXPECT_FALSE(isVisible());
+    authorization.change(AuthorizationStatus::notDetermined);
+    EXPECT_TRUE(eventually(isVisible));
+    EXPECT_CALL(authorization, requestAlwaysAuthorization);
+    push("giveAccess");
+    setRadio(true, 2);
+    EXPECT_CALL(systemSettings, openLocationSettings);
+    push("giveAccess");
+    for (const int permission : {3, 1}) {
+        authorization.change(AuthorizationStatus(permission));
+        EXPECT_TRUE(eventually([&] { return isVisible() == (permission == 1); }));
+    }
+    push("disableTracking");
+    EXPECT_FALSE(settings->wifiTrackingEnabled);
+    EXPECT_FALSE(isVisible());
+}
