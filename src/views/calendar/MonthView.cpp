@@ -8,9 +8,7 @@
 #include "MonthCard.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
-#include "StoredMonths.h"
 #include "Rows.h"
-#include "StoreError.h"
 #include "ViewSettings.h"
 
 #include <QLabel>
@@ -20,8 +18,7 @@ using namespace Qt::StringLiterals;
 
 MonthView::MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                      const Clock& clock, QWidget* parent)
-    : CalendarPage(parent)
-    , m_context(context)
+    : CalendarPage(context, parent)
     , m_viewSettings(viewSettings)
     , m_quarter(new Card)
     , m_quarterTracker(new ProgressWidgetView(settings, viewSettings, PeriodWord::Quarter))
@@ -60,6 +57,7 @@ void MonthView::build()
 void MonthView::showMonth(const YearMonth& period)
 {
     m_period = period;
+    loadQuarter(period.quarter());
     refresh();
 }
 
@@ -67,7 +65,6 @@ void MonthView::turnTo(const std::optional<YearMonth>& period)
 {
     if (!period)
         return;
-    // Whoever works with the keyboard stays on the same day of the month.
     const int day = m_month->calendar().focusedDay();
     showMonth(*period);
     if (day > 0)
@@ -94,16 +91,13 @@ void MonthView::next()
 
 void MonthView::refresh()
 {
-    bool loaded = true;
-    try {
-        const auto months = quarterMonths(m_context, m_period.quarter());
-        m_quarterTracker->setMonths(months);
-        m_month->setMonth(months.at((m_period.month - 1) % 3));
+    const bool isLoaded = !months().isEmpty();
+    if (isLoaded) {
+        m_quarterTracker->setMonths(months());
+        m_month->setMonth(months().at((m_period.month - 1) % 3));
         m_navigation->setAvailable(m_period.previous().has_value(), m_period.next().has_value());
-    } catch (const StoreError&) {
-        loaded = false;
     }
-    m_error->setVisible(!loaded);
-    m_month->setVisible(loaded);
-    m_quarter->setVisible(loaded && m_viewSettings.showQuarterStats);
+    m_error->setVisible(!isLoaded);
+    m_month->setVisible(isLoaded);
+    m_quarter->setVisible(isLoaded && m_viewSettings.showQuarterStats);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "CalendarPage.h"
-#include "Period.h"
 
 class AppSettings;
 class Card;
@@ -33,7 +32,6 @@ private:
     void turnTo(const std::optional<YearMonth>& period);
     void refresh();
 
-    ModelContext& m_context;
     const ViewSettings& m_viewSettings;
     YearMonth m_period;
     Card* m_quarter;

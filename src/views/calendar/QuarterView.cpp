@@ -5,8 +5,6 @@
 #include "Clock.h"
 #include "MonthCard.h"
 #include "QuarterStatsView.h"
-#include "StoreError.h"
-#include "StoredMonths.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -25,8 +23,7 @@ constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
 
 QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                          const Clock& clock, QWidget* parent)
-    : CalendarPage(parent)
-    , m_context(context)
+    : CalendarPage(context, parent)
     , m_stats(new QuarterStatsView(settings, viewSettings, clock, true))
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
     , m_error(new QLabel(tr("Error loading month!")))
@@ -34,7 +31,7 @@ QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, con
     m_error->setObjectName("error"_L1);
     m_error->setAlignment(Qt::AlignCenter);
     m_row->setSpacing(spacing);
-    for (MonthCard*& card : m_months) {
+    for (MonthCard*& card : m_cards) {
         card = new MonthCard(context, settings, viewSettings, clock);
         m_row->addWidget(card, 0, Qt::AlignHCenter);
         connect(&card->calendar(), &CalendarView::dayRequested, this, &QuarterView::showDay);
@@ -55,6 +52,7 @@ QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, con
 void QuarterView::showQuarter(const YearQuarter& quarter)
 {
     m_quarter = quarter;
+    loadQuarter(quarter);
     refresh();
 }
 
@@ -67,8 +65,8 @@ void QuarterView::turnTo(const std::optional<YearQuarter>& quarter)
 {
     if (!quarter)
         return;
-    const auto focused = std::ranges::find_if(m_months, [](auto* card) { return card->calendar().focusedDay() > 0; });
-    const int day = focused == m_months.end() ? 0 : (*focused)->calendar().focusedDay();
+    const auto focused = std::ranges::find_if(m_cards, [](auto* card) { return card->calendar().focusedDay() > 0; });
+    const int day = focused == m_cards.end() ? 0 : (*focused)->calendar().focusedDay();
     showQuarter(*quarter);
     if (day > 0)
         (*focused)->calendar().focusDay(day);
@@ -81,7 +79,7 @@ void QuarterView::showDay(QDate date)
     const YearQuarter wanted = YearMonth{date.year(), date.month()}.quarter();
     if (wanted != m_quarter)
         showQuarter(wanted);
-    m_months.at(static_cast<std::size_t>((date.month() - 1) % 3))->calendar().focusDay(date.day());
+    m_cards.at(static_cast<std::size_t>((date.month() - 1) % 3))->calendar().focusDay(date.day());
 }
 
 void QuarterView::previous()
@@ -102,17 +100,14 @@ void QuarterView::resizeEvent(QResizeEvent* event)
 
 void QuarterView::refresh()
 {
-    bool loaded = true;
-    try {
-        const auto months = quarterMonths(m_context, m_quarter);
-        m_stats->setQuarter(m_quarter, months);
-        for (std::size_t i = 0; i < m_months.size(); ++i)
-            m_months.at(i)->setMonth(months.at(static_cast<qsizetype>(i)));
-    } catch (const StoreError&) {
-        loaded = false;
+    const bool isLoaded = !months().isEmpty();
+    if (isLoaded)
+        m_stats->setQuarter(m_quarter, months());
+    m_error->setVisible(!isLoaded);
+    m_stats->setVisible(isLoaded);
+    for (std::size_t i = 0; i < m_cards.size(); ++i) {
+        if (isLoaded)
+            m_cards.at(i)->setMonth(months().at(static_cast<qsizetype>(i)));
+        m_cards.at(i)->setVisible(isLoaded);
     }
-    m_error->setVisible(!loaded);
-    m_stats->setVisible(loaded);
-    for (MonthCard* card : m_months)
-        card->setVisible(loaded);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "CalendarPage.h"
-#include "Period.h"
 
 #include <array>
 
@@ -39,10 +38,9 @@ private:
     void turnTo(const std::optional<YearQuarter>& quarter);
     void refresh();
 
-    ModelContext& m_context;
     YearQuarter m_quarter;
     QuarterStatsView* m_stats;
-    std::array<MonthCard*, 3> m_months{};
+    std::array<MonthCard*, 3> m_cards{};
     QBoxLayout* m_row;
     QLabel* m_error;
 };
