@@ -55,9 +55,9 @@ protected:
 
 TEST_F(AutomaticMarkingTest, aDayAtTheOfficeIsMarkedAndToldOnce)
 {
-    PlayedService network{QDBusConnection::systemBus(), networkManager, u"/org/freedesktop"_s};
-    PlayedService server{QDBusConnection::sessionBus(), u"org.freedesktop.Notifications"_s,
-                         u"/org/freedesktop/Notifications"_s};
+    MockService network{QDBusConnection::systemBus(), networkManager, u"/org/freedesktop"_s};
+    MockService server{QDBusConnection::sessionBus(), u"org.freedesktop.Notifications"_s,
+                       u"/org/freedesktop/Notifications"_s};
     network.startMock({u"-t"_s, QStringLiteral(NETWORK_MANAGER_TEMPLATE)});
     server.startMock({u"-t"_s, u"notification_daemon"_s});
     network.tell("AddRadio", u"1"_s, u"wlan0"_s, 100U);

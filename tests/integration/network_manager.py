@@ -100,7 +100,7 @@ def Use(self, radio, name):
 
 @dbus.service.method(MOCK_IFACE, in_signature="sis")
 def SetScan(_self, number, milliseconds, error):
-    """Sets how long the scans of a radio take, negative for ever, or which error refuses them."""
+    """Sets how long scans take (0: ended before the reply, negative: for ever), or which error refuses them."""
     radio = dbusmock.get_object(DEVICES + number)
     radio.milliseconds, radio.error = milliseconds, error
 
@@ -146,7 +146,9 @@ def scan(radio):
     if radio.error:
         name = f"org.freedesktop.NetworkManager.{radio.error}"
         raise dbus.exceptions.DBusException("Scanning is refused here", name=name)
-    if radio.milliseconds >= 0:
+    if radio.milliseconds == 0:
+        end_scan(radio)
+    elif radio.milliseconds > 0:
         GLib.timeout_add(radio.milliseconds, end_scan, radio)
 
 

@@ -7,20 +7,20 @@
 #include "StatusNotifierHost.h"
 
 #include <QDBusPendingCallWatcher>
-#include <QDateTime>
 #include <QSignalSpy>
 
 using namespace std::chrono_literals;
 using Claim = SingleInstance::Claim;
 using Request = SingleInstance::Request;
 
-TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
+TEST(LaunchAtLoginTest, isReadFromTheFileAsTheDesktopReadsIt)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"new/autostart/io.github.pellory.Pellory.desktop"_s));
     AutostartEntry entry(folder.filePath(u"new"_s), {uR"(/opt/a b/%f "$HOME" `\)"_s}), nowhere(file.fileName(), {});
     LaunchAtLogin login(entry), broken(nowhere);
     const QSignalSpy announced(&login, &LaunchAtLogin::willChange);
+    testing::internal::CaptureStderr();
     for (const bool isWanted : {false, true, true}) {
         login.setEnabled(isWanted);
         EXPECT_EQ(login.isEnabled(), isWanted);
@@ -40,7 +40,6 @@ TEST(LaunchAtLoginTest, isWhatTheDesktopMakesOfTheFile)
         EXPECT_TRUE(file.resize(0) && file.seek(0) && file.write(text) > 0 && file.flush());
         EXPECT_EQ(login.isEnabled(), isEnabled) << text.constData();
     }
-    testing::internal::CaptureStderr();
     broken.setEnabled(true);
     broken.setEnabled(false);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
@@ -62,14 +61,14 @@ TEST(LaunchAtLoginTest, isSetOutsideTheSandbox)
     }
 }
 
-TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessThatIsDead)
+TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
 {
     const QTemporaryDir folder;
     qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
     qputenv("XDG_ACTIVATION_TOKEN", "token");
     qunsetenv("DESKTOP_STARTUP_ID");
     const auto interface = u"org.freedesktop.Application"_s;
-    PlayedService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
+    MockService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
     for (const auto& [request, code, outcome] :
          {std::tuple(Request::None, "raise ValueError", Claim::HandedOver),
           {Request::Show, "assert args[-1] == {'activation-token': 'token'}", Claim::HandedOver},
@@ -87,10 +86,7 @@ TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessThatIsDead)
     const QDBusConnection noBus(u"none"_s);
     SingleInstance instance;
     EXPECT_EQ(instance.claim(Request::Show, noBus), Claim::Owned);
-    QFile lock(folder.filePath(u"pellory.lock"_s));
-    EXPECT_TRUE(lock.open(QFile::ReadWrite) &&
-                lock.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFile::FileModificationTime));
-    EXPECT_EQ(SingleInstance().claim(Request::Show, noBus), Claim::Refused) << "of whatever age the lock is";
+    EXPECT_EQ(SingleInstance().claim(Request::Show, noBus), Claim::Refused);
     QSignalSpy activated(&instance, &SingleInstance::activated);
     instance.Activate({});
     instance.Open({}, {{u"desktop-startup-id"_s, u"id"_s}});
@@ -98,7 +94,7 @@ TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessThatIsDead)
     EXPECT_EQ(activated, (QList<QVariantList>{{QString()}, {u"id"_s}, {u"token"_s}}));
 }
 
-TEST(QuitSignalsTest, areHeardOfAndAreTheSystemsOwnAfterwards)
+TEST(QuitSignalsTest, areReportedAndRestored)
 {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         auto signals = std::make_unique<QuitSignals>();
@@ -110,10 +106,9 @@ TEST(QuitSignalsTest, areHeardOfAndAreTheSystemsOwnAfterwards)
     }
 }
 
-TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsOne)
+TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsAHost)
 {
-    PlayedService watcher{QDBusConnection::sessionBus(), u"org.kde.StatusNotifierWatcher"_s,
-                          u"/StatusNotifierWatcher"_s};
+    MockService watcher{QDBusConnection::sessionBus(), u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s};
     StatusNotifierHost host;
     QString reported;
     QObject::connect(&host, &TrayHost::appeared, &host, [&] { reported += u'+'; });

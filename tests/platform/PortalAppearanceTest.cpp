@@ -4,13 +4,13 @@
 
 #include <QDBusPendingCallWatcher>
 
-TEST(PortalAppearanceTest, readsTheSchemeAndFollowsItsChangesAndNothingElse)
+TEST(PortalAppearanceTest, readsAndFollowsTheColorSchemeOnly)
 {
     using enum ColorScheme;
     const QString interface = u"org.freedesktop.portal.Settings"_s;
     const QString group = u"org.freedesktop.appearance"_s, key = u"color-scheme"_s;
-    PlayedService desktop{QDBusConnection::sessionBus(), u"org.freedesktop.portal.Desktop"_s,
-                          u"/org/freedesktop/portal/desktop"_s};
+    MockService desktop{QDBusConnection::sessionBus(), u"org.freedesktop.portal.Desktop"_s,
+                        u"/org/freedesktop/portal/desktop"_s};
     PortalAppearance appearance;
     QList<ColorScheme> reported;
     QObject::connect(&appearance, &Appearance::colorSchemeReported, &appearance,

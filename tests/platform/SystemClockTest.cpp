@@ -9,8 +9,8 @@ TEST(SystemClockTest, aSleepEndsInTimeOrWithTheClock)
 {
     auto clock = std::make_unique<SystemClock>();
     const auto longSleep = clock->sleep(1h);
-    endOf(clock->sleep(0s));
+    resultOf(clock->sleep(0s));
     EXPECT_FALSE(longSleep.isReady());
     clock.reset();
-    EXPECT_THROW(endOf(longSleep), Abandoned);
+    EXPECT_THROW(resultOf(longSleep), Abandoned);
 }

@@ -19,7 +19,7 @@
 #include <sys/wait.h>
 
 /// What a task returns, or throws.
-template <class T> T endOf(const QCoro::Task<T>& task)
+template <class T> T resultOf(const QCoro::Task<T>& task)
 {
     if (!eventually([&] { return task.isReady(); }))
         throw std::logic_error("the task does not end");
@@ -60,7 +60,7 @@ inline constexpr std::pair<const char*, const char*> nonsense[]{
 
 /// A simulated service. The test talks to it over the connection of the code under test: when a reply has arrived, so
 /// has everything that the service sent before it.
-struct PlayedService {
+struct MockService {
     [[nodiscard]] bool isThere() const { return bus.interface()->isServiceRegistered(name).value(); }
     void start(const QString& program, const QStringList& arguments)
     {
