@@ -121,6 +121,8 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
         EXPECT_THAT(shownTexts(*welcome), testing::Contains(u"Automatic tracking is on"_s));
         push(*welcome, "back");
         push(*welcome, "grant");
+        EXPECT_EQ(welcome->findChild<QWidget*>(u"welcome"_s), nullptr) << "which starts the first run";
+        EXPECT_FALSE(shownTexts(*welcome).contains(u"Automatic In Office Tracking"_s));
         settings->notificationsEnabled = completes;
         push(*welcome, "skip");
         EXPECT_EQ(shownTexts(*welcome).contains(u"Notifications are on"_s), completes);
