@@ -206,14 +206,15 @@ TEST_F(NetworkManagerTest, reportsPowerChangesWhileMonitored)
 {
     PowerWatch watch(1h);
     const auto* debounce = watch.findChild<QTimer*>();
+    EXPECT_GT(debounce->interval(), 0);
     QSignalSpy watched(&watch, &PowerWatch::powerStateDidChange), reported(&client, &WiFiClient::powerStateDidChange);
     // What happens, the number of the radio that is reported, and whether it is on then.
     const std::tuple<Action, int, bool> rows[]{
         {[&] { change("WirelessHardwareEnabled", false); }, 0, false},
-        {[&] { change("WirelessHardwareEnabled", true), setState(20); }, 0, false},
-        {[&] { setState(100); }, 0, true},
-        {[&] { change("WirelessEnabled", false); }, 0, false},
+        {[&] { change("WirelessHardwareEnabled", true), change("WirelessEnabled", false); }, 0, false},
         {[&] { change("WirelessEnabled", true); }, 0, true},
+        {[&] { setState(20); }, 0, false},
+        {[&] { setState(100); }, 0, true},
         {[&] { addRadio(1, 100); }, 0, true},
         {[&] { manager.tell("Connect", "1"); }, 1, true},
         {[&] { removeRadio(1); }, 0, true},
@@ -222,7 +223,7 @@ TEST_F(NetworkManagerTest, reportsPowerChangesWhileMonitored)
         {[&] { start(); }, 0, true}};
     for (const auto& [act, number, isOn] : rows) {
         act();
-        EXPECT_TRUE(eventually([&] { return !watched.isEmpty() && !debounce->isActive(); }));
+        ASSERT_TRUE(eventually([&] { return !watched.isEmpty() && !debounce->isActive(); }));
         const auto report = watched.takeFirst().value(0);
         EXPECT_EQ(report, u"wlan%1"_s.arg(number));
         EXPECT_TRUE(watched.isEmpty()); // changes in quick succession are reported once
