@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MessageBoxAlerts.h"
+#include "Testing.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -7,11 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 TEST(MessageBoxAlertsTest, onlyTheFirstButtonConfirms)
 {
