@@ -1,30 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "InOfficeCheck.h"
 #include "AppSettings.h"
-#include "ExpectedMarks.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
-#include "InOfficeCheck.h"
 #include "ModelContainer.h"
+#include "ModelContext.h"
+#include "Month.h"
 #include "Notifier.h"
+#include "StoredMonths.h"
 #include "Testing.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-using namespace std::chrono_literals;
+using namespace std::literals;
 
 namespace {
 
 QStringList logged;
-const QStringList notices{u"Pellory|You have been marked as in the office today|"_s,
-                          u"(Not) Pellory|You have been marked as out of office for yesterday|"_s};
 
 } // namespace
 
-class InOfficeTest : public testing::Test, public Notifier {
+class InOfficeCheckTest : public testing::Test, public Notifier {
 protected:
-    InOfficeTest()
+    InOfficeCheckTest()
     {
         settings.firstTime = false;
         settings.wifiTrackingEnabled = true;
@@ -34,26 +34,62 @@ protected:
             logged.append((type == QtCriticalMsg ? u"critical: "_s : QString()) + text);
         });
     }
-    ~InOfficeTest() override { qInstallMessageHandler(nullptr); }
-    void post(const Notification& n) override { posted += n.title + u'|' + n.subtitle + u'|' + n.topic; }
+    ~InOfficeCheckTest() override { qInstallMessageHandler(nullptr); }
+    void post(const Notification& n) override
+    {
+        posted += QStringList{n.title, n.subtitle, n.topic, n.day.toString(Qt::ISODate)}.join(u'|');
+    }
     bool checkNow(bool markPrevious = true)
     {
         auto task = check.check(markPrevious);
         return task.isReady() ? QCoro::waitFor(task) : throw std::logic_error("the check waits");
     }
 
-    FixedClock clock; // goes last with the client: what still waits for them must not touch the rest
+    FixedClock clock; // destroyed last with the client: what still waits for them must not touch the rest
     testing::NiceMock<FakeWiFiClient> client;
     const QTemporaryDir folder;
     ModelContainer container{{.name = {}, .path = folder.filePath(u"Pellory.store"_s)}};
+    ModelContext& context = container.mainContext();
     AppSettings settings;
     InOfficeCheck check{{container, settings, client, *this, clock}};
     QStringList posted;
 };
 
-TEST_F(InOfficeTest, isWhereAWholeNameIsTheSameByItsCharacters)
+TEST_F(InOfficeCheckTest, marksDaysThatAreUnknownOrPlannedAndNoOthers)
 {
-    // The offices, then what is in range: a network without a name is hidden.
+    clock.beginDay({2023, 1, 1}); // a Sunday
+    const auto january = findOrCreateMonth(context, {2023, 1, 1}),
+               december = findOrCreateMonth(context, {2022, 12, 30});
+    for (const DayState before : allDayStates) {
+        const bool isOpen = before == DayState::UNKNOWN || before == DayState::WILL_BE_IN_OFFICE;
+        for (unsigned setting = 0; setting < 8; ++setting) {
+            const bool isInRange = (setting & 1U) != 0, markPrevious = (setting & 2U) != 0;
+            client.networks = {{isInRange ? u"Office"_s : u"Home"_s}};
+            settings.notificationsEnabled = (setting & 4U) != 0;
+            QList<Day> today{{1, before, true}}, previous{{30, before, false}};
+            january->days = today;
+            december->days = previous;
+            QStringList notices;
+            if (isOpen && isInRange) {
+                today[0] = {1, DayState::IN_OFFICE, false}; // which also corrects the kind of the day
+                notices += u"Pellory|You have been marked as in the office today||2023-01-01"_s;
+            }
+            if (isOpen && markPrevious) {
+                previous[0] = {30, DayState::OUT_OF_OFFICE, true};
+                notices += u"(Not) Pellory|You have been marked as out of office for yesterday||2022-12-30"_s;
+            }
+            posted.clear();
+            EXPECT_EQ(checkNow(markPrevious), isOpen && isInRange);
+            EXPECT_EQ(january->days.value(), today) << int(before) << " with " << setting;
+            EXPECT_EQ(december->days.value(), previous) << int(before) << " with " << setting;
+            EXPECT_EQ(posted, settings.notificationsEnabled ? notices : QStringList());
+        }
+    }
+}
+
+TEST_F(InOfficeCheckTest, findsAnOfficeByItsWholeNameAndTheSameCharacters)
+{
+    // The offices, what is in range, and whether that is one of them. A network without a name is hidden.
     for (const char* row : {"Office>Guests||Office>yes", "Annex|Office>Office>yes", "office>Office>", "Office >Office>",
                             "Office>Office 5G|Off>", ">Office>", "Office>>", "Caf\u00e9>Cafe\u0301>yes",
                             "Cafe\u0301>Caf\u00e9>yes", "O\ufb01ce>Ofice>"}) {
@@ -68,64 +104,63 @@ TEST_F(InOfficeTest, isWhereAWholeNameIsTheSameByItsCharacters)
     EXPECT_EQ(client.scans, QStringList(10, u"wlan0"_s));
 }
 
-TEST_F(InOfficeTest, isCheckedAgainAfterFailuresThatThePersonIsToldOf)
+TEST_F(InOfficeCheckTest, reportsAFailureAndChecksAgain)
 {
-    const QString apology = u"There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n"_s;
-    const QString lonely = u"critical: Could not find default interface for automatic in office detection"_s;
+    settings.notificationsEnabled = false; // of other things
     const auto failsWith = [&](const QString& problem) {
         posted.clear();
         clock.advance(30min);
         EXPECT_EQ(logged.last(), u"critical: Error while checking if in office via Wi-Fi: "_s + problem);
-        EXPECT_EQ(posted.join(u'~'), u"Pellory|"_s + apology + problem + u"|detection-problem"_s);
+        EXPECT_EQ(posted,
+                  QStringList(u"Pellory|There was a problem using to Wi-Fi to detect if you're in the office or "
+                              "not.\n\n"_s +
+                              problem + u"|detection-problem|"_s));
     };
-    settings.notificationsEnabled = false;
     client.failure = u"b\u00fcsy %s"_s;
     check.start();
     failsWith(client.failure);
     client.failure.clear();
     for (int i = 0; i < 2; ++i)
-        container.mainContext().insert(std::make_shared<Month>(2026, 11));
+        context.insert(std::make_shared<Month>(2026, 11));
     failsWith(u"There is a problem with the database."_s);
-    clock.beginDay({2026, 12, 1}); // the month before is there twice, this one is not
+    clock.beginDay({2026, 12, 1}); // whose month is stored once; the month of the day before is stored twice
     failsWith(u"There is a problem with the database."_s);
-    EXPECT_FALSE(checkNow(false));
     EXPECT_EQ(logged.filter(u"Log"_s), QStringList(u"Logged as in office on 2026-12-1"_s));
-    settings.inOfficeSsids = QStringList();
     client.interface->powerOn = false;
     failsWith(u"Wi-Fi is turned off."_s);
-    EXPECT_FALSE(logged.contains(lonely));
     client.interface.reset();
     failsWith(u"Could not find the default Wi-Fi interface."_s);
-    EXPECT_TRUE(logged.contains(lonely));
-    EXPECT_EQ(client.scans.size(), 6); // none without power
+    EXPECT_EQ(logged.filter(u"find default"_s),
+              QStringList(u"critical: Could not find default interface for automatic in office detection"_s));
+    EXPECT_EQ(client.scans.size(), 5); // none without power
 }
 
-TEST_F(InOfficeTest, isCheckedWhereThePersonWantsItAfterEachInterval)
+TEST_F(InOfficeCheckTest, runsAfterEachIntervalUnlessItIsTurnedOff)
 {
     for (const bool isSettingUp : {true, false}) {
         settings.wifiTrackingEnabled = isSettingUp;
         settings.firstTime = isSettingUp;
         EXPECT_FALSE(checkNow());
     }
-    EXPECT_TRUE((client.scans + posted).isEmpty() && container.mainContext().fetchMonths().isEmpty());
+    EXPECT_TRUE((client.scans + posted).isEmpty() && context.fetchMonths().isEmpty());
     settings.wifiTrackingEnabled = true;
     check.start();
-    for (int i = 0; i < 47; ++i)
-        clock.advance(30min);
+    EXPECT_EQ(clock.sleeps.first(), 30min);
     for (const qint64 minutes : {2, 0, -5, 45}) {
         settings.checkEveryInMinutes = minutes;
         clock.advance(clock.sleeps.last() - 1s);
         EXPECT_EQ(client.scans.size(), clock.sleeps.size());
         clock.advance(1s);
         EXPECT_EQ(clock.sleeps.last(), std::max<qint64>(minutes, 1) * 60s);
+        EXPECT_EQ(check.lastCheck.value(), clock.now());
+        EXPECT_EQ(check.nextCheck.value(), clock.now().addDuration(clock.sleeps.last()));
     }
-    EXPECT_EQ(clock.sleeps.first(48).count(30min), 48);
     qInstallMessageHandler(nullptr);
     settings.checkEveryInMinutes = std::numeric_limits<qint64>::max();
     EXPECT_DEATH(clock.advance(45min), "9223372036854775807 minutes cannot be counted");
 }
 
-TEST_F(InOfficeTest, isCheckedAfterAPlainTimerWhileTheClockIsBroken)
+TEST_F(InOfficeCheckTest, runsByAPlainTimerWhileTheClockIsBroken)
 {
     clock.isBroken = true;
     check.start();
@@ -140,7 +175,7 @@ TEST_F(InOfficeTest, isCheckedAfterAPlainTimerWhileTheClockIsBroken)
     }
 }
 
-TEST_F(InOfficeTest, isMarkedOnceOnTheDayOfTheAnswerAndGivenUpWithoutOne)
+TEST_F(InOfficeCheckTest, marksTheDayOfTheAnswerOnce)
 {
     client.isHeld = true;
     check.start();
@@ -148,27 +183,31 @@ TEST_F(InOfficeTest, isMarkedOnceOnTheDayOfTheAnswerAndGivenUpWithoutOne)
     Q_EMIT client.letGo();
     clock.beginDay({2026, 11, 21});
     Q_EMIT client.letGo();
-    EXPECT_TRUE(second.isReady() && client.scans.size() == 2);
-    QCoreApplication::processEvents();
-    ModelContainer onDisk(container.configuration()); // nobody has saved, but the turn has ended
-    EXPECT_EQ(storedMarks(onDisk.mainContext()),
-              (Marks{{QDate(2026, 11, 20), DayState::OUT_OF_OFFICE}, {QDate(2026, 11, 21), DayState::IN_OFFICE}}));
-    EXPECT_EQ(std::exchange(posted, {}), notices);
-    for (const int held : {0, 1, 2, 3}) { // in a sleep, in a rest on the timer, in a lookup, in a scan
+    EXPECT_TRUE(second.isReady());
+    EXPECT_EQ(logged.filter(u"Log"_s),
+              QStringList({u"Logged as in office on 2026-11-21"_s, u"Logged as out of office on 2026-11-20"_s}));
+    QCoreApplication::processEvents(); // nobody saves, but the turn ends
+    ModelContainer onDisk(container.configuration());
+    EXPECT_EQ(onDisk.mainContext().fetchMonths().at(0)->days.value(), context.fetchMonths().at(0)->days.value());
+}
+
+TEST_F(InOfficeCheckTest, isAbandonedSilentlyWhenTheProgramEnds)
+{
+    for (const char* waitingIn : {"sleep", "delay", "lookup", "scan"}) {
         auto ownClock = std::make_unique<FixedClock>();
         auto ownClient = std::make_unique<FakeWiFiClient>();
-        ownClock->isBroken = held == 1;
-        ownClient->isHeld = held >= 2;
+        ownClock->isBroken = waitingIn == "delay"sv;
+        ownClient->isHeld = waitingIn == "lookup"sv || waitingIn == "scan"sv;
         auto own = std::make_unique<InOfficeCheck>(CheckParts{container, settings, *ownClient, *this, *ownClock});
         own->start();
         const auto asked = own->check(true);
-        if (held == 3)
+        if (waitingIn == "scan"sv)
             Q_EMIT ownClient->letGo();
         posted.clear();
         logged.clear();
         own.reset();
         ownClock.reset();
         ownClient.reset();
-        EXPECT_TRUE(asked.isReady() && logged.isEmpty() && posted.isEmpty()) << held;
+        EXPECT_TRUE(asked.isReady() && logged.isEmpty() && posted.isEmpty()) << waitingIn;
     }
 }
