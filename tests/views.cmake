@@ -27,20 +27,15 @@ pellory_test(platform
 )
 target_compile_definitions(platform_test PRIVATE
     NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
-pellory_test(integration
-    SOURCES integration/AutomaticMarkingTest.cpp integration/ProgramTest.cpp
-    LINKS Pellory::store Pellory::platform Qt6::DBus Qt6::Test
-)
-add_dependencies(integration_test pellory)
-target_compile_definitions(integration_test PRIVATE
-    PELLORY_PROGRAM="$<TARGET_FILE:pellory>"
-    NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
 foreach(case
         desktop_test.DesktopTest.test_controls_have_names_and_roles
         desktop_test.DesktopTest.test_goes_on_without_a_window_while_it_tracks
         desktop_test.DesktopTest.test_starts_at_login_without_a_window
         faults_test.FaultsTest.test_goes_on_while_nothing_answers
-        faults_test.FaultsTest.test_opens_nothing_to_the_internet)
+        faults_test.FaultsTest.test_marks_a_day_at_the_office_once
+        faults_test.FaultsTest.test_opens_nothing_to_the_internet
+        faults_test.FaultsTest.test_says_that_there_is_no_radio
+        faults_test.FaultsTest.test_starts_without_a_bus_and_after_every_end)
     string(REGEX REPLACE ".*test_" "" name ${case})
     add_test(NAME integration.desktop.${name} WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/integration" COMMAND
         env PELLORY_PROGRAM=$<TARGET_FILE:pellory> /usr/bin/python3 -Bm unittest ${case})
