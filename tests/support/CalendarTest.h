@@ -22,7 +22,7 @@ protected:
         settings->daysPerWeekGoals = {Goal::create(u"2"_s, u"not fired"_s), Goal::create(u"4"_s, u"ideal"_s)};
         context.insert(settings);
     }
-    ~CalendarTest() override { wear(ColorScheme::Light); }
+    ~CalendarTest() override { applyScheme(ColorScheme::Light); }
 
     /// The stored month; a new one if there is none.
     [[nodiscard]] std::shared_ptr<Month> month(int year, int number)
@@ -36,7 +36,7 @@ protected:
         return found.first();
     }
 
-    static void wear(ColorScheme scheme)
+    static void applyScheme(ColorScheme scheme)
     {
         QApplication::setPalette(paletteFor(scheme));
         QApplication::processEvents();

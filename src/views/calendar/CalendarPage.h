@@ -28,7 +28,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// Must be called before a period is shown: creates the months of its quarter that are not stored yet.
+    /// Must be called before a period is shown. Creates the months of the quarter that are not stored yet.
     void loadQuarter(const YearQuarter& quarter);
     /// The three months of the loaded quarter; empty if the store could not be read.
     [[nodiscard]] const QList<std::shared_ptr<Month>>& months() const { return m_months; }

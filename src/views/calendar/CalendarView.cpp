@@ -24,8 +24,8 @@
 namespace {
 
 constexpr int columns = 7;
-// The last row holds two cells. The 38th cell of a month is never needed: the longest month that starts latest ends in
-// the 37th.
+// The last row has two cells. A month that starts on a Saturday and has 31 days ends in the 37th cell, so the 38th is
+// never shown.
 constexpr qsizetype drawnCells = 37;
 constexpr int firstCellRow = 3;
 constexpr qreal highlightRadius = 12.0;
@@ -115,7 +115,7 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
 
 void CalendarView::showPicker(qsizetype index, const QPoint& position)
 {
-    // The month is kept alive, and the one that was clicked is marked even if another is shown by then.
+    // Marks the month that was clicked, even if another is shown by then.
     QMenu* menu = makeStatusPicker(
         this, [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
     menu->popup(position);
@@ -172,7 +172,7 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
     cell.setTint(dayColor(themeFor(palette()), day));
     cell.setTooltipText(description(day.state));
     cell.setRinged(date == today);
-    //: The date of a day, as it is read out. Letters stand for its parts, words go between single quotes: 'the' d.
+    //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
     cell.setAccessibleName(tr("%1, %2", "date and state").arg(written, description(day.state)));
 }
@@ -248,7 +248,7 @@ void CalendarView::paintEvent(QPaintEvent* /*event*/)
 
 bool CalendarView::eventFilter(QObject* watched, QEvent* event)
 {
-    // The Tab key enters the grid where it was left, and leaves it from any day.
+    // Tab enters the grid at the day that had the focus last, and leaves it from any day.
     if (event->type() == QEvent::FocusIn)
         setTabStop(static_cast<CommandClickableButton*>(watched));
     return QWidget::eventFilter(watched, event);

@@ -16,7 +16,7 @@ class QGridLayout;
 class QLabel;
 class ViewSettings;
 
-/// One month as a grid of days, and the one place where a person marks days by hand. The arrow keys move between days.
+/// The grid of a month, in which days are marked by hand. The arrow keys move between days.
 class CalendarView : public QWidget {
     Q_OBJECT
 
@@ -26,13 +26,13 @@ public:
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] Month* month() const { return m_month.get(); }
-    /// Moves the keyboard focus to a day of the month; past the end it takes the last day.
+    /// Gives a day the keyboard focus. Past the end of the month this is the last day.
     void focusDay(int dayOfMonth);
-    /// The day that has the keyboard focus, 0 where none has.
+    /// The day that has the keyboard focus, 0 if none has.
     [[nodiscard]] int focusedDay() const;
 
 Q_SIGNALS:
-    /// An arrow key led out of this month.
+    /// Emitted when an arrow key leads out of this month.
     void dayRequested(QDate date);
 
 protected:
@@ -60,7 +60,7 @@ private:
     DayEditor m_editor;
     bool m_highlighted;
     std::shared_ptr<Month> m_month;
-    /// Owns what follows the month that is shown.
+    /// Owner of the followers of the month that is shown.
     std::unique_ptr<QObject> m_monthFollowers;
     QLabel* m_name = nullptr;
     QLabel* m_workdays = nullptr;

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr QSize smallestFace(35, 26);
+constexpr QSize minimumFace(35, 26);
 constexpr int cellRadius = 8;
-constexpr int roomForRings = 5;
+constexpr int cellRingMargin = 5;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
 
@@ -36,7 +36,7 @@ CommandClickableButton::CommandClickableButton(Actions actions, const ViewSettin
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setFont(fonts::body(font()));
-    // What an assistive technology presses; mouse and keys carry modifiers and run the actions themselves.
+    // Only assistive technology emits this; mouse and keys have modifiers and call run() themselves.
     connect(this, &QAbstractButton::clicked, this, [this] { run(Qt::NoModifier); });
 }
 
@@ -75,13 +75,13 @@ void CommandClickableButton::resetHover()
 
 QRect CommandClickableButton::face() const
 {
-    return rect().marginsRemoved(QMargins() + roomForRings);
+    return rect().marginsRemoved(QMargins() + cellRingMargin);
 }
 
 QSize CommandClickableButton::sizeHint() const
 {
     const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("30"));
-    return text.grownBy({8, 3, 8, 3}).expandedTo(smallestFace).grownBy(QMargins() + roomForRings);
+    return text.grownBy({8, 3, 8, 3}).expandedTo(minimumFace).grownBy(QMargins() + cellRingMargin);
 }
 
 bool CommandClickableButton::hitButton(const QPoint& position) const
@@ -97,13 +97,13 @@ void CommandClickableButton::contextMenuEvent(QContextMenuEvent* event)
 void CommandClickableButton::enterEvent(QEnterEvent* event)
 {
     QAbstractButton::enterEvent(event);
-    hover(true);
+    setHovered(true);
 }
 
 void CommandClickableButton::leaveEvent(QEvent* event)
 {
     QAbstractButton::leaveEvent(event);
-    hover(false);
+    setHovered(false);
 }
 
 void CommandClickableButton::focusInEvent(QFocusEvent* event)
@@ -120,12 +120,12 @@ void CommandClickableButton::hideEvent(QHideEvent* event)
 
 void CommandClickableButton::keyPressEvent(QKeyEvent* event)
 {
-    // The Menu key comes as an event of its own, this one does not.
+    // Qt sends a context menu event for the Menu key only.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         requestMenu(menuCorner());
         return;
     }
-    // The other keys belong to the grid.
+    // The grid handles all other keys.
     if (event->key() != Qt::Key_Space) {
         event->ignore();
         return;
@@ -158,7 +158,7 @@ void CommandClickableButton::mousePressEvent(QMouseEvent* event)
 
 void CommandClickableButton::mouseMoveEvent(QMouseEvent* event)
 {
-    // A press that has left is a drag, and stays one when it comes back.
+    // Leaving the face cancels the click, even if the pointer comes back.
     if (isDown() && !hitButton(event->position().toPoint()))
         setDown(false);
 }
@@ -212,11 +212,11 @@ QPoint CommandClickableButton::menuCorner() const
 
 void CommandClickableButton::requestMenu(const QPoint& globalPosition)
 {
-    hover(false); // the pointer is the menu's now
+    setHovered(false); // the menu takes the pointer
     Q_EMIT menuRequested(globalPosition);
 }
 
-void CommandClickableButton::hover(bool inside)
+void CommandClickableButton::setHovered(bool inside)
 {
     if (m_viewSettings.showStatusLabelOnHover)
         setShowTooltip(inside);

@@ -13,8 +13,8 @@
 class HoverLabel;
 class ViewSettings;
 
-/// A small coloured button that runs one of four actions, by the key held during the click, and can show a label while
-/// the pointer rests on it. Space with the same keys does what a click does.
+/// A small coloured button that runs one of four actions, depending on the modifier key held, and can show a label on
+/// hover. Space does the same as a click.
 class CommandClickableButton : public QAbstractButton {
     Q_OBJECT
 
@@ -34,19 +34,19 @@ public:
     void setTint(const QColor& tint);
     [[nodiscard]] QColor tint() const { return m_tint; }
     void setTooltipText(const std::optional<QString>& text);
-    /// Draws a ring around the button.
+    /// Draws a ring around the button, which marks today.
     void setRinged(bool ringed);
     [[nodiscard]] bool isRinged() const { return m_ringed; }
     [[nodiscard]] bool showTooltip() const { return m_showTooltip; }
-    /// Hides the label, as for a button that has just been made.
+    /// Hides the label, whatever the setting.
     void resetHover();
-    /// The coloured part, in which a click counts. Around it there is room for the rings.
+    /// The coloured part, which reacts to clicks. The margin around it is for the rings.
     [[nodiscard]] QRect face() const;
 
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// A right click, the Menu key or Shift+F10.
+    /// Emitted on a right click, the Menu key or Shift+F10.
     void menuRequested(const QPoint& globalPosition);
 
 protected:
@@ -65,10 +65,10 @@ protected:
 
 private:
     void run(Qt::KeyboardModifiers held);
-    /// Where a menu opens that was asked for with the keyboard.
+    /// Where the menu opens if a key was pressed, in global coordinates.
     [[nodiscard]] QPoint menuCorner() const;
     void requestMenu(const QPoint& globalPosition);
-    void hover(bool inside);
+    void setHovered(bool inside);
     void setShowTooltip(bool show);
 
     Actions m_actions;

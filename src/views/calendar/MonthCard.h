@@ -15,7 +15,7 @@ class ProgressWidgetView;
 class QVBoxLayout;
 class ViewSettings;
 
-/// A month's grid with the month's progress tracker below it.
+/// The grid of a month with its progress tracker below.
 class MonthCard : public Card {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] CalendarView& calendar() { return *m_calendar; }
-    /// Puts a row above the grid.
+    /// Adds the row above the grid.
     void setNavigation(NavigationRow* row);
 
 private:

@@ -13,7 +13,7 @@ class ProgressWidgetView;
 class QLabel;
 class ViewSettings;
 
-/// One month and how its quarter stands. Starts at today.
+/// One month and the statistics of its quarter, at first of today's month.
 class MonthView : public CalendarPage {
     Q_OBJECT
 

@@ -5,14 +5,14 @@
 
 class LinkButton;
 
-/// The two buttons that lead to the period before and the period after.
+/// The buttons for the previous and the next period.
 class NavigationRow : public QWidget {
     Q_OBJECT
 
 public:
     NavigationRow(const QString& previousText, const QString& nextText, QWidget* parent = nullptr);
 
-    /// At the ends of the calendar there is nowhere to go.
+    /// Enables the buttons; at the ends of the calendar one is disabled.
     void setAvailable(bool previous, bool next);
 
 Q_SIGNALS:

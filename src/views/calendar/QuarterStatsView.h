@@ -14,7 +14,7 @@ class ProgressWidgetView;
 class QLabel;
 class ViewSettings;
 
-/// How a quarter stands, with the way to its neighbours. The quarter shown is the owner's: it is asked to move.
+/// The statistics of a quarter, with navigation. The owner decides which quarter is shown.
 class QuarterStatsView : public Card {
     Q_OBJECT
 

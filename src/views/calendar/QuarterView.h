@@ -14,7 +14,8 @@ class QLabel;
 class QuarterStatsView;
 class ViewSettings;
 
-/// The three months of a quarter and how it stands. Starts at today. Months stand side by side where there is room.
+/// The three months of a quarter and its statistics, at first of today's quarter. Months are side by side if there is
+/// room.
 class QuarterView : public CalendarPage {
     Q_OBJECT
 
@@ -28,7 +29,7 @@ public:
     void showDay(QDate date) override;
     [[nodiscard]] YearQuarter quarter() const { return m_quarter; }
 
-    /// As narrow as one month, also while three stand side by side: else they would never go back below each other.
+    /// The width of one month even while three are side by side, so that the window can be made narrower again.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

@@ -30,7 +30,7 @@ ClickModifier clickModifier(Qt::KeyboardModifiers held)
     return ClickModifier::None;
 }
 
-ClickModifier modifierReaching(DayState state)
+ClickModifier modifierFor(DayState state)
 {
     switch (state) {
     case DayState::UNKNOWN:

@@ -5,15 +5,14 @@
 
 #include <Qt>
 
-/// The keys that give a click on a day another meaning, in order of priority: of several that are held the first
-/// counts.
+/// The modifier keys of a click on a day, in order of priority: if several are held, the first counts.
 enum class ClickModifier { None, Command, Option, Shift };
 
-/// What was held during a click, as this platform's keys: Ctrl, Alt and Shift.
+/// The modifier that counts, where Ctrl is Command and Alt is Option.
 [[nodiscard]] ClickModifier clickModifier(Qt::KeyboardModifiers held);
 
-/// The key that makes one click reach the state.
-[[nodiscard]] ClickModifier modifierReaching(DayState state);
+/// The modifier that sets the state in one click.
+[[nodiscard]] ClickModifier modifierFor(DayState state);
 
-/// What is printed on the key, such as "Ctrl"; empty for none.
+/// The name of the key, such as "Ctrl"; empty for none.
 [[nodiscard]] QString keyName(ClickModifier modifier);

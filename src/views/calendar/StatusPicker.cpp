@@ -11,12 +11,12 @@
 
 namespace {
 
-// The size of the drawn keys: the widest one's, so that the texts behind them line up.
+// All keys are as wide as the widest, so that the texts line up.
 QSize keySize(const QFont& font)
 {
     QSize size;
     for (const DayState state : allDayStates)
-        size = size.expandedTo(keyCapSize(keyName(modifierReaching(state)), font));
+        size = size.expandedTo(keyCapSize(keyName(modifierFor(state)), font));
     return size;
 }
 
@@ -35,7 +35,7 @@ QIcon keyIcon(ClickModifier modifier, const QWidget& widget)
     return pixmap;
 }
 
-// A menu is made for square icons; a key with its name on it is wide.
+// Menus expect square icons, but key caps are wide.
 class KeyColumnStyle : public QProxyStyle {
 public:
     explicit KeyColumnStyle(int keyWidth)
@@ -54,7 +54,7 @@ private:
 
 } // namespace
 
-QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& chosen)
+QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& onChosen)
 {
     auto* menu = new QMenu(parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -62,9 +62,9 @@ QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& ch
     style->setParent(menu);
     menu->setStyle(style);
     for (const DayState state : allDayStates) {
-        QAction* action = menu->addAction(keyIcon(modifierReaching(state), *menu), description(state));
+        QAction* action = menu->addAction(keyIcon(modifierFor(state), *menu), description(state));
         action->setIconVisibleInMenu(true);
-        QObject::connect(action, &QAction::triggered, menu, [chosen, state] { chosen(state); });
+        QObject::connect(action, &QAction::triggered, menu, [onChosen, state] { onChosen(state); });
     }
     return menu;
 }

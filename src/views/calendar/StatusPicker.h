@@ -8,5 +8,5 @@
 class QMenu;
 class QWidget;
 
-/// A menu of all states, each behind the key that reaches it in one click. The menu deletes itself when it closes.
-[[nodiscard]] QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& chosen);
+/// A menu of all states, each with the modifier key that sets it in one click. It deletes itself when it closes.
+[[nodiscard]] QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& onChosen);

@@ -3,8 +3,8 @@
 
 #include <QAccessible>
 
-/// Sets the role that assistive technology sees where Qt cannot know it. Must be set before anything else, because Qt
-/// asks only once. Widgets that draw themselves also need an accessible name.
+/// Sets the role that assistive technology sees, for widgets whose role Qt cannot know. Must be called first thing on a
+/// new widget, because Qt asks for the role only once. Widgets that draw themselves need an accessible name too.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 /// Makes Qt report these roles. Must be called once, before the first window is built.

@@ -5,9 +5,9 @@
 
 #include <QPainter>
 
-Bar::Bar(Qt::Edge line, QWidget* parent)
+Bar::Bar(Qt::Edge border, QWidget* parent)
     : QWidget(parent)
-    , m_line(line)
+    , m_border(border)
 {
 }
 
@@ -16,5 +16,5 @@ void Bar::paintEvent(QPaintEvent* /*event*/)
     const Theme& theme = themeFor(palette());
     QPainter painter(this);
     painter.fillRect(rect(), theme.card);
-    painter.fillRect(0, m_line == Qt::TopEdge ? 0 : height() - 1, width(), 1, theme.border);
+    painter.fillRect(0, m_border == Qt::TopEdge ? 0 : height() - 1, width(), 1, theme.border);
 }

@@ -3,17 +3,17 @@
 
 #include <QWidget>
 
-/// The bar along an edge of a window, for its tabs and buttons.
+/// The bar along an edge of a window that holds tabs and buttons.
 class Bar : public QWidget {
     Q_OBJECT
 
 public:
-    /// `line` is the edge of the bar that is drawn: the one towards the rest of the window.
-    explicit Bar(Qt::Edge line, QWidget* parent = nullptr);
+    /// Draws a line along `border`, the edge towards the rest of the window.
+    explicit Bar(Qt::Edge border, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Qt::Edge m_line;
+    Qt::Edge m_border;
 };

@@ -11,7 +11,7 @@ namespace {
 
 constexpr QMargins buttonPadding(16, 7, 16, 7);
 constexpr qreal buttonRadius = 8.0;
-constexpr int buttonRoomForRing = 3;
+constexpr int buttonRingMargin = 3;
 
 } // namespace
 
@@ -33,7 +33,7 @@ void Button::setProminent(bool prominent)
 
 QSize Button::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(buttonPadding + buttonRoomForRing);
+    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(buttonPadding + buttonRingMargin);
 }
 
 void Button::focusInEvent(QFocusEvent* event)
@@ -45,7 +45,7 @@ void Button::focusInEvent(QFocusEvent* event)
 void Button::keyPressEvent(QKeyEvent* event)
 {
     m_focusVisible.show();
-    // The button that has the focus, and not the default one of its window.
+    // In a dialog, Qt would press the default button instead.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
     else
@@ -59,7 +59,7 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     QColor face = isFilled ? palette().color(QPalette::Highlight) : theme.card;
     if (isEnabled() && (underMouse() || isDown()))
         face = isFilled ? face.darker(isDown() ? 125 : 112) : (isDown() ? theme.border : theme.trough);
-    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + buttonRoomForRing));
+    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + buttonRingMargin));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(isFilled ? QPen(face, 1.0) : QPen(theme.border, 1.0));

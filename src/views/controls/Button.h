@@ -5,7 +5,7 @@
 
 #include <QPushButton>
 
-/// A push button in the program's own look. The default one of its window, or a prominent one, is filled.
+/// A push button in the program's look. Default and prominent buttons are filled.
 class Button : public QPushButton {
     Q_OBJECT
 

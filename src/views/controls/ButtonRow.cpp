@@ -9,7 +9,7 @@ ButtonRow::ButtonRow(Qt::Alignment edge, QWidget* parent)
     , m_edge(edge)
     , m_buttons(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // one below the other they must not spread
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // or stacked buttons would spread out
     m_buttons->setContentsMargins({});
     m_buttons->setSizeConstraint(QLayout::SetNoConstraint);
     m_buttons->addStretch(edge == Qt::AlignRight ? 1 : 0);
@@ -31,7 +31,7 @@ QSize ButtonRow::minimumSizeHint() const
 
 bool ButtonRow::event(QEvent* event)
 {
-    // A button may have got a longer text.
+    // A layout is requested when the text of a button changes.
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
         arrange();
     return QWidget::event(event);
@@ -39,10 +39,10 @@ bool ButtonRow::event(QEvent* event)
 
 void ButtonRow::arrange()
 {
-    m_buttons->setDirection(width() < wholeWidth() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_buttons->setDirection(width() < totalWidth() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
-int ButtonRow::wholeWidth() const
+int ButtonRow::totalWidth() const
 {
     int width = 0;
     for (const auto* button : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))

@@ -5,7 +5,7 @@
 
 class QBoxLayout;
 
-/// Buttons beside each other, or below each other where there is not the room.
+/// Buttons side by side, or stacked where the row is too narrow.
 class ButtonRow : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ protected:
 
 private:
     void arrange();
-    [[nodiscard]] int wholeWidth() const;
+    [[nodiscard]] int totalWidth() const;
 
     Qt::Alignment m_edge;
     QBoxLayout* m_buttons;

@@ -3,17 +3,17 @@
 
 #include <QWidget>
 
-/// A rounded panel on the page.
+/// A rounded panel.
 class Card : public QWidget {
     Q_OBJECT
 
 public:
     using QWidget::QWidget;
 
-    /// A card that holds these contents, with room around them.
+    /// Returns a new card around the contents, with padding.
     [[nodiscard]] static Card* around(QWidget* contents);
 
-    /// Inner width of a card, in which trackers and grids stand centred.
+    /// The width of the cards that hold grids and trackers.
     static constexpr int contentWidth = 470;
 
 protected:

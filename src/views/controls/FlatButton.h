@@ -5,7 +5,7 @@
 
 #include <QAbstractButton>
 
-/// A button without a face of its own until the pointer is over it or the focus is on it.
+/// A button whose background and border show only under the pointer and with the focus.
 class FlatButton : public QAbstractButton {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
-    /// Draws what is behind the button's symbol and words.
+    /// Draws the background and the focus ring.
     void paintFace(QPainter& painter, const QColor& hovered) const;
 
 private:

@@ -24,7 +24,7 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(fonts::caption(anchor->window()->font()));
     m_fade->setDuration(fadeMilliseconds);
-    // A scrolled page moves an ancestor of the anchor, not the anchor itself.
+    // Scrolling moves an ancestor of the anchor, not the anchor itself.
     for (QWidget* moving = anchor; moving != nullptr && moving != window(); moving = moving->parentWidget())
         moving->installEventFilter(this);
     window()->installEventFilter(this);
@@ -33,7 +33,7 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
 void HoverLabel::setText(const QString& text)
 {
     m_text = text;
-    place();
+    reposition();
     raise();
     show();
     fadeTo(1.0);
@@ -60,7 +60,7 @@ void HoverLabel::setOpacity(qreal opacity)
 bool HoverLabel::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-        place();
+        reposition();
     return false;
 }
 
@@ -86,7 +86,7 @@ void HoverLabel::fadeTo(qreal opacity)
     m_fade->start();
 }
 
-void HoverLabel::place()
+void HoverLabel::reposition()
 {
     if (!m_anchor)
         return;

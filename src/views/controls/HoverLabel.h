@@ -6,8 +6,8 @@
 
 class QPropertyAnimation;
 
-/// A short text that fades in over a widget, above all its neighbours, and fades out again. It lives in the window and
-/// is kept inside the window's edges; it lets every click through.
+/// A short text that fades in over a widget and out again. It is a child of the window, so that neighbours cannot cover
+/// it, stays inside the window and ignores the mouse.
 class HoverLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(qreal opacity READ opacity WRITE setOpacity)
@@ -16,16 +16,16 @@ public:
     struct Style {
         QMargins padding;
         qreal radius = 0.0;
-        /// Of the gray behind the text, 0 to 1.
+        /// 0 to 1.
         qreal backgroundOpacity = 1.0;
     };
 
-    /// Appears over `area` of the anchor, in the anchor's coordinates, and goes where the anchor goes.
+    /// `area` is in the coordinates of the anchor, which the label follows when it moves.
     HoverLabel(QWidget* anchor, const QRect& area, const Style& style);
 
     void setText(const QString& text);
     [[nodiscard]] QString text() const { return m_text; }
-    /// Fades, then deletes the label.
+    /// Fades out, then deletes the label.
     void dismiss();
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -38,7 +38,7 @@ protected:
 
 private:
     void fadeTo(qreal opacity);
-    void place();
+    void reposition();
 
     QPointer<QWidget> m_anchor;
     QRect m_area;
@@ -48,6 +48,6 @@ private:
     QPropertyAnimation* m_fade;
 };
 
-/// Where a label of a size stands: centred over the top edge of the anchor, below it where there is no room above, and
-/// always inside the window. All in the window's coordinates.
+/// Where a label of this size goes: centred above the anchor, or below it if there is no room above, and always inside
+/// the window. All in the coordinates of the window.
 [[nodiscard]] QRect hoverLabelRect(QSize label, const QRect& anchor, const QRect& window);

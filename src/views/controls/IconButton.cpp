@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr QSize wholeSize(32, 32);
+constexpr QSize iconButtonSize(32, 32);
 constexpr QSize iconSymbolSize(20, 20);
 
 } // namespace
@@ -41,7 +41,7 @@ void IconButton::setQuiet()
 
 QSize IconButton::sizeHint() const
 {
-    return wholeSize;
+    return iconButtonSize;
 }
 
 QColor IconButton::color() const

@@ -6,8 +6,7 @@
 
 #include <QColor>
 
-/// A button that is only a symbol. Its text is what a pointer that rests on it is shown and what assistive technology
-/// says.
+/// A button that is only a symbol. Its text is the tooltip and the accessible name.
 class IconButton : public FlatButton {
     Q_OBJECT
 
@@ -16,15 +15,15 @@ public:
 
     void setSymbol(Symbol symbol);
     [[nodiscard]] Symbol symbol() const { return m_symbol; }
-    /// Sets what it says.
+    /// Sets the tooltip and the accessible name.
     void setHelp(const QString& text);
-    /// Draws it paler than text, for where many stand below each other.
+    /// Draws the symbol in the dimmed text colour, for lists of many such buttons.
     void setQuiet();
 
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    /// By default that of text.
+    /// The colour of the symbol: by default that of text.
     [[nodiscard]] virtual QColor color() const;
 
     void paintEvent(QPaintEvent* event) override;

@@ -19,14 +19,14 @@ QSize keyCapSize(const QString& name, const QFont& font)
     return QFontMetrics(font).size(Qt::TextSingleLine, name).grownBy(keyPadding);
 }
 
-void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, const QPalette& palette)
+void drawKeyCap(QPainter& painter, const QRectF& area, const QString& name, const QPalette& palette)
 {
     const Theme& theme = themeFor(palette);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme.dimText);
-    painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), keyRadius, keyRadius);
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), keyRadius, keyRadius);
     painter.setPen(theme.text);
-    painter.drawText(place, Qt::AlignCenter, name);
+    painter.drawText(area, Qt::AlignCenter, name);
 }
 
 KeyCap::KeyCap(const QString& name, QWidget* parent)

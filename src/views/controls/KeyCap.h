@@ -3,13 +3,13 @@
 
 #include <QWidget>
 
-/// The size of a drawn key with this on it.
+/// The size of a key cap with this name.
 [[nodiscard]] QSize keyCapSize(const QString& name, const QFont& font);
 
-/// Draws a key with its name on it.
-void drawKeyCap(QPainter& painter, const QRectF& place, const QString& name, const QPalette& palette);
+/// Draws a key cap, the picture of a key with its name on it.
+void drawKeyCap(QPainter& painter, const QRectF& area, const QString& name, const QPalette& palette);
 
-/// A drawn key. Assistive technology reads its name.
+/// A key cap as a widget.
 class KeyCap : public QWidget {
     Q_OBJECT
 

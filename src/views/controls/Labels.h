@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QTextDocument>
 
-/// Texts of the windows. They wrap, and none of them reads markup.
+/// Labels in the styles of the windows. They wrap, and show markup as it is.
 namespace labels {
 
 [[nodiscard]] inline QLabel* text(const QString& words, QPalette::ColorRole role = QPalette::WindowText)
@@ -43,14 +43,14 @@ namespace labels {
     return label;
 }
 
-/// The same in one line, however long it is.
+/// Turns off wrapping.
 [[nodiscard]] inline QLabel* singleLine(QLabel* label)
 {
     label->setWordWrap(false);
     return label;
 }
 
-/// A help text that is shown as it is, whatever a name in it looks like.
+/// A tooltip text that is never taken for markup, whatever names it contains.
 [[nodiscard]] inline QString help(const QString& words)
 {
     return Qt::mightBeRichText(words) ? words.toHtmlEscaped() : words;

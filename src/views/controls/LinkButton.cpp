@@ -46,7 +46,7 @@ void LinkButton::paintEvent(QPaintEvent* /*event*/)
                      text());
     const QRect symbolPlace =
         QStyle::alignedRect(layoutDirection(), symbolEdge | Qt::AlignVCenter, {linkSymbolSize, linkSymbolSize}, inside);
-    // A symbol that points back points the other way in a layout from right to left.
+    // Arrows point the other way in right-to-left layouts.
     painter.save();
     if (layoutDirection() == Qt::RightToLeft) {
         painter.translate(2.0 * QRectF(symbolPlace).center().x(), 0.0);

@@ -4,7 +4,7 @@
 #include "FlatButton.h"
 #include "Symbol.h"
 
-/// A button that is only words and a symbol, in the accent colour.
+/// A flat button with a text and a symbol in the accent colour.
 class LinkButton : public FlatButton {
     Q_OBJECT
 

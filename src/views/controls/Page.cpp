@@ -12,20 +12,20 @@ Page::Page(QWidget* contents, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setWidget(contents);
-    // The keys go to what stands on the page.
+    // The controls on the page take the focus, not the page.
     setFocusPolicy(Qt::NoFocus);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { keepInSight(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { scrollToFocused(now); });
 }
 
 Page::~Page()
 {
-    // The focus moves on while the contents are taken down, when this is no more than a widget.
+    // The focus changes while the contents are being destroyed, when this is only a QWidget any more.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-void Page::keepInSight(QWidget* focused)
+void Page::scrollToFocused(QWidget* focused)
 {
-    // A page that moved under a pressed button would turn the click into a drag.
+    // Scrolling under a pressed mouse button would turn the click into a drag.
     if (isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
         ensureWidgetVisible(focused);
 }

@@ -3,18 +3,18 @@
 
 #include <QScrollArea>
 
-/// A part of a window that scrolls where it does not fit. What has the focus is kept in sight.
+/// A scroll area that keeps the focused control in view.
 class Page : public QScrollArea {
     Q_OBJECT
 
 public:
-    /// Takes the contents over.
+    /// Takes ownership of the contents.
     explicit Page(QWidget* contents, QWidget* parent = nullptr);
     ~Page() override;
 
 private:
-    void keepInSight(QWidget* focused);
+    void scrollToFocused(QWidget* focused);
 };
 
-/// A page with these contents on a card.
+/// A page with the contents on a card.
 [[nodiscard]] Page* makeCardPage(QWidget* contents);

@@ -12,7 +12,7 @@ namespace {
 constexpr qreal segmentRadius = 7.0;
 constexpr int segmentGap = 3;
 
-QFont chosenFont(const QWidget& tabs)
+QFont selectedFont(const QWidget& tabs)
 {
     QFont font = tabs.font();
     font.setWeight(QFont::Bold);
@@ -35,7 +35,7 @@ SegmentedTabs::SegmentedTabs(QWidget* parent)
 QSize SegmentedTabs::tabSizeHint(int /*index*/) const
 {
     QSize widest;
-    const QFontMetrics metrics(chosenFont(*this));
+    const QFontMetrics metrics(selectedFont(*this));
     for (int i = 0; i < count(); ++i)
         widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)));
     return widest.grownBy({22, 8, 22, 8});
@@ -67,11 +67,11 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         const bool isCurrent = i == currentIndex();
         if (isCurrent) {
             painter.setPen(hasFocus() && m_focusVisible ? QPen(theme.accent, 2.0) : QPen(theme.border, 1.0));
-            painter.setBrush(theme.chosen);
+            painter.setBrush(theme.selected);
             painter.drawRoundedRect(segment, segmentRadius, segmentRadius);
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
-        painter.setFont(isCurrent ? chosenFont(*this) : font());
+        painter.setFont(isCurrent ? selectedFont(*this) : font());
         painter.drawText(segment, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
     }
 }

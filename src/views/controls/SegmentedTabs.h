@@ -5,8 +5,7 @@
 
 #include <QTabBar>
 
-/// A tab bar drawn as one control with a raised segment. Its keys and its meaning to assistive technology are those of
-/// a tab bar.
+/// A tab bar drawn as a segmented control. Keys and accessibility are those of a tab bar.
 class SegmentedTabs : public QTabBar {
     Q_OBJECT
 
@@ -18,7 +17,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    /// The wheel is for scrolling.
+    /// Ignored: the wheel scrolls the page.
     void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -34,7 +34,6 @@ void StepDots::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int step = 0; step < m_count; ++step) {
-        // Done steps are filled as well, in a row from the beginning.
         const int place = layoutDirection() == Qt::LeftToRight ? step : m_count - 1 - step;
         painter.setPen(step <= m_current ? theme.accent : theme.dimText);
         painter.setBrush(step <= m_current ? QBrush(theme.accent) : QBrush(Qt::NoBrush));

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-/// A row of dots that says at which of several steps somebody is.
+/// A row of dots that shows the current step of several.
 class StepDots : public QWidget {
     Q_OBJECT
 

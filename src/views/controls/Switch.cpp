@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize trackSize(38, 22);
 constexpr int switchGap = 16;
-constexpr int trackRoomForRing = 4;
+constexpr int switchRingMargin = 4;
 constexpr qreal knobInset = 3.5;
 
 } // namespace
@@ -28,8 +28,8 @@ Switch::Switch(const QString& text, QWidget* parent)
 QSize Switch::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return {words.width() + switchGap + trackSize.width() + trackRoomForRing,
-            qMax(words.height(), trackSize.height()) + 2 * trackRoomForRing};
+    return {words.width() + switchGap + trackSize.width() + switchRingMargin,
+            qMax(words.height(), trackSize.height()) + 2 * switchRingMargin};
 }
 
 bool Switch::hitButton(const QPoint& position) const
@@ -51,7 +51,7 @@ void Switch::keyPressEvent(QKeyEvent* event)
 
 void Switch::paintEvent(QPaintEvent* /*event*/)
 {
-    const QRect inside = rect().marginsRemoved({0, 0, trackRoomForRing, 0});
+    const QRect inside = rect().marginsRemoved({0, 0, switchRingMargin, 0});
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
@@ -67,7 +67,7 @@ void Switch::paintTrack(QPainter& painter, const QRectF& track) const
     const Theme& theme = themeFor(palette());
     const qreal radius = track.height() / 2.0;
     const QColor accent = palette().color(QPalette::Highlight);
-    // Off is an outline, so that the two states differ in more than their colour.
+    // Off is only an outline, so that the states differ by more than colour.
     painter.setPen(isChecked() ? QPen(accent, 1.5) : QPen(theme.dimText, 1.5));
     painter.setBrush(isChecked() ? accent : theme.card);
     painter.drawRoundedRect(track.adjusted(0.75, 0.75, -0.75, -0.75), radius, radius);

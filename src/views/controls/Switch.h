@@ -6,7 +6,7 @@
 #include <QCheckBox>
 #include <QProperty>
 
-/// A check box drawn as a switch: its text leads, and the switch stands at the far end.
+/// A check box drawn as a switch, with the text first and the switch at the other end of the row.
 class Switch : public QCheckBox {
     Q_OBJECT
 
@@ -28,5 +28,5 @@ private:
     FocusVisible m_focusVisible;
 };
 
-/// Makes a switch show a field, and set it when it is toggled.
+/// Binds a switch to a field, both ways.
 void bindSwitch(Switch* toggle, QProperty<bool>& field);

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-/// A symbol beside a text that says what it means.
+/// A symbol beside a text that explains it.
 class SymbolView : public QWidget {
     Q_OBJECT
 

@@ -20,7 +20,7 @@ TextField::TextField(const QString& prompt, QWidget* parent)
     setFont(fonts::body(font()));
     setPlaceholderText(prompt);
     setAccessibleName(prompt);
-    // The border is drawn here, so that it fits the cards.
+    // paintEvent() draws the border.
     setFrame(false);
     setTextMargins(fieldPadding);
     QPalette clear;

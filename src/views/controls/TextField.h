@@ -3,16 +3,16 @@
 
 #include <QLineEdit>
 
-/// A field for a line of text with a rounded border.
+/// A line edit with a rounded border.
 class TextField : public QLineEdit {
     Q_OBJECT
 
 public:
-    /// The prompt is shown while the field is empty, and is the field's name to assistive technology.
+    /// The prompt is the placeholder text and the accessible name.
     explicit TextField(const QString& prompt, QWidget* parent = nullptr);
 
 protected:
-    /// Return belongs to the field, and not to the default button of its window.
+    /// Return is not passed on to the default button of the window.
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

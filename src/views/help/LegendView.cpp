@@ -19,7 +19,6 @@ constexpr int swatchColumn = 0;
 constexpr int keyColumn = 1;
 constexpr int textColumn = 2;
 
-// The colour of a cell in the calendar.
 class Swatch : public QWidget {
 public:
     explicit Swatch(const Day& day)
@@ -58,19 +57,19 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     addSwatch(*grid, {.id = 1}, tr("Weekend Day"));
     grid->setRowMinimumHeight(grid->rowCount(), 4);
     addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"));
-    // Where the Ctrl key has another meaning, this key and this button open the menu of states.
+    // Ctrl with a click resets a day here, so the Menu key and the right button open the menu instead.
     addGesture(*grid, tr("Menu", "key"), Symbol::RightClick, tr(": Open Status Picker Menu "));
-    auto* hover = new Switch(tr("Show day status on hover"));
-    bindSwitch(hover, settings.showStatusLabelOnHover);
+    auto* hoverSwitch = new Switch(tr("Show day status on hover"));
+    bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);
     grid->setRowMinimumHeight(grid->rowCount(), 4);
-    grid->addWidget(hover, grid->rowCount(), 0, 1, -1);
+    grid->addWidget(hoverSwitch, grid->rowCount(), 0, 1, -1);
 }
 
 void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& text)
 {
     const int row = grid.rowCount();
     grid.addWidget(new Swatch(day), row, swatchColumn, Qt::AlignCenter);
-    const ClickModifier modifier = day.isWorkday ? modifierReaching(day.state) : ClickModifier::None;
+    const ClickModifier modifier = day.isWorkday ? modifierFor(day.state) : ClickModifier::None;
     if (modifier != ClickModifier::None)
         grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
     grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);

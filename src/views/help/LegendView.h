@@ -10,7 +10,7 @@ class QGridLayout;
 class ViewSettings;
 struct Day;
 
-/// The key to the colours of days and to what a click does, from the same tables as the calendar's own.
+/// Explains the colours and gestures of the calendar, from the calendar's own tables.
 class LegendView : public QWidget {
     Q_OBJECT
 

@@ -3,5 +3,5 @@
 
 #include <QIcon>
 
-/// The icon of the program in pictures of its own, 16 to 48 pixels wide.
+/// The icon of the program, from its own resources in 16 and 32 pixels.
 [[nodiscard]] QIcon appIcon();

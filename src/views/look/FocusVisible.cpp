@@ -6,11 +6,11 @@
 #include <QPainter>
 #include <QWidget>
 
-void FocusVisible::drawRing(QPainter& painter, const QWidget& widget, const QRectF& place, qreal radius) const
+void FocusVisible::drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius) const
 {
     if (!widget.hasFocus() || !m_visible)
         return;
     painter.setPen(QPen(themeFor(widget.palette()).accent, 2.0));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(place, radius, radius);
+    painter.drawRoundedRect(area, radius, radius);
 }

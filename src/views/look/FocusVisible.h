@@ -7,23 +7,23 @@ class QPainter;
 class QRectF;
 class QWidget;
 
-/// Whether a focus ring is of use: it is to somebody who works with the keyboard, and is in the way of the pointer.
+/// Whether a control shows a focus ring: only while the keyboard is used, as with :focus-visible in CSS.
 class FocusVisible {
 public:
-    /// To be told of every focus that comes in.
+    /// Must be called on every focus-in event.
     void update(Qt::FocusReason reason)
     {
-        // A window that comes to the front again shows what it showed before.
+        // Returning to a window leaves the ring as it was.
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             m_visible =
                 reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
     }
 
-    /// To be told when a key is used.
+    /// Must be called on every key press.
     void show() { m_visible = true; }
 
-    /// Draws a ring where the widget has the focus and the ring is of use.
-    void drawRing(QPainter& painter, const QWidget& widget, const QRectF& place, qreal radius) const;
+    /// Draws the ring if the widget has the focus and the keyboard is used.
+    void drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius) const;
 
     explicit operator bool() const { return m_visible; }
 

@@ -20,7 +20,7 @@ template <class Field, class Update> void onChange(const Field& field, QObject* 
     new Follower(field, std::move(update), owner);
 }
 
-/// Calls `update` now as well.
+/// Like onChange(), but also calls `update` at once.
 template <class Field, class Update> void follow(const Field& field, QObject* owner, Update update)
 {
     onChange(field, owner, update);

@@ -3,8 +3,8 @@
 
 #include <QFont>
 
-/// The sizes of text, each in proportion to the font that the person has set for the desktop. They are few: each size
-/// and weight on the screen costs start-up about half a millisecond.
+/// Text sizes in proportion to the desktop's font. There are few, because every size and weight that is shown adds
+/// about half a millisecond to start-up.
 namespace fonts {
 
 [[nodiscard]] inline QFont scaled(QFont font, double factor, QFont::Weight weight = QFont::Normal)

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Strokes on a grid of 16 by 16.
+// Symbols are strokes on a 16 by 16 grid.
 constexpr qreal gridSize = 16.0;
 constexpr qreal strokeWidth = 1.5;
 
@@ -19,7 +19,6 @@ QPainterPath line(const QPolygonF& points)
     return path;
 }
 
-// Waves that spread from a point.
 QPainterPath waves()
 {
     constexpr QPointF source(8.0, 12.4);
@@ -45,7 +44,6 @@ QPainterPath circled(QPainterPath path)
     return path;
 }
 
-// A hub and eight teeth.
 QPainterPath gear(QPointF centre, qreal size)
 {
     constexpr int teeth = 8;
@@ -76,7 +74,7 @@ QPainterPath questionMark()
     return path;
 }
 
-// An arrow, and the rays of a press.
+// An arrow pointer with rays at its tip.
 QPainterPath click()
 {
     QPainterPath path = line({{6.4, 6.4}, {14.4, 9.4}, {10.9, 10.9}, {9.4, 14.4}, {6.4, 6.4}});
@@ -86,7 +84,6 @@ QPainterPath click()
     return path;
 }
 
-// A mouse whose right button is marked.
 QPainterPath rightClick()
 {
     QPainterPath path;
@@ -130,11 +127,11 @@ QPainterPath strokesOf(Symbol symbol)
 
 } // namespace
 
-void drawSymbol(QPainter& painter, const QRectF& place, Symbol symbol, const QColor& color)
+void drawSymbol(QPainter& painter, const QRectF& area, Symbol symbol, const QColor& color)
 {
     painter.save();
-    painter.translate(place.topLeft());
-    painter.scale(place.width() / gridSize, place.height() / gridSize);
+    painter.translate(area.topLeft());
+    painter.scale(area.width() / gridSize, area.height() / gridSize);
     painter.setPen(QPen(color, strokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(strokesOf(symbol));

@@ -5,8 +5,7 @@ class QColor;
 class QPainter;
 class QRectF;
 
-/// The symbols beside words. They are so simple that strokes do, and no library for pictures has to be loaded while the
-/// program starts.
+/// The program's symbols. They are drawn as strokes, so that no image library has to be loaded at start-up.
 enum class Symbol {
     LessThan,
     GreaterThan,
@@ -22,5 +21,5 @@ enum class Symbol {
     RightClick,
 };
 
-/// Draws a symbol in a square place.
-void drawSymbol(QPainter& painter, const QRectF& place, Symbol symbol, const QColor& color);
+/// Draws a symbol in a square area.
+void drawSymbol(QPainter& painter, const QRectF& area, Symbol symbol, const QColor& color);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// As QColor(QRgb), which is not constexpr.
+// QColor(QRgb) is not constexpr.
 constexpr QColor rgb(QRgb color)
 {
     return {qRed(color), qGreen(color), qBlue(color)};
@@ -26,7 +26,7 @@ constexpr Theme light{
     .field = rgb(0xffffff),
     .fieldBorder = rgb(0x8b8d94),
     .trough = rgb(0xe4e4e8),
-    .chosen = rgb(0xffffff),
+    .selected = rgb(0xffffff),
     .progressTrack = rgb(0xe4e4e8),
     .progress = rgb(0x1a7f37),
     .progressText = rgb(0x1a7f37),
@@ -52,7 +52,7 @@ constexpr Theme dark{
     .field = rgb(0x1e1f22),
     .fieldBorder = rgb(0x74767d),
     .trough = rgb(0x33343a),
-    .chosen = rgb(0x4a4c53),
+    .selected = rgb(0x4a4c53),
     .progressTrack = rgb(0x3a3b41),
     .progress = rgb(0x238a43),
     .progressText = rgb(0x45b868),
@@ -67,7 +67,7 @@ constexpr Theme dark{
     .nonWorkday = rgb(0x5b5e66),
 };
 
-// WCAG 2.1, "relative luminance", 0 to 1.
+// 0 to 1 (WCAG 2.1, "relative luminance").
 double relativeLuminance(const QColor& color)
 {
     const auto linear = [](double channel) {

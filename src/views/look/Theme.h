@@ -15,13 +15,13 @@ struct Theme {
     QColor text;
     QColor dimText;
     QColor accent;
-    /// Of a message that something was refused.
+    /// For messages about input that was refused.
     QColor errorText;
     QColor field;
     QColor fieldBorder;
-    /// Behind the choices of a segmented control, and behind the chosen one.
+    /// The backgrounds of a segmented control and of its selected segment.
     QColor trough;
-    QColor chosen;
+    QColor selected;
     QColor progressTrack;
     QColor progress;
     QColor progressText;
@@ -38,15 +38,15 @@ struct Theme {
 };
 
 [[nodiscard]] const Theme& themeFor(ColorScheme scheme);
-/// The theme whose palette a widget is shown in.
+/// The theme that a palette belongs to.
 [[nodiscard]] const Theme& themeFor(const QPalette& palette);
 [[nodiscard]] ColorScheme colorSchemeOf(const QPalette& palette);
 [[nodiscard]] QPalette paletteFor(ColorScheme scheme);
 
-/// The colour of a day's cell: by its state, but gray for an unmarked non-workday.
+/// The colour of a day's cell: that of its state, or gray for an unmarked non-workday.
 [[nodiscard]] QColor dayColor(const Theme& theme, const Day& day);
 
 /// Near-black or white, whichever contrasts more with the background.
 [[nodiscard]] QColor readableTextOn(const QColor& background);
-/// The contrast of two opaque colours, 1 to 21 (WCAG 2.1, "contrast ratio").
+/// The contrast ratio of two opaque colours, 1 to 21 (WCAG 2.1, "contrast ratio").
 [[nodiscard]] double contrastRatio(const QColor& a, const QColor& b);

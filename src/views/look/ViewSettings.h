@@ -5,8 +5,7 @@
 #include <QProperty>
 #include <QSettings>
 
-/// What the person has switched on in the calendar views. Each field reads its stored key at the start and stores every
-/// change at once.
+/// The stored view settings. Each field is read from its key at construction, and every change is stored at once.
 class ViewSettings : public QObject {
 public:
     explicit ViewSettings(QSettings& settings);
@@ -16,10 +15,10 @@ public:
     QProperty<bool> showMonthStats{true};
     QProperty<bool> showWillBeInOfficeStats{true};
     QProperty<bool> showStatusLabelOnHover{true};
-    /// 1 is the month, 2 the quarter.
+    /// 1 is "Month", 2 is "Quarter".
     QProperty<int> selectedTab{1};
 
-    /// Where a window stood and how large it was, as the toolkit writes it down; empty where that is not known.
+    /// What QWidget::saveGeometry() returned for a window; empty if nothing is stored.
     [[nodiscard]] QByteArray geometry(const QString& key) const { return m_settings.value(key).toByteArray(); }
     void setGeometry(const QString& key, const QByteArray& geometry) { m_settings.setValue(key, geometry); }
 

@@ -119,22 +119,22 @@ ProgressBarGeometry MarkedProgressBar::geometryFor(qreal barWidth) const
 void MarkedProgressBar::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
-    hover(false);
+    setHovered(false);
 }
 
 void MarkedProgressBar::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    hover(false);
+    setHovered(false);
 }
 
 void MarkedProgressBar::mouseMoveEvent(QMouseEvent* event)
 {
     QWidget::mouseMoveEvent(event);
-    hover(barRect().contains(event->position().toPoint()));
+    setHovered(barRect().contains(event->position().toPoint()));
 }
 
-void MarkedProgressBar::hover(bool inside)
+void MarkedProgressBar::setHovered(bool inside)
 {
     if (m_hovering == inside)
         return;
@@ -165,7 +165,7 @@ void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& g
 {
     QPainterPath outline;
     outline.addRoundedRect(geometry.bar, barRadius, barRadius);
-    // A fill begins with the bar and ends as round as the bar does, however short it is.
+    // However short, a fill is clipped by the left end of the bar and has a round right end.
     const auto fill = [&](const QRectF& rect, const QColor& color) {
         QPainterPath part;
         part.addRoundedRect(rect.adjusted(-2 * barRadius, 0, 0, 0), barRadius, barRadius);
@@ -180,17 +180,17 @@ void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& g
 
 void MarkedProgressBar::paintLabel(QPainter& painter, const ProgressBarGeometry& geometry) const
 {
-    // Where the number stands over more than one fill, each part of it is drawn to be read on what is behind it.
+    // Each part of the number takes the text colour that contrasts with the fill behind it.
     const QRectF predicted = geometry.prediction.adjusted(geometry.progress.width(), 0, 0, 0);
     const QRectF empty = geometry.bar.adjusted(qMax(geometry.progress.width(), geometry.prediction.width()), 0, 0, 0);
-    const std::pair<QRectF, QColor> grounds[]{{geometry.progress, m_contents.progressColor},
-                                              {predicted, m_contents.progressPredictionColor},
-                                              {empty, m_contents.backgroundColor}};
+    const std::pair<QRectF, QColor> backgrounds[]{{geometry.progress, m_contents.progressColor},
+                                                  {predicted, m_contents.progressPredictionColor},
+                                                  {empty, m_contents.backgroundColor}};
     painter.setFont(labelFont(*this));
-    for (const auto& [ground, color] : grounds) {
-        if (ground.width() <= 0.0)
+    for (const auto& [background, color] : backgrounds) {
+        if (background.width() <= 0.0)
             continue;
-        painter.setClipRect(ground);
+        painter.setClipRect(background);
         painter.setPen(readableTextOn(color));
         painter.drawText(geometry.label, Qt::AlignCenter | Qt::TextDontClip, twoDecimals(*m_contents.label));
     }
@@ -205,7 +205,7 @@ void MarkedProgressBar::paintMarkers(QPainter& painter, const ProgressBarGeometr
         const ProgressMarker& marker = m_contents.markers.at(i);
         painter.fillRect(line, colorOf(marker));
         painter.setPen(colorOf(marker));
-        // Rounded, for a width that is a difference of places can lack the last bit of a whole number.
+        // Rounded because the width is a difference, which can be a little less than a whole number.
         painter.drawText(caption, Qt::AlignCenter,
                          painter.fontMetrics().elidedText(marker.description, Qt::ElideRight, qRound(caption.width())));
     }

@@ -19,7 +19,7 @@ struct ProgressMarker {
 };
 
 /// A horizontal bar with two fills, the progress reached and the progress predicted, and markers with captions below.
-/// It computes nothing: every number is handed to it.
+/// It only displays: every number is given to it.
 class MarkedProgressBar : public QWidget {
     Q_OBJECT
 
@@ -28,14 +28,14 @@ public:
         /// Fractions of the bar's width, 0 to 1.
         double progress = 0.0;
         double progressPrediction = 0.0;
-        /// The number shown on the bar; without one the tooltip tells the progress.
+        /// The number on the bar and in the tooltip. Without it the tooltip shows the progress.
         std::optional<double> label;
         QList<ProgressMarker> markers;
         qreal barHeight = 24.0;
         QColor progressColor;
         QColor progressPredictionColor;
         QColor backgroundColor;
-        /// Of the line and the caption of a marker that is reached, that is predicted to be, and any other.
+        /// Colours of line and caption: of markers that are reached, predicted to be reached, and all others.
         QColor reachedMarkerColor;
         QColor predictedMarkerColor;
         QColor markerColor;
@@ -52,7 +52,7 @@ public:
     [[nodiscard]] QColor colorOf(const ProgressMarker& marker) const;
     [[nodiscard]] QString tooltipText() const;
     [[nodiscard]] bool showTooltip() const { return !m_tooltip.isNull(); }
-    /// The bar without the room that its captions may need on both sides.
+    /// The bar without the margins for captions at both ends.
     [[nodiscard]] QRect barRect() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -66,7 +66,7 @@ protected:
 private:
     [[nodiscard]] ProgressBarGeometry geometryFor(qreal barWidth) const;
     [[nodiscard]] QString accessibleText() const;
-    void hover(bool inside);
+    void setHovered(bool inside);
     void paintBar(QPainter& painter, const ProgressBarGeometry& geometry) const;
     void paintLabel(QPainter& painter, const ProgressBarGeometry& geometry) const;
     void paintMarkers(QPainter& painter, const ProgressBarGeometry& geometry) const;

@@ -49,7 +49,7 @@ int MarkedTextLabel::heightForWidth(int width) const
 
 void MarkedTextLabel::changeEvent(QEvent* event)
 {
-    // The font, the direction and the colours are part of the layout.
+    // The layout depends on font, direction and palette.
     m_width = notLaidOut;
     QLabel::changeEvent(event);
 }
@@ -64,7 +64,7 @@ void MarkedTextLabel::paintEvent(QPaintEvent* /*event*/)
 
 QSizeF MarkedTextLabel::layOut(qreal width) const
 {
-    // A line that holds the whole text holds it at every width in between, and starts at the same left edge.
+    // Text that fits on one line is laid out the same at every width in between.
     const bool isOneLine = m_layout.lineCount() == 1 && m_size.width() <= width && width <= m_width;
     if (width == m_width || (isOneLine && layoutDirection() == Qt::LeftToRight))
         return m_size;

@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QTextLayout>
 
-/// A line of text in which some words are bold; it wraps where it is too long. To assistive technology it is a label.
+/// A label that wraps and has some words in bold. To assistive technology it is a plain label.
 class MarkedTextLabel : public QLabel {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     using QLabel::QLabel;
 
     void setMarkedText(const MarkedText& text);
-    /// The colour of the words that are not bold.
+    /// Sets the colour of the words that are not bold.
     void setPlainRole(QPalette::ColorRole role);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -29,12 +29,12 @@ protected:
 private:
     static constexpr qreal notLaidOut = -1.0;
 
-    /// Breaks the text into lines of the width; returns their size.
+    /// Breaks the text into lines of this width and returns their size.
     QSizeF layOut(qreal width) const;
     void prepareLayout() const;
 
     MarkedText m_text;
-    /// The text as it was laid out last: a layout asks for the same widths again and again.
+    /// The last layout, kept because layouts ask for the same widths repeatedly.
     mutable QTextLayout m_layout;
     mutable QSizeF m_size;
     mutable qreal m_width = notLaidOut;

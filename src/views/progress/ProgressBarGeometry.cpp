@@ -16,13 +16,13 @@ constexpr qreal labelMargin = 8.0;
 constexpr qreal firstRow = 2.0;
 constexpr qreal rowPitch = 20.0;
 
-// Centred under its marker, but moved in where it would pass the end of the overhang.
+// Centred under the marker, but shifted inwards where it would leave the overhang.
 Span wantedCaption(const ProgressBarMeasures& measures, const ProgressBarMeasures::Marker& marker, qreal widest)
 {
-    const qreal least = -ProgressBarGeometry::captionOverhang;
-    const qreal most = measures.width + ProgressBarGeometry::captionOverhang;
+    const qreal minimum = -ProgressBarGeometry::captionOverhang;
+    const qreal maximum = measures.width + ProgressBarGeometry::captionOverhang;
     const qreal width = std::min(marker.captionWidth, widest);
-    const qreal left = std::clamp(marker.position * measures.width - width / 2, least, most - width);
+    const qreal left = std::clamp(marker.position * measures.width - width / 2, minimum, maximum - width);
     return {left, left + width};
 }
 
@@ -34,20 +34,20 @@ QList<Span> wantedCaptions(const ProgressBarMeasures& measures, qreal widest)
     return wanted;
 }
 
-bool isComplete(const QList<PlacedCaption>& placed, const QList<Span>& wanted)
+bool areWhole(const QList<PlacedCaption>& placed, const QList<Span>& wanted)
 {
     return std::ranges::equal(placed, wanted, {}, &PlacedCaption::span);
 }
 
-// Captions are as wide as their texts. Where they crowd each other, each keeps to the frame under its own marker.
+// Captions are as wide as their texts if all fit, otherwise at most as wide as the frame under a marker.
 QList<PlacedCaption> captionsFor(const ProgressBarMeasures& measures)
 {
     const QList<Span> whole = wantedCaptions(measures, measures.width + 2 * ProgressBarGeometry::captionOverhang);
     const QList<PlacedCaption> placed = placeCaptions(whole);
-    return isComplete(placed, whole) ? placed : placeCaptions(wantedCaptions(measures, captionFrame));
+    return areWhole(placed, whole) ? placed : placeCaptions(wantedCaptions(measures, captionFrame));
 }
 
-// The number stands just inside the end of the progress; while that is too short to hold it, just behind its end.
+// The number is just inside the end of the progress, or just behind it while the progress is too short.
 QRectF labelRect(const ProgressBarMeasures& measures)
 {
     const qreal end = measures.progress * measures.width;

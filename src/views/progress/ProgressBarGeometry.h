@@ -4,14 +4,14 @@
 #include <QList>
 #include <QRectF>
 
-/// Where things stand on a progress bar. Everything is measured from the left end of the bar, in device-independent
-/// pixels; captions may reach past the bar's ends by `captionOverhang`.
+/// The layout of a progress bar, in device-independent pixels from the bar's top left corner. Captions may extend past
+/// both ends of the bar by `captionOverhang`.
 struct ProgressBarGeometry {
     static constexpr qreal captionOverhang = 40.0;
 
     struct Marker {
         QRectF line;
-        /// Narrower than the caption's text where there is no room for all of it; empty where there is none at all.
+        /// Narrower than the text if there is no room for all of it, empty if there is none at all.
         QRectF caption;
     };
 
@@ -44,7 +44,7 @@ struct ProgressBarMeasures {
 
 [[nodiscard]] ProgressBarGeometry progressBarGeometry(const ProgressBarMeasures& measures);
 
-/// A stretch of one line, from left to right.
+/// A horizontal extent.
 struct Span {
     qreal left = 0.0;
     qreal right = 0.0;
@@ -55,13 +55,12 @@ struct Span {
 struct PlacedCaption {
     /// 0 is the upper row, 1 the lower.
     int row = 0;
-    /// The part of the wanted stretch that no other caption of the row takes; right = left where nothing is left of it.
+    /// The part of the wanted span that is free in the row; right == left if none is.
     Span span;
 
     bool operator==(const PlacedCaption&) const = default;
 };
 
-/// Puts captions on two rows, so that those that would overlap go to different rows. The upper row is taken where there
-/// is room. A caption that fits in neither row gets what is left of the row that leaves more. Results are in the order
-/// of the arguments.
+/// Places captions on two rows without overlaps, in the upper row where possible. A caption that fits in neither row is
+/// cut in the row with more space. Results are in the order of the arguments.
 [[nodiscard]] QList<PlacedCaption> placeCaptions(const QList<Span>& wanted);

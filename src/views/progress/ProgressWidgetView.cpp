@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int columnWidth = 375;
-constexpr int wordsInset = static_cast<int>(ProgressBarGeometry::captionOverhang);
+constexpr int textInset = static_cast<int>(ProgressBarGeometry::captionOverhang);
 
 QString captionOf(const ValuedGoal& goal)
 {
@@ -44,23 +44,23 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
     m_goal->setFont(fonts::body(font()));
     m_goal->setPlainRole(QPalette::PlaceholderText);
 
-    auto* words = new QVBoxLayout;
-    words->setContentsMargins(wordsInset, 0, wordsInset, 4);
-    words->setSpacing(4);
-    words->addWidget(m_headline);
-    words->addWidget(m_goal);
+    auto* texts = new QVBoxLayout;
+    texts->setContentsMargins(textInset, 0, textInset, 4);
+    texts->setSpacing(4);
+    texts->addWidget(m_headline);
+    texts->addWidget(m_goal);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addLayout(words);
+    column->addLayout(texts);
     column->addWidget(m_bar);
-    setFixedWidth(columnWidth + 2 * wordsInset);
-    onChange(m_shown, this, [this] { refresh(); });
+    setFixedWidth(columnWidth + 2 * textInset);
+    onChange(m_contents, this, [this] { refresh(); });
 }
 
 void ProgressWidgetView::setMonths(const QList<std::shared_ptr<Month>>& months)
 {
     m_months = months;
-    m_shown.setBinding([this] { return current(); });
+    m_contents.setBinding([this] { return contents(); });
 }
 
 void ProgressWidgetView::changeEvent(QEvent* event)
@@ -70,7 +70,7 @@ void ProgressWidgetView::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-ProgressWidgetView::Shown ProgressWidgetView::current() const
+ProgressWidgetView::Contents ProgressWidgetView::contents() const
 {
     QList<const Month*> months;
     for (const auto& month : m_months)
@@ -99,7 +99,7 @@ ProgressWidgetView::Shown ProgressWidgetView::current() const
 
 void ProgressWidgetView::refresh()
 {
-    const Shown& shown = m_shown.value();
+    const Contents& shown = m_contents.value();
     m_headline->setMarkedText(shown.headline);
     m_goal->setMarkedText(shown.goal);
     m_goal->setVisible(!shown.goal.isEmpty());

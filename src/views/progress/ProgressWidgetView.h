@@ -13,8 +13,8 @@ class MarkedTextLabel;
 class Month;
 class ViewSettings;
 
-/// The progress tracker: how far the person stands in a period, in words and on a bar. It follows every record and
-/// setting that it shows.
+/// The progress tracker: the office days of a period against the goals, in words and on a bar. It follows every record
+/// and setting that it shows.
 class ProgressWidgetView : public QWidget {
     Q_OBJECT
 
@@ -28,14 +28,14 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    struct Shown {
+    struct Contents {
         MarkedText headline;
         MarkedText goal;
         MarkedProgressBar::Contents bar;
         bool hasBar = false;
     };
 
-    [[nodiscard]] Shown current() const;
+    [[nodiscard]] Contents contents() const;
     void refresh();
 
     const AppSettings& m_settings;
@@ -45,6 +45,6 @@ private:
     MarkedTextLabel* m_headline;
     MarkedTextLabel* m_goal;
     MarkedProgressBar* m_bar;
-    /// Bound to everything that current() reads.
-    QProperty<Shown> m_shown;
+    /// Bound to everything that contents() reads.
+    QProperty<Contents> m_contents;
 };

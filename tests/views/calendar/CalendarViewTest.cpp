@@ -44,7 +44,7 @@ TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)
         const QWidget* menu = QApplication::activePopupWidget();
         ASSERT_NE(menu, nullptr);
         for (qsizetype i = 0; i < items.size(); ++i) {
-            const QString key = keyName(modifierReaching(allDayStates.at(std::size_t(i))));
+            const QString key = keyName(modifierFor(allDayStates.at(std::size_t(i))));
             EXPECT_EQ(menu->actions().at(i)->text() + u' ' + key, items.at(i));
             EXPECT_EQ(menu->actions().at(i)->icon().isNull(), key.isEmpty());
         }

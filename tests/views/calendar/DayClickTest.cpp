@@ -47,7 +47,7 @@ TEST_F(DayClickTest, aClickOrSpaceRunsTheOneActionOfTheHeldKeys)
 TEST_F(DayClickTest, aDayHasTheColourOfItsState)
 {
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-        wear(scheme);
+        applyScheme(scheme);
         const Theme& theme = themeFor(scheme);
         for (const int day : {friday, saturday}) {
             const QColor first = day == friday ? theme.unknown : theme.nonWorkday;

@@ -51,7 +51,7 @@ TEST_F(ProgressWidgetViewTest, theBarFollowsToo)
     EXPECT_EQ(shown.markers.at(1).description, u"ideal"_s);
     settings->daysPerWeekGoals.value().first()->wantedDaysPerWeek = u"1.00"_s;
     EXPECT_EQ(bar.accessibleName(), averageText(25.0 / 21) + u"; not fired: reached; ideal: not reached"_s);
-    wear(ColorScheme::Dark);
+    applyScheme(ColorScheme::Dark);
     EXPECT_EQ(shown.progressColor, themeFor(ColorScheme::Dark).inOffice);
     viewSettings.showWillBeInOfficeStats = false;
     EXPECT_EQ(shown.progressPrediction, 0.0);
