@@ -6,6 +6,7 @@
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
+#include "StoredMonths.h"
 #include "Testing.h"
 #include "Theme.h"
 #include "ViewSettings.h"
@@ -27,13 +28,9 @@ protected:
     /// The stored month; a new one if there is none.
     [[nodiscard]] std::shared_ptr<Month> month(int year, int number)
     {
-        auto found = context.fetchMonths(year, number);
-        if (found.isEmpty()) {
-            found.append(std::make_shared<Month>(year, number));
-            context.insert(found.first());
-            context.save();
-        }
-        return found.first();
+        auto found = findOrCreateMonth(context, {year, number, 1});
+        context.save();
+        return found;
     }
 
     static void applyScheme(ColorScheme scheme)

@@ -16,22 +16,20 @@ protected:
         show(view);
     }
 
-    [[nodiscard]] DayState state(int day) const { return stateIn(*november, day); }
-    [[nodiscard]] DayState stateOnDisk(int day) const
+    [[nodiscard]] DayState state(int day) const { return dayIn(*november, day).state; }
+    [[nodiscard]] Day dayOnDisk(int day) const
     {
-        return stateIn(*ModelContainer({.name = {}, .path = path}).mainContext().fetchMonths(2026, 11).at(0), day);
-    }
-    [[nodiscard]] static DayState stateIn(const Month& month, int day)
-    {
-        return month.days.value().at(*month.indexOf(day)).state;
+        return dayIn(*ModelContainer({.name = {}, .path = path}).mainContext().fetchMonths(2026, 11).at(0), day);
     }
 
-    /// What is painted at the top of a button's face, in the middle.
+    /// What is painted in the middle of a button, so far below the top of its face.
     [[nodiscard]] static QColor painted(CommandClickableButton& button, int belowTop)
     {
         const QRect face = button.face();
         return button.grab().toImage().pixelColor(face.center().x(), face.top() + belowTop);
     }
+
+    [[nodiscard]] static Day dayIn(const Month& month, int day) { return month.days.value().at(*month.indexOf(day)); }
 
     const std::shared_ptr<Month> november = month(2026, 11);
     CalendarView view{context, viewSettings, clock};

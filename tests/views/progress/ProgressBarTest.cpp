@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "HoverLabel.h"
 #include "MarkedProgressBar.h"
+#include "Testing.h"
+#include "Widgets.h"
 
+#include <QElapsedTimer>
 #include <QImage>
+#include <QPointer>
 
 #include <gmock/gmock.h>
 
@@ -27,7 +32,6 @@ ProgressBarGeometry geometryOf(const QList<ProgressBarMeasures::Marker>& markers
 TEST(PlaceCaptionsTest, takesTheUpperRowAndThenTheLowerOne)
 {
     const std::tuple<const char*, QList<Span>, QList<PlacedCaption>> rows[]{
-        {"apart", {{0, 40}, {60, 90}}, {{0, {0, 40}}, {0, {60, 90}}}},
         {"too near", {{0, 40}, {45, 90}}, {{0, {0, 40}}, {1, {45, 90}}}},
         {"overlapping, not in order", {{30, 70}, {0, 40}}, {{1, {30, 70}}, {0, {0, 40}}}},
         {"back to the upper row", {{0, 40}, {30, 90}, {60, 99}}, {{0, {0, 40}}, {1, {30, 90}}, {0, {60, 99}}}},
@@ -93,4 +97,26 @@ TEST(MarkedProgressBarTest, drawsFillsAndMarkersInTheColourOfWhatIsReached)
             EXPECT_EQ(image.pixelColor(125 + 100 * i, 12), colours.at(i));
         }
     }
+}
+
+TEST(MarkedProgressBarTest, showsTheAverageAfterADelay)
+{
+    MarkedProgressBar bar;
+    MarkedProgressBar::Contents contents;
+    contents.progress = 0.4;
+    contents.label = 2.504;
+    bar.setContents(contents);
+    show(bar);
+    QElapsedTimer sinceEntry;
+    sinceEntry.start();
+    moveTo(bar, bar.barRect().center());
+    QPointer<HoverLabel> label;
+    ASSERT_TRUE(eventually([&] { return (label = bar.findChild<HoverLabel*>()) != nullptr; }));
+    EXPECT_GE(sinceEntry.elapsed(), 280); // the timers of Qt may be a little early
+    EXPECT_EQ(label->text(), u"You've reached 2.50 average days in office per week"_s);
+    contents.label.reset();
+    bar.setContents(contents);
+    EXPECT_EQ(label->text(), u"You've reached 0.40 average days in office per week"_s);
+    moveTo(bar, {2, 2}); // beside the bar, where only captions reach
+    EXPECT_TRUE(eventually([&] { return label.isNull(); }));
 }

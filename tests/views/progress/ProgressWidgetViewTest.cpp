@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ProgressWidgetView.h"
-#include "CalendarViewTest.h"
+#include "CalendarTest.h"
 #include "StatisticsTexts.h"
 
-class ProgressWidgetViewTest : public CalendarViewTest {
+class ProgressWidgetViewTest : public CalendarTest {
 protected:
     ProgressWidgetViewTest()
     {
@@ -11,6 +11,7 @@ protected:
         show(tracker);
     }
 
+    const std::shared_ptr<Month> november = month(2026, 11);
     ProgressWidgetView tracker{*settings, viewSettings, PeriodWord::Month};
 };
 
@@ -18,12 +19,12 @@ TEST_F(ProgressWidgetViewTest, theWordsFollowEveryRecordAndSetting)
 {
     Goal& first = *settings->daysPerWeekGoals.value().first();
     const std::tuple<std::function<void()>, int, QString> steps[]{
-        {[&] { click(dayButton(view, 20)); }, 1, u"8 more days to reach goal not fired"_s},
+        {[&] { mark(*november, 20, DayState::IN_OFFICE); }, 1, u"8 more days to reach goal not fired"_s},
         {[&] { first.wantedDaysPerWeek = u"3.00"_s; }, 1, u"12 more days to reach goal not fired"_s},
         {[&] { first.desc = u"<b>a</b> **b** %1"_s; }, 1, u"12 more days to reach goal <b>a</b> **b** %1"_s},
         {[&] { first.desc = QString(); }, 1, u"12 more days to reach 3.00/5"_s},
         {[&] { first.wantedDaysPerWeek = u"x"_s; }, 1, u"16 more days to reach goal ideal"_s},
-        {[&] { click(dayButton(view, 19), Qt::ShiftModifier); }, 1, u"16 more days to reach goal ideal"_s},
+        {[&] { mark(*november, 19, DayState::VACATION_DAY); }, 1, u"16 more days to reach goal ideal"_s},
         {[&] { settings->vacationDaysCountAsInOffice = true; }, 2, u"15 more days to reach goal ideal"_s},
         {[&] { settings->daysPerWeekGoals = AppSettings::Goals(); }, 2, {}},
     };
