@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>dddd d MMMM yyyy</source>
-        <extracomment>The date of a day, as it is read out. Letters stand for its parts, words go between single quotes: &apos;the&apos; d.</extracomment>
+        <extracomment>A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
         <translation>dddd, d. MMMM yyyy</translation>
     </message>
     <message>
