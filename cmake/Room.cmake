@@ -1,21 +1,21 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# What every target of ours is compiled with.
+# The compiler options of all our targets.
 add_library(pellory_options INTERFACE)
 target_compile_options(pellory_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wredundant-decls)
 if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    # Compiled as one source, unnamed namespaces look to it as if they were in a header.
+    # It takes unnamed namespaces of included sources for those of a header.
     target_compile_options(pellory_options INTERFACE -Wno-subobject-linkage)
 endif()
 target_compile_definitions(pellory_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 
 # pellory_room(<name> SOURCES ... LINKS ... [USES ...] [PRECOMPILES ... | SHARES <room>])
 #
-# One folder of src/ is one static library, Pellory::<name>. LINKS are what its headers need, USES what only its
-# sources need. Each room hands on its own folder and nothing else, so a header of a room that is not linked is not
-# found: these lists are what keeps the arrows between the rooms pointing one way. PRECOMPILES are headers that most of
-# the sources read, which includes them all the same: ./dev lint FILE reads it without these. SHARES names a room of the
-# same libraries whose precompiled headers serve this one too.
+# A folder of src/ is a static library, Pellory::<name>. LINKS are what its headers need, USES what only its sources need.
+# A room exports only its own folder as an include path, so headers of a room that is not linked are not found: these lists
+# keep the arrows between the rooms pointing one way. PRECOMPILES are headers that most of the sources include; sources
+# include them explicitly as well, because ./dev lint reads them without precompiled headers. SHARES names a room with the
+# same libraries whose precompiled headers are used here too.
 function(pellory_room name)
     cmake_parse_arguments(ROOM "" "SHARES" "SOURCES;LINKS;USES;PRECOMPILES" ${ARGN})
     add_library(pellory_${name} STATIC ${ROOM_SOURCES})
