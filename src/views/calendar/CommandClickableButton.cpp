@@ -224,7 +224,6 @@ void CommandClickableButton::setHovered(bool inside)
 
 void CommandClickableButton::setShowTooltip(bool show)
 {
-    m_showTooltip = show;
     if (show && m_tooltipText && !m_label) {
         m_label = new HoverLabel(this, face(), labelStyle);
         m_label->setText(*m_tooltipText);

@@ -32,12 +32,10 @@ public:
     ~CommandClickableButton() override;
 
     void setTint(const QColor& tint);
-    [[nodiscard]] QColor tint() const { return m_tint; }
     void setTooltipText(const std::optional<QString>& text);
     /// Draws a ring around the button, which marks today.
     void setRinged(bool ringed);
     [[nodiscard]] bool isRinged() const { return m_ringed; }
-    [[nodiscard]] bool showTooltip() const { return m_showTooltip; }
     /// Hides the label, whatever the setting.
     void resetHover();
     /// The coloured part, which reacts to clicks. The margin around it is for the rings.
@@ -78,6 +76,5 @@ private:
     QPointer<HoverLabel> m_label;
     Qt::KeyboardModifiers m_heldAtKeyPress;
     FocusVisible m_focusVisible;
-    bool m_showTooltip = false;
     bool m_ringed = false;
 };

@@ -51,7 +51,6 @@ public:
     [[nodiscard]] const Contents& contents() const { return m_contents; }
     [[nodiscard]] QColor colorOf(const ProgressMarker& marker) const;
     [[nodiscard]] QString tooltipText() const;
-    [[nodiscard]] bool showTooltip() const { return !m_tooltip.isNull(); }
     /// The bar without the margins for captions at both ends.
     [[nodiscard]] QRect barRect() const;
 

