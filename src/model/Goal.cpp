@@ -10,7 +10,7 @@ std::optional<double> goalNumber(const QString& text)
 
     const QByteArray utf8 = text.toUtf8();
     const char* begin = utf8.cbegin();
-    // from_chars() knows a minus sign only.
+    // from_chars() accepts a minus sign only.
     if (utf8.startsWith('+') && !utf8.startsWith("+-"))
         ++begin;
     double value = 0.0;
@@ -34,8 +34,8 @@ std::shared_ptr<Goal> Goal::create(const QString& daysPerWeek, const QString& de
     return text ? std::make_shared<Goal>(QUuid::createUuid(), *text, description) : nullptr;
 }
 
-Goal::Goal(const QUuid& storedId, const QString& daysPerWeek, const QString& description)
-    : id(storedId)
+Goal::Goal(const QUuid& goalId, const QString& daysPerWeek, const QString& description)
+    : id(goalId)
     , wantedDaysPerWeek(daysPerWeek)
     , desc(description)
 {

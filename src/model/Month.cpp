@@ -15,8 +15,8 @@ QDate firstDay(int year, int month)
     return first;
 }
 
-// Counted from the first of the month and not through local midnights, so that no change of the clock and no day that
-// a time zone left out can shift a weekday.
+// Counts from the first of the month and not through local midnights, so that no clock change and no day that a time
+// zone skipped can shift a weekday.
 QDate dateFrom(QDate first, qint64 dayId)
 {
     return first.addDays(dayId - 1);
@@ -50,15 +50,6 @@ Month::Month(int yearNumber, int monthNumber)
     name = QLocale().monthName(monthNumber);
     daysInMonth = first.daysInMonth();
     days = grid(first);
-}
-
-Month::Month(Fields fields)
-    : year(fields.year)
-    , month(fields.month)
-    , name(std::move(fields.name))
-    , daysInMonth(fields.daysInMonth)
-    , days(std::move(fields.days))
-{
 }
 
 qint64 Month::inOfficeCount(bool vacationDaysCountAsInOffice) const

@@ -9,34 +9,26 @@
 
 #include <optional>
 
-/// What makes a workday: holidays are not known.
+/// Whether a date is a workday. Holidays are not known.
 [[nodiscard]] bool isMondayToFriday(QDate date);
 
-/// The attendance of one calendar month: a record whose fields are read, written and followed one by one.
+/// The attendance of one calendar month.
 class Month {
 public:
-    /// Every month is a grid of this many cells, whose first column is Sunday.
+    /// Every month is a grid of this many cells. Its first column is Sunday.
     static constexpr qsizetype cellCount = 38;
 
-    /// The fields of a month that was stored earlier.
-    struct Fields {
-        int year = 0;
-        int month = 0;
-        QString name;
-        int daysInMonth = 0;
-        QList<Day> days;
-    };
-
-    /// A new month in which every day is unknown. `month` is 1 to 12; an impossible month stops the program.
+    /// A new month in which every day is unknown. `month` is 1 to 12; any other number stops the program.
     Month(int year, int month);
-    explicit Month(Fields fields);
+    /// An empty record, for the store to fill.
+    Month() = default;
     Month(const Month&) = delete;
     Month& operator=(const Month&) = delete;
     ~Month() = default;
 
     QProperty<int> year;
     QProperty<int> month;
-    /// Full name of the month in the language in which the record was made, such as "March".
+    /// Full name of the month, in the language that was set when the record was made, such as "March".
     QProperty<QString> name;
     QProperty<int> daysInMonth;
     QProperty<QList<Day>> days;

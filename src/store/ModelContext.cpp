@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ModelContext.h"
 
+#include "RecordFields.h"
 #include "RecordTable.h"
 #include "Schema.h"
+#include "StoreError.h"
 
 #include <QLoggingCategory>
 
@@ -25,7 +27,7 @@ template <class Fetch> auto withStoreErrors(Fetch fetch)
     }
 }
 
-template <class Mapping> auto fetchAll(RecordTable<Mapping>& table)
+template <class Record> auto fetchAll(RecordTable<Record>& table)
 {
     return withStoreErrors([&] { return table.fetch({{}, {}, [](const auto&) { return true; }}); });
 }
@@ -38,18 +40,18 @@ void logFailedSave(const QString& reason)
 } // namespace
 
 struct ModelContext::Tables {
-    RecordTable<MonthMapping> months;
-    RecordTable<GoalMapping> goals;
-    RecordTable<SettingsMapping> settings;
+    RecordTable<Month> months;
+    RecordTable<Goal> goals;
+    RecordTable<AppSettings> settings;
 };
 
 ModelContext::ModelContext(SQLite::Database& database)
     : m_database(database)
 {
     const auto changed = [this] { scheduleSave(); };
-    m_tables.reset(new Tables{{database, MonthMapping(), changed},
-                              {database, GoalMapping(), changed},
-                              {database, SettingsMapping{[this] { return fetchGoals(); }}, changed}});
+    m_tables.reset(new Tables{{database, monthFields(), changed},
+                              {database, goalFields(), changed},
+                              {database, settingsFields([this] { return fetchGoals(); }), changed}});
 }
 
 ModelContext::~ModelContext()
@@ -161,8 +163,8 @@ void ModelContext::writeChanges()
     m_tables->goals.write();
     m_tables->settings.write();
     transaction.commit();
-    m_tables->months.written();
-    m_tables->goals.written();
-    m_tables->settings.written();
+    m_tables->months.markSaved();
+    m_tables->goals.markSaved();
+    m_tables->settings.markSaved();
     m_saveScheduled = false; // inserting the goals of a changed list has asked for a save again
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "RecordMapping.h"
-#include "StoreError.h"
+#include "Field.h"
 
 #include <QList>
 
@@ -11,11 +10,11 @@
 
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 /// The records of one kind: which of them are in memory, under which key each is stored, and which have changed.
-template <class Mapping> class RecordTable {
+template <class Record> class RecordTable {
 public:
-    using Record = typename Mapping::Record;
     using RecordPtr = std::shared_ptr<Record>;
 
     /// Which records to fetch: in the store, and among those that are not stored yet.
@@ -25,9 +24,10 @@ public:
         std::function<bool(const Record&)> matches;
     };
 
-    RecordTable(SQLite::Database& database, Mapping mapping, std::function<void()> changed)
+    RecordTable(SQLite::Database& database, RecordFields<Record> fields, std::function<void()> changed)
         : m_database(database)
-        , m_mapping(std::move(mapping))
+        , m_fields(std::move(fields))
+        , m_layout(m_fields.layout())
         , m_changed(std::move(changed))
     {
     }
@@ -35,11 +35,11 @@ public:
     [[nodiscard]] QList<RecordPtr> fetch(const Condition& condition)
     {
         QList<RecordPtr> records;
-        SQLite::Statement query(m_database, Mapping::layout.selectSql() + condition.where);
+        SQLite::Statement query(m_database, m_layout.selectSql() + condition.where);
         for (std::size_t i = 0; i < condition.parameters.size(); ++i)
             query.bind(static_cast<int>(i) + 1, condition.parameters[i]);
         while (query.executeStep())
-            records.append(stored(query));
+            records.append(stored(query)->record);
         for (const Entry* entry : m_dirty) {
             if (!entry->key && condition.matches(*entry->record))
                 records.append(entry->record);
@@ -63,30 +63,23 @@ public:
         return records;
     }
 
-    /// Writes every changed record. To be called inside a transaction, and followed by written() once that stands.
+    /// Writes every change. Must be called in a transaction, and followed by markSaved() after its commit.
     void write()
     {
-        for (Entry* entry : m_dirty) {
-            if (entry->key)
-                update(*entry);
-            else
-                add(*entry);
-        }
+        for (Entry* entry : m_dirty)
+            write(*entry);
     }
 
-    void written()
+    void markSaved()
     {
-        for (Entry* entry : m_dirty) {
-            if (!entry->key) {
-                entry->key = entry->writtenKey;
-                m_byKey[*entry->key] = entry;
-            }
+        for (Entry* entry : std::exchange(m_dirty, {})) {
+            entry->key = entry->writtenKey;
+            m_byKey[*entry->key] = entry;
             entry->dirty = false;
         }
-        m_dirty.clear();
     }
 
-    /// Lets go of the connection, so that it can be replaced.
+    /// Releases the connection, so that it can be replaced.
     void release() { m_update.reset(); }
 
 private:
@@ -95,18 +88,18 @@ private:
         std::optional<std::int64_t> key;
         std::int64_t writtenKey = 0;
         bool dirty = false;
-        Followers followers;
+        std::vector<QPropertyNotifier> followers;
     };
 
-    RecordPtr stored(SQLite::Statement& query)
+    Entry* stored(SQLite::Statement& query)
     {
         const std::int64_t key = query.getColumn(0).getInt64();
         if (const auto known = m_byKey.find(key); known != m_byKey.end())
-            return known->second->record;
-        Entry* entry = follow(m_mapping.record(readRow(query, Mapping::layout)));
+            return known->second;
+        Entry* entry = follow(m_fields.record(readRow(query, m_layout)));
         entry->key = key;
         m_byKey[key] = entry;
-        return entry->record;
+        return entry;
     }
 
     Entry* follow(const RecordPtr& record)
@@ -114,7 +107,7 @@ private:
         auto& entry = m_entries[record.get()];
         entry = std::make_unique<Entry>();
         entry->record = record;
-        entry->followers = Mapping::follow(*record, [this, changed = entry.get()] { markChanged(changed); });
+        entry->followers = m_fields.follow(*record, [this, changed = entry.get()] { markChanged(changed); });
         return entry.get();
     }
 
@@ -127,28 +120,24 @@ private:
         m_changed();
     }
 
-    void update(Entry& entry)
+    void write(Entry& entry)
     {
-        if (!m_update)
-            m_update.emplace(m_database, Mapping::layout.updateSql());
-        // What the last run failed with is of no interest to this one.
-        m_update->tryReset();
-        bindRow(*m_update, Mapping::row(*entry.record));
-        m_update->bind(static_cast<int>(Mapping::layout.columns.size()) + 2, *entry.key);
-        m_update->exec();
-        m_update->reset();
-    }
-
-    void add(Entry& entry)
-    {
-        SQLite::Statement insertion(m_database, Mapping::layout.insertSql());
-        bindRow(insertion, Mapping::row(*entry.record));
-        insertion.exec();
-        entry.writtenKey = m_database.getLastInsertRowid();
+        const Row row = m_fields.row(*entry.record);
+        if (entry.key) {
+            if (!m_update)
+                m_update.emplace(m_database, m_layout.updateSql());
+            writeRow(*m_update, row, entry.key);
+            entry.writtenKey = *entry.key;
+        } else {
+            SQLite::Statement insertion(m_database, m_layout.insertSql());
+            writeRow(insertion, row, {});
+            entry.writtenKey = m_database.getLastInsertRowid();
+        }
     }
 
     SQLite::Database& m_database;
-    Mapping m_mapping;
+    RecordFields<Record> m_fields;
+    TableLayout m_layout;
     std::function<void()> m_changed;
     std::unordered_map<const Record*, std::unique_ptr<Entry>> m_entries;
     std::unordered_map<std::int64_t, Entry*> m_byKey;

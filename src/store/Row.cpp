@@ -6,19 +6,19 @@
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Statement.h>
 
-// One function out of a library that would be loaded at every start.
+// From the header alone: one function is not worth loading a library at every start.
 #define XXH_INLINE_ALL
 #include <xxhash.h>
 
 namespace {
 
-constexpr int firstField = 1; // the key stands before it
+constexpr int firstField = 1; // column 0 is the key
 
 std::string columnNames(const TableLayout& layout, const char* suffix)
 {
     std::string names;
     for (const Column& column : layout.columns)
-        names += std::string(column.name) + suffix;
+        names += column.name + suffix;
     return names;
 }
 
@@ -43,9 +43,9 @@ Value readField(const SQLite::Column& field, ColumnType type)
 
 std::string TableLayout::createSql() const
 {
-    std::string sql = std::string("CREATE TABLE ") + name + " (pk INTEGER PRIMARY KEY, ";
+    std::string sql = "CREATE TABLE " + name + " (pk INTEGER PRIMARY KEY, ";
     for (const Column& column : columns)
-        sql += std::string(column.name) + (column.type == ColumnType::Text ? " TEXT" : " INTEGER") + " NOT NULL, ";
+        sql += column.name + (column.type == ColumnType::Text ? " TEXT" : " INTEGER") + " NOT NULL, ";
     return sql + "checksum INTEGER NOT NULL) STRICT";
 }
 
@@ -56,15 +56,15 @@ std::string TableLayout::selectSql() const
 
 std::string TableLayout::insertSql() const
 {
-    std::string places;
+    std::string placeholders;
     for (std::size_t i = 0; i < columns.size(); ++i)
-        places += "?, ";
-    return std::string("INSERT INTO ") + name + " (" + columnNames(*this, ", ") + "checksum) VALUES (" + places + "?)";
+        placeholders += "?, ";
+    return "INSERT INTO " + name + " (" + columnNames(*this, ", ") + "checksum, pk) VALUES (" + placeholders + "?, ?)";
 }
 
 std::string TableLayout::updateSql() const
 {
-    return std::string("UPDATE ") + name + " SET " + columnNames(*this, " = ?, ") + "checksum = ? WHERE pk = ?";
+    return "UPDATE " + name + " SET " + columnNames(*this, " = ?, ") + "checksum = ? WHERE pk = ?";
 }
 
 std::int64_t checksum(const Row& row)
@@ -91,10 +91,18 @@ Row readRow(SQLite::Statement& statement, const TableLayout& layout)
     return row;
 }
 
-void bindRow(SQLite::Statement& statement, const Row& row)
+void writeRow(SQLite::Statement& statement, const Row& row, std::optional<std::int64_t> key)
 {
-    int place = 1;
+    // An earlier run that failed has reported its error; resetting would report it again.
+    statement.tryReset();
+    int parameter = 1;
     for (const Value& value : row)
-        std::visit([&](const auto& field) { statement.bind(place++, field); }, value);
-    statement.bind(place, checksum(row));
+        std::visit([&](const auto& field) { statement.bind(parameter++, field); }, value);
+    statement.bind(parameter++, checksum(row));
+    if (key)
+        statement.bind(parameter, *key);
+    else
+        statement.bind(parameter);
+    statement.exec();
+    statement.reset();
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -11,7 +11,7 @@ namespace SQLite {
 class Statement;
 }
 
-/// One stored value: a whole number or UTF-8 text.
+/// One stored value: an integer or UTF-8 text.
 using Value = std::variant<std::int64_t, std::string>;
 
 /// The fields of one record in the order of its table's columns, without key and checksum.
@@ -20,31 +20,34 @@ using Row = std::vector<Value>;
 enum class ColumnType { Integer, Text };
 
 struct Column {
-    const char* name;
+    std::string name;
     ColumnType type;
+
+    bool operator==(const Column&) const = default;
 };
 
 /// A table holds one kind of record: a key ("pk"), the record's fields, and a checksum of the fields.
 struct TableLayout {
-    const char* name;
-    std::span<const Column> columns;
+    std::string name;
+    std::vector<Column> columns;
 
     [[nodiscard]] std::string createSql() const;
     /// Key, fields and checksum of every row.
     [[nodiscard]] std::string selectSql() const;
-    /// Parameters: the fields, then the checksum.
+    /// Parameters as for writeRow(). A row without a key gets a new one.
     [[nodiscard]] std::string insertSql() const;
-    /// Parameters: the fields, the checksum, then the key of the row.
+    /// Parameters as for writeRow().
     [[nodiscard]] std::string updateSql() const;
+
+    bool operator==(const TableLayout&) const = default;
 };
 
-/// A hash of the fields that tells whether a row reads as it was written (XXH3, 64 bits, over each field's type, length
-/// and bytes). It guards against damage, not against intent.
+/// A hash of the fields (XXH3, 64 bits, over each field's type, length and bytes). It detects damage, not tampering.
 [[nodiscard]] std::int64_t checksum(const Row& row);
 
-/// The fields of the row that a statement made by selectSql() stands on. Throws a StoreError when a field has another
+/// The fields of the current row of a statement made from selectSql(). Throws a StoreError when a field has the wrong
 /// type or the checksum differs.
 [[nodiscard]] Row readRow(SQLite::Statement& statement, const TableLayout& layout);
 
-/// Binds the fields and their checksum to the first parameters of a statement.
-void bindRow(SQLite::Statement& statement, const Row& row);
+/// Runs a statement made from insertSql() or updateSql(): binds the fields, their checksum and the key.
+void writeRow(SQLite::Statement& statement, const Row& row, std::optional<std::int64_t> key);

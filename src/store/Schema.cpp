@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Schema.h"
 
-#include "RecordMapping.h"
+#include "RecordFields.h"
 #include "StoreError.h"
 
 #include <QFileInfo>
@@ -18,7 +18,10 @@ constexpr int storeVersion = 1;
 
 constexpr const char* monthIndexSql = "CREATE INDEX month_by_period ON month (year, month)";
 
-const TableLayout* const tables[]{&MonthMapping::layout, &GoalMapping::layout, &SettingsMapping::layout};
+std::vector<TableLayout> tables()
+{
+    return {monthFields().layout(), goalFields().layout(), settingsFields().layout()};
+}
 
 int pragma(SQLite::Database& database, const char* name)
 {
@@ -40,15 +43,15 @@ void verifyMarks(SQLite::Database& database)
         throw StoreError(StoreError::tr("The data store has the unknown format %1.").arg(version));
 }
 
-void verifyHas(SQLite::Database& database, const std::string& createSql, const char* name)
+void verifyHas(SQLite::Database& database, const std::string& createSql, const std::string& name)
 {
     SQLite::Statement query(database, "SELECT sql FROM sqlite_schema WHERE name = ?");
     query.bind(1, name);
     if (!query.executeStep())
-        throw StoreError(StoreError::tr("The data store lacks \"%1\".").arg(QLatin1StringView(name)));
+        throw StoreError(StoreError::tr("The data store lacks \"%1\".").arg(QString::fromStdString(name)));
     if (query.getColumn(0).getString() != createSql)
-        throw StoreError(
-            StoreError::tr("\"%1\" in the data store has another form than expected.").arg(QLatin1StringView(name)));
+        throw StoreError(StoreError::tr("\"%1\" in the data store has another form than expected.")
+                             .arg(QString::fromStdString(name)));
 }
 
 // SQLite takes a file whose header names an unknown version of its format for one that may only be read.
@@ -61,8 +64,8 @@ void verifyWritable(SQLite::Database& database)
 
 void verifySchema(SQLite::Database& database)
 {
-    for (const TableLayout* table : tables)
-        verifyHas(database, table->createSql(), table->name);
+    for (const TableLayout& table : tables())
+        verifyHas(database, table.createSql(), table.name);
     verifyHas(database, monthIndexSql, "month_by_period");
 }
 
@@ -73,16 +76,16 @@ void verifyPages(SQLite::Database& database)
         throw StoreError(StoreError::tr("The data store is damaged: %1").arg(QString::fromStdString(finding)));
 }
 
-template <class Mapping> void verifyRecords(SQLite::Database& database)
+void verifyRecords(SQLite::Database& database, const TableLayout& table)
 {
-    SQLite::Statement rows(database, Mapping::layout.selectSql());
+    SQLite::Statement rows(database, table.selectSql());
     while (rows.executeStep()) {
         try {
-            static_cast<void>(readRow(rows, Mapping::layout));
+            static_cast<void>(readRow(rows, table));
         } catch (const StoreError& error) {
             throw StoreError(StoreError::tr("The data store is damaged: record %1 of \"%2\" cannot be read, %3.")
                                  .arg(rows.getColumn(0).getInt64())
-                                 .arg(QLatin1StringView(Mapping::layout.name), error.description()));
+                                 .arg(QString::fromStdString(table.name), error.description()));
         }
     }
 }
@@ -104,8 +107,8 @@ void createSchema(SQLite::Database& database)
     SQLite::Transaction transaction(database);
     database.exec("PRAGMA application_id = " + std::to_string(applicationId));
     database.exec("PRAGMA user_version = " + std::to_string(storeVersion));
-    for (const TableLayout* table : tables)
-        database.exec(table->createSql());
+    for (const TableLayout& table : tables())
+        database.exec(table.createSql());
     database.exec(monthIndexSql);
     transaction.commit();
 }
@@ -118,9 +121,8 @@ void verifyStore(SQLite::Database& database)
     verifyWritable(database);
     verifySchema(database);
     verifyPages(database);
-    verifyRecords<MonthMapping>(database);
-    verifyRecords<GoalMapping>(database);
-    verifyRecords<SettingsMapping>(database);
+    for (const TableLayout& table : tables())
+        verifyRecords(database, table);
     reading.commit();
 }
 

@@ -91,7 +91,8 @@ TEST(AttendanceStatistics, targetIsTheNextGoalOrElseTheLast)
 TEST(AttendanceStatistics, periodWithoutWorkdaysIsShownAsNothingReached)
 {
     for (const DayState state : {DayState::UNKNOWN, DayState::IN_OFFICE}) {
-        const Month month({2026, 3, {}, 31, {{.id = 1, .state = state}}});
+        Month month;
+        month.days = {{.id = 1, .state = state}};
         const auto statistics = attendanceStatistics({&month}, goalsWith({u"3"_s}), false, true);
         EXPECT_EQ(averageText(shownAverage(statistics)), u"You've reached 0.00 average days in office per week"_s);
         EXPECT_EQ(statistics.remainingDays, -month.inOfficeCount(false));

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecordFields.h"
+
+#include "StoreError.h"
+
+#include <algorithm>
+
+namespace {
+
+std::shared_ptr<Goal> goalWithId(const AppSettings::Goals& goals, const QString& id)
+{
+    const QUuid uuid(id);
+    const auto found = std::ranges::find_if(goals, [&](const auto& goal) { return goal->id == uuid; });
+    if (found == goals.end())
+        throw StoreError(StoreError::tr("the goal %1 is missing").arg(id));
+    return *found;
+}
+
+QStringList idsOf(const AppSettings::Goals& goals)
+{
+    QStringList ids;
+    for (const auto& goal : goals)
+        ids.append(goal->id.toString(QUuid::WithoutBraces));
+    return ids;
+}
+
+Field<AppSettings> goalsField(const std::function<AppSettings::Goals()>& storedGoals)
+{
+    return {.column = {"days_per_week_goals", ColumnType::Text},
+            .read = [](const AppSettings& settings) { return toStored(idsOf(settings.daysPerWeekGoals)); },
+            .write =
+                [storedGoals](AppSettings& settings, const Value& ids) {
+                    const AppSettings::Goals stored = storedGoals();
+                    AppSettings::Goals named;
+                    for (const QString& id : fromStored<QStringList>(ids))
+                        named.append(goalWithId(stored, id));
+                    settings.daysPerWeekGoals = named;
+                },
+            .follow = [](AppSettings& settings,
+                         const auto& changed) { return settings.daysPerWeekGoals.addNotifier(changed); }};
+}
+
+} // namespace
+
+RecordFields<Month> monthFields()
+{
+    return {"month",
+            {
+                field("year", &Month::year),
+                field("month", &Month::month),
+                field("name", &Month::name),
+                field("days_in_month", &Month::daysInMonth),
+                field("days", &Month::days),
+            }};
+}
+
+RecordFields<Goal> goalFields()
+{
+    return {"goal",
+            {
+                field("id", &Goal::id),
+                field("wanted_days_per_week", &Goal::wantedDaysPerWeek),
+                field("description", &Goal::desc),
+            }};
+}
+
+RecordFields<AppSettings> settingsFields(const std::function<AppSettings::Goals()>& storedGoals)
+{
+    return {"app_settings",
+            {
+                goalsField(storedGoals),
+                field("in_office_ssids", &AppSettings::inOfficeSsids),
+                field("first_time", &AppSettings::firstTime),
+                field("wifi_tracking_enabled", &AppSettings::wifiTrackingEnabled),
+                field("vacation_days_count_as_in_office", &AppSettings::vacationDaysCountAsInOffice),
+                field("notifications_enabled", &AppSettings::notificationsEnabled),
+                field("check_every_in_minutes", &AppSettings::checkEveryInMinutes),
+            }};
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "StoredValue.h"
+
+#include "JsonLists.h"
+#include "Month.h"
+#include "StoreError.h"
+
+#include <limits>
+
+Value toStored(bool flag)
+{
+    return std::int64_t{flag};
+}
+
+Value toStored(int number)
+{
+    return std::int64_t{number};
+}
+
+Value toStored(qint64 number)
+{
+    return std::int64_t{number};
+}
+
+Value toStored(const QString& text)
+{
+    return text.toStdString();
+}
+
+Value toStored(const QUuid& id)
+{
+    return toStored(id.toString(QUuid::WithoutBraces));
+}
+
+Value toStored(const QStringList& strings)
+{
+    return encodedStrings(strings);
+}
+
+Value toStored(const QList<Day>& grid)
+{
+    return encodedDays(grid);
+}
+
+template <> bool fromStored<bool>(const Value& value)
+{
+    return std::get<std::int64_t>(value) != 0;
+}
+
+template <> int fromStored<int>(const Value& value)
+{
+    const auto number = std::get<std::int64_t>(value);
+    if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
+        throw StoreError(StoreError::tr("a number is out of range"));
+    return static_cast<int>(number);
+}
+
+template <> qint64 fromStored<qint64>(const Value& value)
+{
+    return std::get<std::int64_t>(value);
+}
+
+template <> QString fromStored<QString>(const Value& value)
+{
+    return QString::fromStdString(std::get<std::string>(value));
+}
+
+template <> QUuid fromStored<QUuid>(const Value& value)
+{
+    return QUuid(fromStored<QString>(value));
+}
+
+template <> QStringList fromStored<QStringList>(const Value& value)
+{
+    return decodedStrings(std::get<std::string>(value));
+}
+
+template <> QList<Day> fromStored<QList<Day>>(const Value& value)
+{
+    QList<Day> grid = decodedDays(std::get<std::string>(value));
+    if (grid.size() != Month::cellCount)
+        throw StoreError(StoreError::tr("it has %1 cells instead of %2").arg(grid.size()).arg(Month::cellCount));
+    return grid;
+}

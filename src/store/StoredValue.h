@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Day.h"
+#include "Row.h"
+
+#include <QStringList>
+#include <QUuid>
+
+/// The stored form of a field of each type. Booleans are 0 and 1, lists are JSON.
+[[nodiscard]] Value toStored(bool flag);
+[[nodiscard]] Value toStored(int number);
+[[nodiscard]] Value toStored(qint64 number);
+[[nodiscard]] Value toStored(const QString& text);
+[[nodiscard]] Value toStored(const QUuid& id);
+[[nodiscard]] Value toStored(const QStringList& strings);
+[[nodiscard]] Value toStored(const QList<Day>& grid);
+
+/// The reverse. Throws a StoreError when a field of this type cannot hold the value.
+template <class T> [[nodiscard]] T fromStored(const Value& value);
+template <> bool fromStored<bool>(const Value& value);
+template <> int fromStored<int>(const Value& value);
+template <> qint64 fromStored<qint64>(const Value& value);
+template <> QString fromStored<QString>(const Value& value);
+template <> QUuid fromStored<QUuid>(const Value& value);
+template <> QStringList fromStored<QStringList>(const Value& value);
+template <> QList<Day> fromStored<QList<Day>>(const Value& value);
+
+template <class T> [[nodiscard]] ColumnType columnType()
+{
+    return std::holds_alternative<std::string>(toStored(T())) ? ColumnType::Text : ColumnType::Integer;
+}
