@@ -733,10 +733,6 @@
         <translation>Im Datenspeicher fehlt „%1“.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; in the data store has another form than expected.</source>
-        <translation>„%1“ hat im Datenspeicher eine andere Form als erwartet.</translation>
-    </message>
-    <message>
         <source>The data store is damaged: its header does not allow writing.</source>
         <translation>Der Datenspeicher ist beschädigt: Sein Kopf lässt kein Schreiben zu.</translation>
     </message>
@@ -773,8 +769,16 @@
         <translation>Der Datenspeicher kann nicht benutzt werden (%1).</translation>
     </message>
     <message>
-        <source>The data store cannot be created: %1</source>
-        <translation>Der Datenspeicher kann nicht angelegt werden: %1</translation>
+        <source>The file %1 cannot be created: %2</source>
+        <translation>Die Datei %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>The data store cannot be converted to the format of this version of Pellory, and is left as it was. %1</source>
+        <translation>Der Datenspeicher kann nicht in das Format dieser Version von Pellory umgewandelt werden und bleibt, wie er war. %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the data store is not defined as expected.</source>
+        <translation>„%1“ ist im Datenspeicher anders definiert als erwartet.</translation>
     </message>
 </context>
 <context>

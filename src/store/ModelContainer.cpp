@@ -1,20 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ModelContainer.h"
 
+#include "Connection.h"
 #include "ModelContext.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "StoreFile.h"
+#include "StoreMigration.h"
+#include "Verification.h"
 
 #include <QFile>
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Transaction.h>
 
 ModelContainer::ModelContainer(ModelConfiguration configuration)
+    : ModelContainer(std::move(configuration), pellorySchema())
+{
+}
+
+ModelContainer::ModelContainer(ModelConfiguration configuration, const Schema& schema)
     : m_configuration(std::move(configuration))
 {
     try {
-        open();
+        open(schema);
     } catch (const SQLite::Exception& error) {
         throw StoreError(descriptionOf(error));
     }
@@ -22,17 +31,20 @@ ModelContainer::ModelContainer(ModelConfiguration configuration)
 
 ModelContainer::~ModelContainer() = default;
 
-void ModelContainer::open()
+void ModelContainer::open(const Schema& schema)
 {
     if (!QFile::exists(m_configuration.path))
-        createStoreFile(m_configuration.path);
+        createStoreFile(m_configuration.path, schema);
     m_database = std::make_unique<SQLite::Database>(
         connectToStore(m_configuration.path.toStdString(), m_configuration.lockTimeout));
-    verifyStore(*m_database);
+    // One transaction, so that all of it sees the same store, and a migration is undone if anything fails.
+    SQLite::Transaction transaction(*m_database);
+    const int version = verifyStore(*m_database, schema);
+    if (version < schema.version())
+        migrateStore(*m_database, schema, version);
+    m_context = std::make_unique<ModelContext>(*m_database);
+    transaction.commit();
     // The whole file has passed through the page cache, and little of it is needed soon.
     m_database->exec("PRAGMA shrink_memory");
     m_database->setBusyTimeout(saveLockTimeout);
-    m_context = std::make_unique<ModelContext>(*m_database);
-    // Goals and settings are few and needed at once; reading them here makes damage a failure of the opening.
-    static_cast<void>(m_context->fetchSettings());
 }

@@ -6,6 +6,7 @@
 #include <memory>
 
 class ModelContext;
+struct Schema;
 
 namespace SQLite {
 class Database;
@@ -15,16 +16,17 @@ struct ModelConfiguration {
     QString name;
     /// The store file.
     QString path;
-    /// How long opening waits for another program that holds the store, in milliseconds.
+    /// How long opening waits for another program that has locked the store, in milliseconds.
     int lockTimeout = 5000;
 };
 
 /// An open data store.
 class ModelContainer {
 public:
-    /// Opens the store, or creates it where there is none. Throws a StoreError that says what is wrong; a file that is
-    /// there is then unchanged.
+    /// Opens the store, or creates it if there is none. A store of an earlier version is migrated, and a copy of it is
+    /// kept beside it. Throws a StoreError that says what is wrong; an existing store is then unchanged.
     explicit ModelContainer(ModelConfiguration configuration);
+    ModelContainer(ModelConfiguration configuration, const Schema& schema);
     ~ModelContainer();
     ModelContainer(const ModelContainer&) = delete;
     ModelContainer& operator=(const ModelContainer&) = delete;
@@ -34,7 +36,7 @@ public:
     [[nodiscard]] ModelContext& mainContext() { return *m_context; }
 
 private:
-    void open();
+    void open(const Schema& schema);
 
     ModelConfiguration m_configuration;
     std::unique_ptr<SQLite::Database> m_database;

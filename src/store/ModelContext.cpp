@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ModelContext.h"
 
+#include "Connection.h"
 #include "RecordFields.h"
 #include "RecordTable.h"
-#include "Schema.h"
 #include "StoreError.h"
 
 #include <QLoggingCategory>
@@ -52,6 +52,8 @@ ModelContext::ModelContext(SQLite::Database& database)
     m_tables.reset(new Tables{{database, monthFields(), changed},
                               {database, goalFields(), changed},
                               {database, settingsFields([this] { return fetchGoals(); }), changed}});
+    // Settings and goals are few and needed at once; reading them here lets opening fail if they are damaged.
+    static_cast<void>(fetchSettings());
 }
 
 ModelContext::~ModelContext()

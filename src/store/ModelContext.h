@@ -19,6 +19,7 @@ class Database;
 /// event loop. A change that could not be saved is tried again with the next save and when the context ends.
 class ModelContext : public QObject {
 public:
+    /// Reads the settings and their goals. Throws a StoreError if it cannot.
     explicit ModelContext(SQLite::Database& database);
     ~ModelContext() override;
 

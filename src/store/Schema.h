@@ -1,29 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
+#include "Row.h"
 
-namespace SQLite {
-class Database;
-class Exception;
-} // namespace SQLite
+struct Index {
+    std::string name;
+    std::string sql;
 
-class QString;
+    bool operator==(const Index&) const = default;
+};
 
-/// How long a save waits for another program that holds the store, in milliseconds. It happens on the path of a click,
-/// so it is short; the save is tried again with the next one.
-inline constexpr int saveLockTimeout = 10;
+/// A column that a migration adds to an existing table, and what existing rows get there.
+struct NewColumn {
+    std::string table;
+    std::string column;
+    Value initial;
+};
 
-/// Opens a connection with the settings of a store; for reading alone where the file cannot be written. `lockTimeout`
-/// is how long it waits for another program, in milliseconds.
-[[nodiscard]] SQLite::Database connectToStore(const std::string& path, int lockTimeout);
+/// What one version of the store adds to the version before it: new tables and indexes by name, and new columns. A
+/// version that adds none of these, because only the values that a field can hold have changed, has an empty migration.
+struct Migration {
+    std::vector<std::string> newTables = {};
+    std::vector<std::string> newIndexes = {};
+    std::vector<NewColumn> newColumns = {};
+};
 
-/// Writes the tables and the marks of a store ("application_id", "user_version") into an empty database.
-void createSchema(SQLite::Database& database);
+/// What a store consists of, and how it came to that since version 1.
+struct Schema {
+    std::vector<TableLayout> tables;
+    std::vector<Index> indexes;
+    /// The first leads from version 1 to version 2, and so on. Released migrations never change.
+    std::vector<Migration> migrations;
 
-/// Throws a StoreError, or the database's own exception, unless this is a store of a version that this program knows,
-/// sound in all its pages, and every record in it reads as it was written. Changes nothing.
-void verifyStore(SQLite::Database& database);
+    [[nodiscard]] int version() const { return static_cast<int>(migrations.size()) + 1; }
+    /// The schema as it was in a version from 1 to version().
+    [[nodiscard]] Schema atVersion(int version) const;
+};
 
-/// What went wrong with the database, in words for the person.
-[[nodiscard]] QString descriptionOf(const SQLite::Exception& error);
+/// The schema of this program.
+[[nodiscard]] Schema pellorySchema();

@@ -3,17 +3,83 @@
 
 #include "Schema.h"
 #include "StoreError.h"
+#include "Verification.h"
 
-#include <QFile>
+#include <QDir>
 #include <QTemporaryFile>
 
+#include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void removeIfThere(const QString& path)
+/// A file that gets its name once it is whole, and is removed if it never does.
+class Draft {
+public:
+    explicit Draft(const QString& path)
+        : m_file(path + ".new-XXXXXX"_L1)
+    {
+        if (!m_file.open())
+            fail();
+    }
+
+    [[nodiscard]] std::string fileName() const { return m_file.fileName().toStdString(); }
+
+    /// False if there is a file of that name.
+    [[nodiscard]] bool take(const QString& path)
+    {
+        const bool isTaken = m_file.rename(path);
+        if (!isTaken && !QFile::exists(path))
+            fail();
+        m_file.setAutoRemove(!isTaken);
+        return isTaken;
+    }
+
+    [[nodiscard]] bool hasContentsOf(const QString& path)
+    {
+        QFile other(path);
+        return other.open(QFile::ReadOnly) && m_file.seek(0) && m_file.readAll() == other.readAll();
+    }
+
+private:
+    [[noreturn]] void fail() const
+    {
+        throw StoreError(
+            StoreError::tr("The file %1 cannot be created: %2").arg(m_file.fileName(), m_file.errorString()));
+    }
+
+    QTemporaryFile m_file;
+};
+
+/// A connection to a draft, which is dropped whole if writing fails and so needs no journal.
+SQLite::Database connectToDraft(const Draft& draft)
+{
+    SQLite::Database database(draft.fileName(), SQLite::OPEN_READWRITE);
+    database.exec("PRAGMA journal_mode = OFF");
+    return database;
+}
+
+void copyStore(const QString& path, const Draft& draft)
+{
+    SQLite::Database source(path.toStdString());
+    SQLite::Database copy = connectToDraft(draft);
+    SQLite::Backup backup(copy, source);
+    if (const int result = backup.executeStep(); result != SQLITE_DONE)
+        throw SQLite::Exception("the store cannot be copied", result);
+}
+
+// Killed attempts leave theirs behind.
+void removeDrafts(const QString& path)
+{
+    const QFileInfo copy(path);
+    for (const QString& name : copy.dir().entryList({copy.fileName() + ".new-*"_L1}, QDir::Files))
+        copy.dir().remove(name);
+}
+
+void removeIfPresent(const QString& path)
 {
     QFile file(path);
     if (file.exists() && !file.remove())
@@ -22,28 +88,36 @@ void removeIfThere(const QString& path)
 
 } // namespace
 
-void createStoreFile(const QString& path)
+void createStoreFile(const QString& path, const Schema& schema)
 {
-    QTemporaryFile draft(path + ".new-XXXXXX"_L1);
-    if (!draft.open())
-        throw StoreError(StoreError::tr("The data store cannot be created: %1").arg(draft.errorString()));
+    Draft draft(path);
     {
-        SQLite::Database database(draft.fileName().toStdString(), SQLite::OPEN_READWRITE);
-        // The draft is dropped whole if this fails: it needs no way back.
-        database.exec("PRAGMA journal_mode = OFF");
-        createSchema(database);
+        SQLite::Database database = connectToDraft(draft);
+        createSchema(database, schema);
     }
-    if (draft.rename(path))
-        draft.setAutoRemove(false);
-    else if (!QFile::exists(path))
-        throw StoreError(StoreError::tr("The data store cannot be created: %1").arg(draft.errorString()));
+    static_cast<void>(draft.take(path));
+}
+
+void keepStoreCopy(const QString& path, const Schema& schema)
+{
+    const QString firstName = path + u".before-%1"_s.arg(schema.version());
+    removeDrafts(firstName);
+    Draft draft(firstName);
+    copyStore(path, draft);
+    {
+        SQLite::Database copy(draft.fileName(), SQLite::OPEN_READWRITE);
+        static_cast<void>(verifyStore(copy, schema));
+    }
+    QString name = firstName;
+    for (int number = 2; !draft.hasContentsOf(name) && !draft.take(name); ++number)
+        name = firstName + u"-%1"_s.arg(number);
 }
 
 void removeStoreFile(const QString& path)
 {
     // The store goes first: a journal without its store means nothing to the database, while a store without its
     // journal would be damaged if the removal stopped halfway.
-    removeIfThere(path);
+    removeIfPresent(path);
     for (const auto suffix : {"-journal"_L1, "-wal"_L1, "-shm"_L1})
-        removeIfThere(path + suffix);
+        removeIfPresent(path + suffix);
 }

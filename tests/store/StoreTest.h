@@ -6,11 +6,12 @@
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
+#include "ReleasedStore.h"
+#include "Schema.h"
 #include "StoreError.h"
 #include "Testing.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QTemporaryDir>
 
 #include <SQLiteCpp/Database.h>
@@ -21,7 +22,7 @@
 /// How many times as much as usual is asked of a test that kills or damages.
 inline const int torture = std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
 
-/// Random numbers, others in every run. A run is repeated by its seed in the environment.
+/// Random numbers, different in every run. A run is repeated by its seed in the environment.
 inline std::mt19937 randomNumbers()
 {
     const unsigned given = qEnvironmentVariable("PELLORY_SEED").toUInt();
@@ -58,16 +59,17 @@ inline QStringList contents(ModelContext& context)
 /// A store in a folder of its own.
 class StoreTest : public testing::Test {
 protected:
-    [[nodiscard]] std::unique_ptr<ModelContainer> open(int lockTimeout = 5000) const
+    [[nodiscard]] std::unique_ptr<ModelContainer> open(const Schema& schema = pellorySchema(),
+                                                       int lockTimeout = 5000) const
     {
-        return std::make_unique<ModelContainer>(ModelConfiguration{u"Example"_s, path, lockTimeout});
+        return std::make_unique<ModelContainer>(ModelConfiguration{u"Example"_s, path, lockTimeout}, schema);
     }
 
-    /// Why the store does not open; empty when it does.
-    [[nodiscard]] std::string refusal(int lockTimeout = 5000) const
+    /// Why the store does not open; empty if it does.
+    [[nodiscard]] std::string refusal(const Schema& schema = pellorySchema(), int lockTimeout = 5000) const
     {
         try {
-            static_cast<void>(open(lockTimeout));
+            static_cast<void>(open(schema, lockTimeout));
             return {};
         } catch (const StoreError& error) {
             return error.description().toStdString();
@@ -76,7 +78,7 @@ protected:
 
     [[nodiscard]] QStringList stored() const { return contents(open()->mainContext()); }
 
-    /// A connection past the store's own.
+    /// A connection beside the store's own.
     [[nodiscard]] SQLite::Database connection() const { return {path.toStdString(), SQLite::OPEN_READWRITE}; }
 
     /// Of the store, or of a file beside it.
@@ -99,25 +101,15 @@ protected:
                                                         : QFile::ReadOwner | QFile::ExeOwner);
     }
 
-    /// Stores January to March, two goals, and settings.
+    /// Puts the released program's store in the place of whatever is there.
     void putSample() const
     {
-        const auto container = open();
-        for (int number = 1; number <= 3; ++number) {
-            const auto month = std::make_shared<Month>(2026, number);
-            mark(*month, number, DayState::IN_OFFICE);
-            container->mainContext().insert(month);
-        }
-        const auto settings = std::make_shared<AppSettings>();
-        settings->daysPerWeekGoals = {Goal::create(u"2.5"_s, u"Team days"_s), Goal::create(u"4"_s, {})};
-        settings->inOfficeSsids = {u"Office"_s, u"Office 5G"_s};
-        container->mainContext().insert(settings);
+        QFile::remove(path);
+        SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(releasedStore);
     }
 
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
 
-    // In memory where that is possible, for thousands of stores are written.
-    const QTemporaryDir folder{(QFileInfo(u"/dev/shm"_s).isWritable() ? u"/dev/shm"_s : QDir::tempPath()) +
-                               u"/pellory-XXXXXX"_s};
+    const QTemporaryDir folder{inMemory};
     const QString path = folder.filePath(u"Pellory.store"_s);
 };

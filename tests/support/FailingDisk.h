@@ -1,19 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtGlobal>
+#include <QScopeGuard>
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <csignal>
+#include <iostream>
 #include <map>
 
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-/// While it lives, SQLite's files are on a disk that can be told to fail.
+/// While it exists, SQLite's files are on a disk that can fail, or kill the program, at any call.
 class FailingDisk {
 public:
     enum Call : std::size_t { Open, Write, Sync, Truncate, Delete, callCount };
+    enum Fault { FailOnce, FailFromThenOn, Kill };
+    static constexpr auto failures = {FailOnce, FailFromThenOn};
+    static constexpr auto failuresAndKill = {FailOnce, FailFromThenOn, Kill};
     using Counts = std::array<int, callCount>;
 
     FailingDisk()
@@ -35,45 +42,68 @@ public:
     ~FailingDisk() { sqlite3_vfs_unregister(&ownVfs), sqlite3_vfs_register(realVfs, 1); }
     Q_DISABLE_COPY_MOVE(FailingDisk)
 
-    /// While it is armed, the call of a kind with this number fails, or all from that one on.
-    static void strikeAt(Call call, int number, bool isForGood) { fault = {call, number, isForGood, false, 0, false}; }
-    static void arm(bool isArmed) { fault.isArmed = isArmed; }
-    [[nodiscard]] static bool hasStruck() { return fault.hasStruck; }
-
-    /// Makes an attempt for every single call that can fail in it, and in both ways. How many there are of each kind.
-    template <class Attempt> static Counts failEverywhere(Attempt attempt)
+    /// Repeats an attempt until each call that the disk gets while it is armed has been struck by each fault. Returns
+    /// how many calls of each kind there were.
+    template <class Attempt> static Counts strikeEverywhere(std::initializer_list<Fault> faults, Attempt attempt)
     {
         Counts counts{};
-        for (std::size_t call = 0; call < 2 * callCount; ++call) {
-            int& number = counts.at(call / 2) = 0;
-            for (bool isMore = true; isMore && !testing::Test::HasFailure(); isMore = hasStruck()) {
-                SCOPED_TRACE(testing::Message() << "kind " << call / 2 << ", call " << number << ", " << call % 2);
-                strikeAt(static_cast<Call>(call / 2), ++number, call % 2 == 1);
-                attempt();
+        for (const Fault fault : faults) {
+            for (std::size_t call = 0; call < callCount; ++call) {
+                int number = 0;
+                for (bool isMore = true; isMore && !testing::Test::HasFailure(); isMore = hasStruck()) {
+                    SCOPED_TRACE(testing::Message() << "fault " << fault << ", kind " << call << ", call " << number);
+                    plan = {static_cast<Call>(call), ++number, fault, false, 0, false};
+                    attempt();
+                }
+                counts.at(call) = number - 1;
             }
-            --number;
         }
         std::cout << "Open, write, sync, truncate, delete: " << testing::PrintToString(counts) << std::endl;
         return counts;
     }
 
+    /// Runs an action with the disk armed; in a process of its own if it may be killed.
+    template <class Action> static void run(Action action)
+    {
+        const pid_t child = plan.fault == Kill ? fork() : 0;
+        if (child != 0) {
+            int status = 0;
+            EXPECT_EQ(waitpid(child, &status, 0), child);
+            plan.hasStruck = status == SIGKILL;
+            EXPECT_TRUE(status == SIGKILL || status == EXIT_SUCCESS) << status;
+            return;
+        }
+        arm(true);
+        action();
+        arm(false);
+        if (plan.fault == Kill)
+            _exit(EXIT_SUCCESS);
+    }
+
+    static void arm(bool isArmed) { plan.isArmed = isArmed; }
+    [[nodiscard]] static bool hasStruck() { return plan.hasStruck; }
+
 private:
     static bool strikes(Call call)
     {
-        if (!fault.isArmed || call != fault.call || ++fault.calls < fault.number)
+        if (!plan.isArmed || call != plan.call || ++plan.calls < plan.number)
             return false;
-        fault.hasStruck = true;
-        return fault.isForGood || fault.calls == fault.number;
+        if (plan.fault == Kill && call != Write) // which is killed halfway
+            raise(SIGKILL);
+        plan.hasStruck = true;
+        return plan.fault != FailOnce || plan.calls == plan.number;
     }
 
-    /// A journal has no locks, so its methods are others than those of a store, but not those that can fail.
+    /// A journal has no locks, so its methods differ from those of a store, but not the methods that can fail.
     static const sqlite3_io_methods* failing(const sqlite3_io_methods* inner)
     {
         innerMethods = inner;
         sqlite3_io_methods& methods = failingMethods[inner] = *inner;
         methods.xWrite = [](auto* file, const void* data, int size, sqlite3_int64 offset) {
-            const bool isFull = strikes(Write); // half of it has room
+            const bool isFull = strikes(Write); // half of the data fits
             const int result = innerMethods->xWrite(file, data, isFull ? size / 2 : size, offset);
+            if (isFull && plan.fault == Kill)
+                raise(SIGKILL);
             return isFull ? SQLITE_FULL : result;
         };
         methods.xSync = [](auto* of, int how) {
@@ -85,15 +115,15 @@ private:
         return &methods;
     }
 
-    struct Fault {
+    struct Plan {
         Call call;
         int number;
-        bool isForGood;
+        Fault fault;
         bool isArmed;
         int calls;
         bool hasStruck;
     };
-    static inline Fault fault{};
+    static inline Plan plan{};
     static inline sqlite3_vfs* const realVfs = sqlite3_vfs_find(nullptr);
     static inline sqlite3_vfs ownVfs{};
     static inline const sqlite3_io_methods* innerMethods = nullptr;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace SQLite {
+class Database;
+class Exception;
+} // namespace SQLite
+
+class QString;
+
+/// How long a save waits for another program that holds the store, in milliseconds. It is short because a click waits
+/// for it; the save is tried again with the next one.
+inline constexpr int saveLockTimeout = 10;
+
+/// Opens a connection with the settings of a store, read-only if the file is not writable. `lockTimeout` is how long it
+/// waits for another program, in milliseconds.
+[[nodiscard]] SQLite::Database connectToStore(const std::string& path, int lockTimeout);
+
+/// The error in words for the person.
+[[nodiscard]] QString descriptionOf(const SQLite::Exception& error);

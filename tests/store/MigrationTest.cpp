@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FailingDisk.h"
+#include "StoreTest.h"
+
+#include <SQLiteCpp/Column.h>
+
+using testing::HasSubstr;
+
+namespace {
+
+/// Made-up versions: 2 adds a table, its index and a field of months, 3 adds another field of months.
+Schema laterSchema()
+{
+    Schema schema = pellorySchema();
+    auto& month = schema.tables.front().columns;
+    month.insert(month.begin() + 2, {"colour", ColumnType::Integer});
+    month.push_back({"mood", ColumnType::Text});
+    schema.tables.push_back({"note", {{"day", ColumnType::Integer}}});
+    schema.indexes.push_back({"note_by_day", "CREATE INDEX note_by_day ON note (day)"});
+    schema.migrations = {{{"note"}, {"note_by_day"}, {{"month", "colour", 7}}}, {{}, {}, {{"month", "mood", "calm"}}}};
+    return schema;
+}
+
+} // namespace
+
+class MigrationTest : public StoreTest {
+protected:
+    MigrationTest()
+    {
+        putSample();
+        connection().exec("CREATE TABLE unknown (x); INSERT INTO unknown VALUES ('kept')");
+        sound = bytes();
+    }
+
+    [[nodiscard]] std::string query(const std::string& sql) const
+    {
+        return connection().execAndGet("SELECT group_concat(value) FROM (SELECT " + sql + ")").getString();
+    }
+
+    /// Whatever there was before the migration.
+    [[nodiscard]] std::string oldFields() const
+    {
+        return query("pk || year || month || name || days_in_month || days AS value FROM month") +
+               query("pk || id || wanted_days_per_week || description AS value FROM goal") +
+               query("days_per_week_goals || in_office_ssids || first_time AS value FROM app_settings") +
+               query("x AS value FROM unknown");
+    }
+
+    const Schema schema = laterSchema();
+    const QString copy = u".before-3"_s;
+    QByteArray sound;
+};
+
+TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
+{
+    setBytes("of another time", copy);
+    const std::string before = oldFields();
+    const QStringList records = stored();
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(refusal(schema), "");
+        EXPECT_EQ(oldFields(), before);
+        EXPECT_EQ(query("colour || mood AS value FROM month"), "7calm,7calm,7calm");
+        EXPECT_EQ(open(schema)->mainContext().fetchGoals().size(), 2);
+        EXPECT_EQ(files(),
+                  QStringList({u"Pellory.store"_s, u"Pellory.store.before-3"_s, u"Pellory.store.before-3-2"_s}));
+    }
+    EXPECT_THAT(refusal(), HasSubstr("newer version"));
+    EXPECT_EQ(bytes(copy), "of another time");
+    EXPECT_EQ(int(QFile::permissions(path + copy + u"-2"_s) & 0x77), 0); // nothing for group and others
+    setBytes(bytes(copy + u"-2"_s));
+    EXPECT_EQ(stored(), records);
+}
+
+TEST_F(MigrationTest, thatFailsLeavesTheStoreAsItWas)
+{
+    Schema badSchema = schema;
+    badSchema.indexes.back().sql = "create index note_by_day on note (day)"; // SQLite stores it in capitals
+    const std::tuple<const char*, const Schema&, const char*, int> rows[]{
+        {"UPDATE month SET name = 'x' WHERE pk = 1", schema, "damaged: record 1", 0},
+        {"ALTER TABLE month ADD COLUMN mood TEXT", schema, "\"month\" in the data store is not defined", 0},
+        {"CREATE TABLE note (x)", schema, "left as it was.*already exists", 1},
+        {"DELETE FROM goal WHERE pk = 1", schema, "is missing", 1},
+        {"DELETE FROM unknown", badSchema, "left as it was.*\"note_by_day\" .* not defined", 1},
+    };
+    for (const auto& [sql, wanted, reason, copies] : rows) {
+        SCOPED_TRACE(sql);
+        QFile::remove(path + copy);
+        setBytes(sound);
+        connection().exec(sql);
+        const QByteArray before = bytes();
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            EXPECT_THAT(refusal(wanted), testing::ContainsRegex(reason));
+            EXPECT_EQ(bytes(), before);
+            EXPECT_EQ(files().size(), 1 + copies);
+        }
+    }
+}
+
+TEST_F(MigrationTest, leavesTheOldOrTheNewStoreWhateverFailsAndWheneverItIsKilled)
+{
+    const FailingDisk disk;
+    const std::string before = oldFields();
+    int completed = 0;
+    const auto calls = FailingDisk::strikeEverywhere(FailingDisk::failuresAndKill, [&] {
+        QFile::remove(path + copy);
+        setBytes(sound);
+        std::string reason;
+        FailingDisk::run([&] { reason = refusal(schema); });
+        EXPECT_TRUE(reason.empty() || FailingDisk::hasStruck()) << reason;
+        const std::string now = refusal();
+        EXPECT_TRUE(now.empty() || now.find("newer version") != std::string::npos) << now;
+        completed += now.empty() ? 0 : 1;
+        EXPECT_EQ(oldFields(), before);
+        EXPECT_EQ(refusal(schema), "");
+        EXPECT_EQ(oldFields(), before);
+        EXPECT_EQ(files(), QStringList({u"Pellory.store"_s, u"Pellory.store.before-3"_s}));
+    });
+    EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(5), testing::Ge(20), testing::Ge(4), 0, testing::Ge(1)));
+    EXPECT_GE(completed, 3);
+}
