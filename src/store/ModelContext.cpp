@@ -17,7 +17,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(logStore, "pellory.store", QtInfoMsg)
 
-// Views know the store's own error alone.
+// Callers know the store's own error only.
 template <class Fetch> auto withStoreErrors(Fetch fetch)
 {
     try {
@@ -89,15 +89,21 @@ void ModelContext::insert(const std::shared_ptr<Month>& month)
     m_tables->months.insert(month);
 }
 
-void ModelContext::insert(const std::shared_ptr<Goal>& goal)
-{
-    m_tables->goals.insert(goal);
-}
-
 void ModelContext::insert(const std::shared_ptr<AppSettings>& settings)
 {
     m_tables->settings.insert(settings);
-    insertNewGoals();
+    for (const auto& goal : settings->daysPerWeekGoals.value())
+        m_tables->goals.insert(goal);
+}
+
+void ModelContext::remove(const std::shared_ptr<Month>& month)
+{
+    m_tables->months.remove(month);
+}
+
+void ModelContext::remove(const std::shared_ptr<AppSettings>& settings)
+{
+    m_tables->settings.remove(settings);
 }
 
 bool ModelContext::save()
@@ -130,23 +136,30 @@ void ModelContext::scheduleSave()
     QMetaObject::invokeMethod(
         this,
         [this] {
-            // An explicit save in the same turn has done it, or has failed and is not to fail twice.
+            // An explicit save in the same turn has done it, or has failed and must not be reported twice.
             if (m_saveScheduled)
                 save();
         },
         Qt::QueuedConnection);
 }
 
-void ModelContext::insertNewGoals()
+// Needs no query, because all settings and goals are in memory.
+void ModelContext::matchGoalsToLists()
 {
-    for (const auto& settings : m_tables->settings.changedRecords()) {
-        for (const auto& goal : settings->daysPerWeekGoals.value())
-            m_tables->goals.insert(goal);
+    if (!m_tables->settings.hasChanges())
+        return;
+    AppSettings::Goals listed;
+    for (const auto& settings : m_tables->settings.inMemory())
+        listed += settings->daysPerWeekGoals.value();
+    for (const auto& goal : listed)
+        m_tables->goals.insert(goal);
+    for (const auto& goal : m_tables->goals.inMemory()) {
+        if (!listed.contains(goal))
+            m_tables->goals.remove(goal);
     }
 }
 
-// A file that could not be written when it was opened stays read-only to its connection, even when it has become
-// writable since.
+// A connection to a file that was not writable stays read-only, even if the file has become writable since.
 void ModelContext::reconnectIfReadOnly()
 {
     if (sqlite3_db_readonly(m_database.getHandle(), "main") == 0)
@@ -159,7 +172,7 @@ void ModelContext::reconnectIfReadOnly()
 
 void ModelContext::writeChanges()
 {
-    insertNewGoals();
+    matchGoalsToLists();
     SQLite::Transaction transaction(m_database, SQLite::TransactionBehavior::IMMEDIATE);
     m_tables->months.write();
     m_tables->goals.write();
@@ -168,5 +181,5 @@ void ModelContext::writeChanges()
     m_tables->months.markSaved();
     m_tables->goals.markSaved();
     m_tables->settings.markSaved();
-    m_saveScheduled = false; // inserting the goals of a changed list has asked for a save again
+    m_saveScheduled = false; // adding or deleting goals has scheduled another save
 }

@@ -14,16 +14,16 @@ namespace SQLite {
 class Database;
 }
 
-/// The records of a store. However often a record is fetched there is one object of it, and every change of a field of
-/// a fetched or inserted record reaches the store: with the next save(), and without one at the end of the turn of the
-/// event loop. A change that could not be saved is tried again with the next save and when the context ends.
+/// The records of a store. However often a record is fetched, there is one object of it. Every change of a field of a
+/// fetched or inserted record reaches the store with the next save(), at the latest one at the end of the turn of the
+/// event loop. A change that could not be saved is tried again with the next save and in the destructor.
 class ModelContext : public QObject {
 public:
     /// Reads the settings and their goals. Throws a StoreError if it cannot.
     explicit ModelContext(SQLite::Database& database);
     ~ModelContext() override;
 
-    /// All records of a kind, in no order. These throw a StoreError when the store cannot be read.
+    /// All records of a kind, in no order. They throw a StoreError if the store cannot be read.
     [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths();
     [[nodiscard]] QList<std::shared_ptr<Goal>> fetchGoals();
     [[nodiscard]] QList<std::shared_ptr<AppSettings>> fetchSettings();
@@ -31,13 +31,17 @@ public:
     /// The months of a year and month number: none or one, unless the store holds duplicates.
     [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths(int year, int month);
 
+    /// Adds a record. Goals are added with the settings that list them, and deleted by the save of settings after which
+    /// no settings list them. Inserting a removed record before the next save takes the removal back.
     void insert(const std::shared_ptr<Month>& month);
-    void insert(const std::shared_ptr<Goal>& goal);
-    /// Inserts the goals in its list as well.
     void insert(const std::shared_ptr<AppSettings>& settings);
 
-    /// Writes all changes in one transaction. True when everything is on disk; a failure is logged, damages nothing
-    /// that is on disk, and leaves the changes in memory.
+    /// Deletes a record from the store with the next save. It is not fetched any more.
+    void remove(const std::shared_ptr<Month>& month);
+    void remove(const std::shared_ptr<AppSettings>& settings);
+
+    /// Writes all changes in one transaction. True if everything is on disk; a failure is logged, leaves the store as
+    /// it was, and the changes in memory.
     bool save();
     [[nodiscard]] bool hasChanges() const;
 
@@ -45,7 +49,7 @@ private:
     struct Tables;
 
     void scheduleSave();
-    void insertNewGoals();
+    void matchGoalsToLists();
     void writeChanges();
     void reconnectIfReadOnly();
 

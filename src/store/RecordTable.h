@@ -38,41 +38,69 @@ public:
         SQLite::Statement query(m_database, m_layout.selectSql() + condition.where);
         for (std::size_t i = 0; i < condition.parameters.size(); ++i)
             query.bind(static_cast<int>(i) + 1, condition.parameters[i]);
-        while (query.executeStep())
-            records.append(stored(query)->record);
+        while (query.executeStep()) {
+            const Entry* entry = stored(query);
+            if (!entry->removed)
+                records.append(entry->record);
+        }
         for (const Entry* entry : m_dirty) {
-            if (!entry->key && condition.matches(*entry->record))
+            if (!entry->key && !entry->removed && condition.matches(*entry->record))
                 records.append(entry->record);
         }
         return records;
     }
 
+    /// The records that were fetched or inserted so far, without those that were removed.
+    [[nodiscard]] QList<RecordPtr> inMemory() const
+    {
+        QList<RecordPtr> records;
+        for (const auto& known : m_entries) {
+            if (!known.second->removed)
+                records.append(known.second->record);
+        }
+        return records;
+    }
+
+    /// Also takes back a removal.
     void insert(const RecordPtr& record)
     {
-        if (!m_entries.contains(record.get()))
-            markChanged(follow(record));
+        Entry* known = find(record);
+        if (known != nullptr && !known->removed)
+            return;
+        Entry* entry = known != nullptr ? known : follow(record);
+        entry->removed = false;
+        markChanged(entry);
+    }
+
+    void remove(const RecordPtr& record)
+    {
+        Entry* entry = find(record);
+        if (entry == nullptr)
+            return;
+        entry->removed = true;
+        markChanged(entry);
     }
 
     [[nodiscard]] bool hasChanges() const { return !m_dirty.empty(); }
 
-    [[nodiscard]] QList<RecordPtr> changedRecords() const
-    {
-        QList<RecordPtr> records;
-        for (const Entry* entry : m_dirty)
-            records.append(entry->record);
-        return records;
-    }
-
     /// Writes every change. Must be called in a transaction, and followed by markSaved() after its commit.
     void write()
     {
-        for (Entry* entry : m_dirty)
-            write(*entry);
+        for (Entry* entry : m_dirty) {
+            if (!entry->removed)
+                write(*entry);
+            else if (entry->key)
+                erase(*entry->key);
+        }
     }
 
     void markSaved()
     {
         for (Entry* entry : std::exchange(m_dirty, {})) {
+            if (entry->removed) {
+                forget(*entry);
+                continue;
+            }
             entry->key = entry->writtenKey;
             m_byKey[*entry->key] = entry;
             entry->dirty = false;
@@ -88,8 +116,15 @@ private:
         std::optional<std::int64_t> key;
         std::int64_t writtenKey = 0;
         bool dirty = false;
+        bool removed = false;
         std::vector<QPropertyNotifier> followers;
     };
+
+    Entry* find(const RecordPtr& record)
+    {
+        const auto known = m_entries.find(record.get());
+        return known == m_entries.end() ? nullptr : known->second.get();
+    }
 
     Entry* stored(SQLite::Statement& query)
     {
@@ -133,6 +168,20 @@ private:
             writeRow(insertion, row, {});
             entry.writtenKey = m_database.getLastInsertRowid();
         }
+    }
+
+    void erase(std::int64_t key)
+    {
+        SQLite::Statement deletion(m_database, m_layout.deleteSql());
+        deletion.bind(1, key);
+        deletion.exec();
+    }
+
+    void forget(const Entry& entry)
+    {
+        if (entry.key)
+            m_byKey.erase(*entry.key);
+        m_entries.erase(entry.record.get());
     }
 
     SQLite::Database& m_database;

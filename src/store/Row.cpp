@@ -67,6 +67,11 @@ std::string TableLayout::updateSql() const
     return "UPDATE " + name + " SET " + columnNames(*this, " = ?, ") + "checksum = ? WHERE pk = ?";
 }
 
+std::string TableLayout::deleteSql() const
+{
+    return "DELETE FROM " + name + " WHERE pk = ?";
+}
+
 std::int64_t checksum(const Row& row)
 {
     std::string bytes;

@@ -38,6 +38,8 @@ struct TableLayout {
     [[nodiscard]] std::string insertSql() const;
     /// Parameters as for writeRow().
     [[nodiscard]] std::string updateSql() const;
+    /// Parameter: the key.
+    [[nodiscard]] std::string deleteSql() const;
 
     bool operator==(const TableLayout&) const = default;
 };

@@ -32,6 +32,7 @@ protected:
         mark(*march, 31, DayState::WILL_BE_IN_OFFICE);
         for (int month = 4; month <= 12; ++month)
             context.insert(std::make_shared<Month>(2026, month));
+        context.remove(context.fetchMonths(2026, 1).first());
         const QStringList changed = contents(context);
 
         obstruct(true);

@@ -137,3 +137,39 @@ TEST_F(ModelContextTest, findsWhatIsInsertedBeforeAndAfterItIsSaved)
     EXPECT_EQ(inserted.size(), 2 + 1 + 3);
     EXPECT_EQ(stored(), inserted);
 }
+
+TEST_F(ModelContextTest, deletesWhatIsRemovedAndGoalsThatNoSettingsList)
+{
+    putSample();
+    connection().exec("INSERT INTO goal SELECT 9, id, wanted_days_per_week, description, checksum FROM goal LIMIT 1");
+    const auto container = open();
+    ModelContext& context = container->mainContext();
+    const auto settings = context.fetchSettings().first();
+    const auto goals = settings->daysPerWeekGoals.value();
+    const auto january = context.fetchMonths(2026, 1).first();
+    const auto neverSaved = std::make_shared<Month>(2026, 4);
+    EXPECT_EQ(context.fetchGoals().size(), 3) << "opening deletes nothing";
+
+    settings->removeGoal(*goals.first());
+    context.insert(neverSaved);
+    for (const auto& month : {january, neverSaved})
+        context.remove(month);
+    EXPECT_EQ(context.fetchMonths().size(), 2);
+    context.insert(january);
+    EXPECT_EQ(context.fetchMonths().size(), 3) << "taken back before the save";
+    context.remove(january);
+    EXPECT_TRUE(context.save());
+    EXPECT_EQ(context.fetchGoals(), QList{goals.last()});
+    EXPECT_EQ(stored(), contents(context));
+    mark(*january, 5, DayState::IN_OFFICE);
+    EXPECT_FALSE(context.hasChanges());
+
+    settings->daysPerWeekGoals = goals;
+    context.insert(january);
+    EXPECT_TRUE(context.save());
+    EXPECT_EQ(stored().size(), 3 + 2 + 1);
+    EXPECT_EQ(stored(), contents(context));
+    context.remove(settings);
+    EXPECT_TRUE(context.save());
+    EXPECT_EQ(stored().size(), 3);
+}
