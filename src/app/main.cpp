@@ -4,6 +4,7 @@
 #include "AutostartEntry.h"
 #include "Background.h"
 #include "CommandLine.h"
+#include "Connection.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
@@ -217,6 +218,7 @@ int printText(int argc, char* argv[])
 int main(int argc, char* argv[])
 {
     limitMallocArenas();
+    limitSqliteCache();
     setApplicationMetadata();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (asksForText(arguments)) // for which no display is needed

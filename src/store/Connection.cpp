@@ -3,14 +3,26 @@
 
 #include "StoreError.h"
 
+#include <QLoggingCategory>
+
 #include <SQLiteCpp/Database.h>
 #include <sqlite3.h>
 
+namespace {
+
+Q_LOGGING_CATEGORY(logSqlite, "pellory.store", QtInfoMsg)
+
+} // namespace
+
+void limitSqliteCache()
+{
+    const int result = sqlite3_config(SQLITE_CONFIG_PAGECACHE, nullptr, 0, 0);
+    if (result != SQLITE_OK)
+        qCWarning(logSqlite, "The cache of SQLite cannot be limited: %s", sqlite3_errstr(result));
+}
+
 SQLite::Database connectToStore(const std::string& path, int lockTimeout)
 {
-    // Pages one by one: the block of them that would be taken at once is larger than most stores.
-    static const int isSparing = sqlite3_config(SQLITE_CONFIG_PAGECACHE, nullptr, 0, 0);
-    static_cast<void>(isSparing);
     SQLite::Database database(path, SQLite::OPEN_READWRITE, lockTimeout);
     database.exec("PRAGMA synchronous = FULL");
     return database;
