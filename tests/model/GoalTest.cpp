@@ -10,9 +10,8 @@ TEST(Goal, isMadeFromADecimalNumberInItsRangeWhateverTheLocale)
         {u"6.999"_s, u"7.00"_s}, {u"+3"_s, u"3.00"_s}, {u".5"_s, u"0.50"_s},    {u"10e-1"_s, u"1.00"_s},
     };
     for (const auto& [text, stored] : rows) {
-        SCOPED_TRACE(text.toStdString());
         const auto goal = Goal::create(text, u" ** "_s);
-        ASSERT_TRUE(goal);
+        ASSERT_TRUE(goal) << text.toStdString();
         EXPECT_EQ(goal->wantedDaysPerWeek, stored);
         EXPECT_EQ(goal->desc, u" ** "_s);
         EXPECT_EQ(goal->value(), stored.toDouble());
@@ -22,23 +21,18 @@ TEST(Goal, isMadeFromADecimalNumberInItsRangeWhateverTheLocale)
 
 TEST(Goal, isNotMadeFromOtherText)
 {
-    for (const auto& text : {u"0"_s, u"0.0999"_s, u"7.001"_s, u"-1"_s, u"1e15"_s}) {
-        EXPECT_FALSE(Goal::create(text, {})) << text.toStdString();
-        EXPECT_TRUE(goalNumber(text)) << text.toStdString();
-    }
+    for (const auto& number : {u"0"_s, u"0.0999"_s, u"7.001"_s, u"-1"_s, u"1e15"_s})
+        EXPECT_TRUE(goalNumber(number) && !Goal::create(number, {})) << number.toStdString();
     for (const auto& text :
          {u""_s, u" 3"_s, u"3\n"_s, u"3,5"_s, u"3x"_s, u"0x3"_s, u"+-3"_s, u"++3"_s, u"+"_s, u"-inf"_s, u"nan"_s,
-          u"3\0"_s, u"\u0663"_s, u"1e300"_s, u"-1e300"_s, u"1e-400"_s, QString(400, u'9')}) {
-        EXPECT_FALSE(Goal::create(text, {})) << text.toStdString();
-        EXPECT_EQ(goalNumber(text), std::nullopt) << text.toStdString();
-    }
+          u"3\0"_s, u"\u0663"_s, u"1e300"_s, u"-1e300"_s, u"1e-400"_s, QString(400, u'9')})
+        EXPECT_TRUE(!goalNumber(text) && !Goal::create(text, {})) << text.toStdString();
 }
 
 TEST(AppSettings, startWithTheDefaultsAndShareTheirGoals)
 {
     const AppSettings settings;
-    EXPECT_TRUE(settings.inOfficeSsids.value().isEmpty());
-    EXPECT_TRUE(settings.firstTime && settings.notificationsEnabled);
+    EXPECT_TRUE(settings.firstTime && settings.notificationsEnabled && settings.inOfficeSsids.value().isEmpty());
     EXPECT_FALSE(settings.wifiTrackingEnabled || settings.vacationDaysCountAsInOffice);
     EXPECT_EQ(settings.checkEveryInMinutes, 30);
     QStringList goals;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Reckoned by the standard library and not by Qt.
+// Computed by the standard library and not by Qt.
 bool isMondayToFriday(int year, int month, qint64 dayId)
 {
     using namespace std::chrono;
@@ -62,10 +62,8 @@ TEST(Month, countsFillerCellsInTheOfficeButNotAsWorkdays)
 TEST(Month, isOrderedByItsNumberAloneAndEqualToItselfAlone)
 {
     const Month december(2025, 12), january(2026, 1), laterJanuary(2027, 1);
-    EXPECT_TRUE(january < december);
-    EXPECT_FALSE(december < january || january < laterJanuary || laterJanuary < january);
-    EXPECT_TRUE(january == january);
-    EXPECT_FALSE(january == laterJanuary || january == Month(2026, 1));
+    EXPECT_TRUE(january < december && january == january);
+    EXPECT_FALSE(december < january || january < laterJanuary || laterJanuary < january || january == Month(2026, 1));
 }
 
 TEST(Month, isNamedInTheLanguageOfThePerson)
@@ -78,6 +76,5 @@ TEST(Month, isNamedInTheLanguageOfThePerson)
 
 TEST(MonthDeathTest, impossibleMonthStopsTheProgram)
 {
-    EXPECT_DEATH(Month(2026, 0), "no month 0");
     EXPECT_DEATH(Month(2026, 13), "no month 13");
 }

@@ -13,11 +13,11 @@ TEST(Period, stepsLeadThroughTheCalendarAndEndWithIt)
         EXPECT_EQ(month->previous(), before);
         const YearQuarter quarter = month->quarter();
         EXPECT_EQ(quarter.months().at(static_cast<std::size_t>(steps % 3)), month->month);
-        if (steps % 3 == 0) {
-            EXPECT_EQ(quarter.previous(), quarterBefore);
-            EXPECT_EQ(quarterBefore ? quarterBefore->next() : quarter, quarter);
-            quarterBefore = quarter;
-        }
+        if (steps % 3 != 0)
+            continue;
+        EXPECT_EQ(quarter.previous(), quarterBefore);
+        EXPECT_EQ(quarterBefore ? quarterBefore->next() : quarter, quarter);
+        quarterBefore = quarter;
     }
     EXPECT_EQ(steps, 9999 * 12);
     EXPECT_EQ(quarterBefore->next(), std::nullopt);

@@ -6,6 +6,8 @@
 
 #include <limits>
 
+using testing::FieldsAre;
+
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -34,9 +36,8 @@ TEST(AttendanceStatistics, countAndAverage)
         int month, inOffice, onVacation, planned;
         bool vacationCounts, plannedShown;
         double average, prediction;
-    } rows[]{{4, 10, 2, 0, false, true, 10 / 22.0 * 5, 10 / 22.0 * 5},
+    } rows[]{{4, 10, 2, 3, false, true, 10 / 22.0 * 5, 13 / 22.0 * 5},
              {4, 10, 2, 3, true, true, 12 / 22.0 * 5, 15 / 22.0 * 5},
-             {2, 10, 0, 3, false, true, 2.5, 3.25},
              {2, 10, 0, 3, false, false, 2.5, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
@@ -47,7 +48,6 @@ TEST(AttendanceStatistics, countAndAverage)
         const auto statistics = attendanceStatistics({&month}, {}, row.vacationCounts, row.plannedShown);
         EXPECT_DOUBLE_EQ(statistics.average, row.average);
         EXPECT_DOUBLE_EQ(statistics.prediction, row.prediction);
-        EXPECT_EQ(shownAverage(statistics), statistics.average);
     }
 }
 
@@ -56,17 +56,14 @@ TEST(AttendanceStatistics, addUpMonthsWithTheirFillerCells)
     Month january(2026, 1), february(2026, 2), march(2026, 3);
     mark(january, 0, DayState::IN_OFFICE);
     mark(january, -1, DayState::WILL_BE_IN_OFFICE);
-    mark(february, 2, DayState::IN_OFFICE);
     mark(march, 31, DayState::WILL_BE_IN_OFFICE);
     const auto statistics = attendanceStatistics({&january, &february, &march}, {}, false, true);
-    EXPECT_EQ(statistics.workdays, 64);
-    EXPECT_EQ(statistics.inOffice, 2);
-    EXPECT_EQ(statistics.planned, 2);
+    EXPECT_THAT((std::tuple(statistics.workdays, statistics.inOffice, statistics.planned)), FieldsAre(64, 1, 2));
 }
 
 TEST(AttendanceStatistics, targetIsTheNextGoalOrElseTheLast)
 {
-    // The month, the days in the office, the goals; the place of the target, -1 for none; the highest value; the line.
+    // Month, days in the office, goals; index of the target, or -1; highest value; text.
     const std::tuple<int, int, QStringList, qsizetype, double, QString> rows[]{
         {2, 10, {u"2"_s, u"3"_s, u"abc"_s}, 1, 3, u"**2 more days** to reach **3.00/5**"_s},
         {2, 14, {u"3"_s, u"2"_s}, 1, 3, u"**0 more days** to reach **2.00/5**"_s},
@@ -104,9 +101,8 @@ TEST(AttendanceStatistics, standOnABarThatEndsAtTheHighestGoal)
     // Average, prediction, goals; progress, prediction and markers on the bar.
     const std::tuple<double, double, QStringList, QList<double>> rows[]{
         {2.5, 3.25, {u"2"_s, u"abc"_s, u"3"_s}, {2.5 / 3, 1, 2 / 3.0, 1}},
-        {1, 2, {u"-1"_s, u"4"_s, u"0"_s}, {0.25, 0.5, 0, 1, 0}},
-        {noNumber, noNumber, {u"2"_s}, {0, 0, 1}},
-        {infinity, infinity, {u"2"_s}, {1, 1, 1}},
+        {1, 2, {u"-1"_s, u"4"_s}, {0.25, 0.5, 0, 1}},
+        {noNumber, infinity, {u"2"_s}, {0, 1, 1}},
         {2.5, 0, {}, {1, 0}}};
     for (const auto& [average, prediction, goals, expected] : rows) {
         auto statistics = attendanceStatistics({}, goalsWith(goals), false, true);
@@ -120,8 +116,6 @@ TEST(AttendanceStatistics, standOnABarThatEndsAtTheHighestGoal)
 
 TEST(AttendanceStatisticsDeathTest, neededDaysAreRoundedUpOrStopTheProgram)
 {
-    EXPECT_EQ(neededDays(3, 21), 13);
-    EXPECT_EQ(neededDays(3, 20), 12);
     EXPECT_EQ(neededDays(-4, 21), -16);
     for (const double value : {-1e300, 0x1p63, noNumber})
         EXPECT_DEATH(static_cast<void>(neededDays(value, 5)), "more days than can be counted") << value;

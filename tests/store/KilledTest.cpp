@@ -12,8 +12,8 @@ class KilledTest : public StoreTest {
 protected:
     static constexpr int monthCount = 12;
 
-    /// Goes on with the marks of the sequence, without end, each in all months at once. Acknowledges each when it has
-    /// to be on disk: after the save of a click, or after the turn of the event loop.
+    /// Continues the sequence of marks without end, each in all months at once. Acknowledges each when it must be on
+    /// disk: after the save of a click, or after the turn of the event loop.
     void markWithoutEnd(int number, bool isClick, int acknowledgements) const
     {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -34,7 +34,7 @@ protected:
         }
     }
 
-    /// Lets a program go on after so many marks and kills it at a random moment. How many it acknowledged.
+    /// Lets a program continue after so many marks and kills it at a random moment. How many it acknowledged.
     int marksBeforeKill(int marks, bool isClick)
     {
         int ends[2]{};
