@@ -5,7 +5,7 @@
     <name>AppSettings</name>
     <message>
         <source>not fired</source>
-        <extracomment>What the goals that everyone starts with are good for: descriptions that the person can change.</extracomment>
+        <extracomment>Descriptions of the goals that everyone starts with. The person can change them.</extracomment>
         <translation>keine Kündigung</translation>
     </message>
     <message>
@@ -685,18 +685,6 @@
 <context>
     <name>StoreError</name>
     <message>
-        <source>the number of a day is no whole number</source>
-        <translation>die Nummer eines Tages ist keine ganze Zahl</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no state of a day</source>
-        <translation>„%1“ ist kein Status eines Tages</translation>
-    </message>
-    <message>
-        <source>it is no list</source>
-        <translation>er ist keine Liste</translation>
-    </message>
-    <message>
         <source>a number is out of range</source>
         <translation>eine Zahl liegt außerhalb des zulässigen Bereichs</translation>
     </message>
@@ -767,6 +755,18 @@
     <message>
         <source>The data store cannot be used (%1).</source>
         <translation>Der Datenspeicher kann nicht benutzt werden (%1).</translation>
+    </message>
+    <message>
+        <source>the number of a day is not an integer</source>
+        <translation>die Nummer eines Tages ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a day state</source>
+        <translation>„%1“ ist kein Tagesstatus</translation>
+    </message>
+    <message>
+        <source>it is not a list</source>
+        <translation>er ist keine Liste</translation>
     </message>
     <message>
         <source>The file %1 cannot be created: %2</source>

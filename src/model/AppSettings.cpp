@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 const AppSettings::Goals& AppSettings::defaultGoals()
 {
-    //: What the goals that everyone starts with are good for: descriptions that the person can change.
+    //: Descriptions of the goals that everyone starts with. The person can change them.
     static const Goals goals{
         Goal::create(u"2.00"_s, tr("not fired")),
         Goal::create(u"3.00"_s, tr("no probation")),

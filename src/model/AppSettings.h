@@ -7,7 +7,7 @@
 #include <QList>
 #include <QStringList>
 
-/// What the person has set up. A store holds one such record.
+/// The person's settings. A store holds one such record.
 class AppSettings {
     Q_DECLARE_TR_FUNCTIONS(AppSettings)
 
@@ -19,19 +19,19 @@ public:
     AppSettings& operator=(const AppSettings&) = delete;
     ~AppSettings() = default;
 
-    /// The goals that a new record starts with, described in the person's language: built once per process and shared
-    /// by every new record.
+    /// The goals of a new record, described in the person's language. Built once per process and shared by all new
+    /// records.
     [[nodiscard]] static const Goals& defaultGoals();
 
-    /// Adds a goal without a description and sorts all goals by value. False, and nothing is changed, when the text is
-    /// none that a Goal is created with; a goal that is in the list already is not added again.
+    /// Adds a goal without a description and sorts all goals by value. False, with nothing changed, if no goal can be
+    /// created from the text. A goal that is in the list already is not added again.
     [[nodiscard]] bool addGoal(const QString& daysPerWeek);
     void removeGoal(const Goal& goal);
 
     QProperty<Goals> daysPerWeekGoals{defaultGoals()};
-    /// Names of the Wi-Fi networks that stand for the office, as they were found or typed.
+    /// Names of the office's Wi-Fi networks, as they were found or typed.
     QProperty<QStringList> inOfficeSsids;
-    /// The first-run welcome has not been completed.
+    /// The welcome of the first run has not been completed.
     QProperty<bool> firstTime{true};
     QProperty<bool> wifiTrackingEnabled{false};
     QProperty<bool> vacationDaysCountAsInOffice{false};

@@ -6,7 +6,7 @@
 #include <array>
 #include <optional>
 
-/// What a person did, or plans, on one day. The enumerators are spelled as they are stored.
+/// What a person did, or plans to do, on one day. The enumerators are spelled as they are stored.
 enum class DayState { UNKNOWN, IN_OFFICE, OUT_OF_OFFICE, VACATION_DAY, WILL_BE_IN_OFFICE };
 
 /// Every state in declaration order, which is also the order in which a click cycles through them.

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-/// The years that the calendar can be moved through.
+/// The range of years that the calendar shows.
 inline constexpr int firstYear = 1;
 inline constexpr int lastYear = 9999;
 
@@ -16,7 +16,7 @@ struct YearQuarter {
     int quarter = 0;
 
     [[nodiscard]] std::array<int, 3> months() const { return {3 * quarter - 2, 3 * quarter - 1, 3 * quarter}; }
-    /// The neighbours; none before the first and after the last quarter of the calendar.
+    /// The neighbours; nothing before the first and after the last quarter of the calendar.
     [[nodiscard]] std::optional<YearQuarter> previous() const;
     [[nodiscard]] std::optional<YearQuarter> next() const;
 

@@ -15,7 +15,7 @@ double daysPerWeek(qint64 days, qint64 workdays)
     return static_cast<double>(days) / static_cast<double>(workdays) * workdaysPerWeek;
 }
 
-// Every cell counts, as in the count of office days: only workdays leave the filler cells out.
+// Counts every cell, as the count of office days does: only the count of workdays leaves out the filler cells.
 qint64 plannedCount(const Month& month)
 {
     return std::ranges::count(month.days.value(), DayState::WILL_BE_IN_OFFICE, &Day::state);
@@ -49,7 +49,7 @@ double highestValue(const QList<ValuedGoal>& goals)
     return goals.isEmpty() ? 0.0 : std::ranges::max(goals, {}, &ValuedGoal::value).value;
 }
 
-// 0/0, which a bar without a scale makes, is drawn as nothing.
+// A bar without a scale makes 0/0, which is drawn as nothing.
 double clampedFraction(double fraction)
 {
     return fraction > 0.0 ? std::min(fraction, 1.0) : 0.0;

@@ -15,22 +15,22 @@ struct ValuedGoal {
     double value = 0.0;
 };
 
-/// How far a person stands in a period of one or more months. Averages are office days per week of five workdays:
+/// The figures of a period of one or more months. Averages are office days per week of five workdays:
 /// days / workdays * 5. A period without workdays has no finite average.
 struct AttendanceStatistics {
     qint64 workdays = 0;
-    /// Days in the office; vacation days too where they are to count as such.
+    /// Days in the office, with vacation days if these count as such.
     qint64 inOffice = 0;
     qint64 planned = 0;
     double average = 0.0;
-    /// The average with the planned days added; 0 when planned days are not to be shown.
+    /// The average with the planned days added; 0 if planned days are not shown.
     double prediction = 0.0;
     /// In list order.
     QList<ValuedGoal> validGoals;
-    /// The smallest goal above the average, the first of equal ones. When all are reached, the last in the list.
+    /// The smallest goal above the average, the first of equal ones; if all are reached, the last in the list.
     std::optional<ValuedGoal> targetGoal;
     double highestGoalValue = 0.0;
-    /// Office days that the target goal still needs; less than 0 when it is exceeded, 0 without a target.
+    /// Office days that the target goal still needs; negative if it is exceeded, 0 without a target.
     qint64 remainingDays = 0;
 };
 
@@ -38,11 +38,11 @@ struct AttendanceStatistics {
                                                         const AppSettings::Goals& daysPerWeekGoals,
                                                         bool vacationDaysCountAsInOffice, bool showWillBeInOfficeStats);
 
-/// The office days that an average of `value` days per week takes in a period: value * workdays / 5, rounded up.
-/// A result that is no 64-bit number stops the program.
+/// The office days that an average of `value` days per week needs in a period: value * workdays / 5, rounded up. A
+/// result beyond 64 bits stops the program.
 [[nodiscard]] qint64 neededDays(double value, qint64 workdays);
 
-/// Where things stand on a progress bar that ends at the highest goal, as fractions 0 to 1 of its width.
+/// Positions on a progress bar that ends at the highest goal, as fractions from 0 to 1 of its width.
 struct BarFractions {
     double progress = 0.0;
     double prediction = 0.0;
@@ -52,5 +52,5 @@ struct BarFractions {
 
 [[nodiscard]] BarFractions barFractions(const AttendanceStatistics& statistics);
 
-/// The average as it is shown: 0 where the period has no finite one.
+/// The average as it is shown: 0 if the period has no finite one.
 [[nodiscard]] double shownAverage(const AttendanceStatistics& statistics);

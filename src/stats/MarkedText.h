@@ -15,12 +15,12 @@ struct TextRun {
 /// A line of text in which some words are bold.
 using MarkedText = QList<TextRun>;
 
-/// Reads a pattern in which "**" switches bold on and off, then puts the arguments in the places of %1, %2, ...
-/// An argument is taken as it is: asterisks or percent signs in it mean nothing.
+/// Reads a pattern in which "**" switches bold on and off, then replaces %1, %2, ... by the arguments. Asterisks and
+/// percent signs in an argument are plain text.
 [[nodiscard]] MarkedText markedText(const QString& pattern, const QStringList& arguments);
 
 /// The text in Markdown, bold runs between double asterisks.
 [[nodiscard]] QString toMarkdown(const MarkedText& text);
 
-/// The words alone.
+/// The text without formatting.
 [[nodiscard]] QString toPlainText(const MarkedText& text);

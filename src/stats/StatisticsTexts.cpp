@@ -16,7 +16,7 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(AttendanceStatistics)
 };
 
-// A text has a form for each number of days, and takes that number as an int.
+// The plural form of a text is chosen by an int.
 constexpr qint64 largestNumber = std::numeric_limits<int>::max();
 
 int numberOf(qint64 days)

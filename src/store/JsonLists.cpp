@@ -21,10 +21,10 @@ QString textOf(const Json& json)
 
 qint64 numberOf(const Json& json)
 {
-    // The library keeps a number of 0 and more as an unsigned one, and would wrap it.
+    // The library keeps positive numbers as unsigned ones, and would let a large one wrap around.
     const bool isTooLarge = json.is_number_unsigned() && json.get<quint64>() > std::numeric_limits<qint64>::max();
     if (!json.is_number_integer() || isTooLarge)
-        throw StoreError(StoreError::tr("the number of a day is no whole number"));
+        throw StoreError(StoreError::tr("the number of a day is not an integer"));
     return json.get<qint64>();
 }
 
@@ -34,17 +34,17 @@ Day decodedDay(const Json& json)
     const QString raw = textOf(json.at("state"));
     const auto state = dayStateFromRawValue(raw);
     if (!state)
-        throw StoreError(StoreError::tr("\"%1\" is no state of a day").arg(raw));
+        throw StoreError(StoreError::tr("\"%1\" is not a day state").arg(raw));
     return {.id = id, .state = *state, .isWorkday = json.at("isWorkday").get_ref<const bool&>()};
 }
 
-// The library reports text that is no JSON, a missing key and a wrong type by exceptions of its own.
+// The library reports invalid JSON, missing keys and wrong types by exceptions of its own.
 template <class Item> QList<Item> decodedList(const std::string& text, Item (*decodedItem)(const Json&))
 {
     try {
         const Json json = Json::parse(text);
         if (!json.is_array())
-            throw StoreError(StoreError::tr("it is no list"));
+            throw StoreError(StoreError::tr("it is not a list"));
         QList<Item> items;
         items.reserve(static_cast<qsizetype>(json.size()));
         for (const Json& item : json)

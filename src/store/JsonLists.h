@@ -8,9 +8,9 @@
 
 #include <string>
 
-/// Lists that are stored inside a record, as JSON in UTF-8. A day is an object with the keys "id", "state" and
-/// "isWorkday", written in this order and all required. Reading is strict: a missing key, a wrong type or an unknown
-/// state throws a StoreError.
+/// Lists that are stored in one field, as JSON in UTF-8. A day is an object with the keys "id", "state" and
+/// "isWorkday", written in this order and all required. Decoding throws a StoreError for a missing key, a wrong type or
+/// an unknown state.
 
 [[nodiscard]] std::string encodedDays(const QList<Day>& days);
 [[nodiscard]] QList<Day> decodedDays(const std::string& json);

@@ -11,10 +11,10 @@ template <class List, class Decode, class Encode> void check(const std::string& 
         list = decoded(text);
     } catch (const StoreError& error) {
         if (error.description().isEmpty())
-            qFatal("It does not say why");
+            qFatal("It is refused without a reason");
     }
     if (decoded(encoded(list)) != list)
-        qFatal("What was read does not come back");
+        qFatal("What was written reads differently");
 }
 
 } // namespace

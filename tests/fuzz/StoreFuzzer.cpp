@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Adds a month and settings to a store. How many months there are then; none if it is refused.
+/// Adds a month and settings to a store. Returns how many months it has then, or 0 if it is refused.
 qsizetype monthsWithOneMore(const QString& path)
 {
     try {
@@ -26,14 +26,14 @@ qsizetype monthsWithOneMore(const QString& path)
         return months + 1;
     } catch (const StoreError& error) {
         if (error.description().isEmpty())
-            qFatal("It does not say why");
+            qFatal("It is refused without a reason");
         return 0;
     }
 }
 
 } // namespace
 
-/// Has the corpus start with a store. Its folder is the last argument.
+/// Puts a store into an empty corpus, whose folder is the last argument.
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer looks for this name
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) // NOLINT(readability-identifier-naming)
 {
@@ -51,13 +51,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data,
     const QByteArray input(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     QFile file(folder.filePath(u"Pellory.store"_s));
     if (!file.open(QFile::WriteOnly) || file.write(input) != input.size())
-        qFatal("There is no room for the store");
+        qFatal("The store cannot be put there");
     file.close();
     const qsizetype months = monthsWithOneMore(file.fileName());
     if (months == 0 && (!file.open(QFile::ReadOnly) || file.readAll() != input))
         qFatal("A refused store has changed");
     if (months != 0 && monthsWithOneMore(file.fileName()) != months + 1)
-        qFatal("What was written is not there");
+        qFatal("What was written is missing");
     if (QDir(folder.path()).count() != 3) // with "." and ".."
         qFatal("A file is left beside the store");
     return 0;
