@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DayEditor.h"
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "Month.h"
+#include "StoredMonths.h"
+#include "Testing.h"
+
+#include <QTemporaryDir>
+
+TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndTheMenuDoesNeither)
+{
+    const QTemporaryDir folder(inMemory);
+    ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
+    ModelContext& context = container.mainContext();
+    const auto november = findOrCreateMonth(context, {2026, 11, 20});
+    november->days = {{20, DayState::UNKNOWN, false}};
+    context.save();
+    DayEditor editor(context);
+    editor.setDayState(*november, 0, DayState::VACATION_DAY);
+    EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::VACATION_DAY, false}}));
+    EXPECT_TRUE(context.hasChanges());
+    editor.cycleDayState(*november, 0);
+    EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::WILL_BE_IN_OFFICE, true}}));
+    EXPECT_FALSE(context.hasChanges());
+}
+
+TEST(MarkingTest, aQuarterTakesTheFirstOfDuplicatesAndOthersRefuseThem)
+{
+    const QTemporaryDir folder(inMemory);
+    ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
+    ModelContext& context = container.mainContext();
+    for (int i = 0; i < 2; ++i)
+        context.insert(std::make_shared<Month>(2026, 11));
+    EXPECT_EQ(quarterMonths(context, {2026, 4}).size(), 3);
+    EXPECT_EQ(context.fetchMonths().size(), 4);
+    EXPECT_THROW((void)findOrCreateMonth(context, {2026, 11, 20}), DuplicateMonthError);
+}
