@@ -47,6 +47,8 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
                                          u"19 Nov 2026 09:00:00"_s, u"Next check"_s,
                                          isTracking ? u"09:30:00"_s : u"None"_s));
     }
+    check.nextCheck = clock.now().addSecs(3600);
+    EXPECT_EQ(shownTexts(*popover).last(), u"10:00:00"_s);
     settings->firstTime = true;
     check.lastCheck = QDateTime();
     EXPECT_EQ(shownTexts(*popover).count(u"None"_s), 2);

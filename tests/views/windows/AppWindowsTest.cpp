@@ -53,15 +53,24 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible), 3);
     press(*shown<SettingsView>(), Qt::Key_Escape);
     press(*shown<HelpView>()->window(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(shown<SettingsView>(), nullptr);
+    EXPECT_EQ(shown<HelpView>(), nullptr);
     windows.openDay({2025, 2, 3});
     ASSERT_EQ(shown<ContentView>(), main);
     EXPECT_TRUE(eventually([&] { return main->findChild<CalendarView*>()->focusedDay() == 3; }));
     EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2025, 2}));
     main->resize(700, 640);
-    EXPECT_EQ(closed.size(), 0);
-    press(*main, Qt::Key_W, Qt::ControlModifier);
-    windows.openMain(); // before the other is deleted
+    windows.open(WindowId::settings);
+    shown<SettingsView>()->close();
+    main->close();
+    windows.openMain(); // before the closed ones are deleted
+    windows.open(WindowId::settings);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(shown<SettingsView>(), nullptr);
+    ASSERT_NE(shown<ContentView>(), nullptr);
     EXPECT_EQ(shown<ContentView>()->size(), QSize(700, 640));
+    EXPECT_EQ(closed.size(), 0);
+    shown<SettingsView>()->close();
     shown<ContentView>()->close();
     EXPECT_TRUE(eventually([&] { return closed.size() == 1; }));
 }
@@ -123,6 +132,7 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
         push(*welcome, "grant");
         EXPECT_EQ(welcome->findChild<QWidget*>(u"welcome"_s), nullptr) << "which starts the first run";
         EXPECT_FALSE(shownTexts(*welcome).contains(u"Automatic In Office Tracking"_s));
+        push(*welcome, "back");
         settings->notificationsEnabled = completes;
         push(*welcome, "skip");
         EXPECT_EQ(shownTexts(*welcome).contains(u"Notifications are on"_s), completes);

@@ -60,6 +60,8 @@ TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
             EXPECT_EQ(month.period().month, isQuarter && isNext ? 12 : 11);
             EXPECT_EQ(quarter.quarter().quarter, !isQuarter && isNext ? 1 : 4);
         }
+        press(window, isQuarter ? Qt::Key_2 : Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(window.findChildren<CalendarPage*>().size(), 2);
         EXPECT_EQ(painted.size(), 1);
     }
 }
