@@ -8,8 +8,6 @@ pellory_test(views
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
-add_dependencies(views_test pellory_app) # which compiles the translations
-target_compile_definitions(views_test PRIVATE GERMAN_TEXTS="${PROJECT_BINARY_DIR}/src/app/pellory_de.qm")
 pellory_test(life
     SOURCES life/MonthsOfRunningTest.cpp support/FakeWiFiClient.h support/WindowTestMain.cpp
     LINKS Pellory::windows Pellory::platform_linux Qt6::Test

@@ -15,24 +15,6 @@ protected:
         show(quarterPage);
     }
 
-    /// Turns a page by its button. Returns whether the button was enabled.
-    static bool turn(QWidget& page, bool forward)
-    {
-        const auto& button = named<QAbstractButton>(page, forward ? "next" : "previous");
-        const bool isEnabled = button.isEnabled();
-        show(page);
-        click(button);
-        return isEnabled;
-    }
-
-    /// The first and the last month on a page, by the grids that show them.
-    static QList<YearMonth> monthsOf(const QWidget& page)
-    {
-        const auto calendars = page.findChildren<CalendarView*>();
-        const auto shown = [](const CalendarView& view) { return YearMonth{view.month()->year, view.month()->month}; };
-        return {shown(*calendars.first()), shown(*calendars.last())};
-    }
-
     MonthView monthPage{context, *settings, viewSettings, clock};
     QuarterView quarterPage{context, *settings, viewSettings, clock};
     QWidget* const pages[2]{&monthPage, &quarterPage};
@@ -40,22 +22,30 @@ protected:
 
 TEST_F(PagesTest, turnWithinTheCalendar)
 {
-    const std::tuple<YearMonth, bool, YearMonth, YearQuarter> rows[]{
-        {{2025, 12}, true, {2026, 1}, {2026, 1}}, {{2026, 9}, false, {2026, 8}, {2026, 2}},
-        {{1, 3}, true, {1, 4}, {1, 2}},           {{9999, 10}, false, {9999, 9}, {9999, 3}},
-        {{1, 1}, false, {1, 1}, {1, 1}},          {{9999, 12}, true, {9999, 12}, {9999, 4}},
-    };
     EXPECT_EQ(monthPage.period(), (YearMonth{2026, 11}));
     EXPECT_EQ(quarterPage.quarter(), (YearQuarter{2026, 4}));
-    for (const auto& [from, forward, toMonth, toQuarter] : rows) {
-        SCOPED_TRACE(testing::Message() << from.year << '-' << from.month);
-        monthPage.showMonth(from);
-        quarterPage.showQuarter(from.quarter());
-        EXPECT_EQ(turn(monthPage, forward), toMonth != from);
-        EXPECT_EQ(turn(quarterPage, forward), toQuarter != from.quarter());
-        const auto [first, middle, last] = toQuarter.months();
-        EXPECT_EQ(monthsOf(monthPage), QList({toMonth, toMonth}));
-        EXPECT_EQ(monthsOf(quarterPage), (QList<YearMonth>{{toQuarter.year, first}, {toQuarter.year, last}}));
+    // Two dates that are a page apart.
+    const std::tuple<CalendarPage&, QDate, QDate> rows[]{
+        {monthPage, {2025, 12, 1}, {2026, 1, 1}},  {monthPage, {1, 1, 1}, {1, 2, 1}},
+        {monthPage, {9999, 11, 1}, {9999, 12, 1}}, {quarterPage, {2025, 12, 1}, {2026, 1, 1}},
+        {quarterPage, {1, 3, 1}, {1, 4, 1}},       {quarterPage, {9999, 9, 1}, {9999, 10, 1}},
+    };
+    for (const auto& [page, before, after] : rows) {
+        SCOPED_TRACE(before.toString(Qt::ISODate).toStdString());
+        show(page);
+        const auto& previous = named<QAbstractButton>(page, "previous");
+        const auto& next = named<QAbstractButton>(page, "next");
+        const auto periods = [&] { return std::pair(monthPage.period(), quarterPage.quarter()); };
+        page.showDay(after);
+        const auto later = periods();
+        EXPECT_EQ(next.isEnabled(), after.year() < 9999);
+        click(previous);
+        EXPECT_EQ(previous.isEnabled(), before.year() > 1);
+        const auto earlier = periods();
+        page.showDay(before);
+        EXPECT_EQ(periods(), earlier);
+        click(next);
+        EXPECT_EQ(periods(), later);
     }
 }
 
