@@ -31,8 +31,9 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
     // The setting leaves the label that is shown, and keeps new ones away.
     rest(friday);
     viewSettings.showStatusLabelOnHover = false;
-    rest(19);
-    EXPECT_EQ(labels().size(), 1);
+    rest(18);
+    ASSERT_EQ(labels().size(), 1);
+    EXPECT_EQ(labels().first()->findChild<QPropertyAnimation*>()->endValue().toReal(), 1.0);
     view.setMonth(november);
     EXPECT_TRUE(eventually([&] { return labels().isEmpty(); }));
 }
