@@ -2,7 +2,8 @@
 pellory_test(views
     SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
         views/calendar/CalendarViewTest.cpp views/calendar/DayClickTest.cpp views/calendar/HoverTest.cpp
-        views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
+        views/help/LegendViewTest.cpp views/look/ThemeTest.cpp
+        views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp
         views/windows/AppWindowsTest.cpp views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
