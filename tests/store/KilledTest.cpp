@@ -53,7 +53,7 @@ protected:
         readUpTo(numbers() % 3);
         std::this_thread::sleep_for(std::chrono::microseconds(numbers() % 20'000)); // about two marks
         int status = 0;
-        EXPECT_TRUE(kill(child, SIGKILL) == 0 && waitpid(child, &status, 0) == child && status == SIGKILL);
+        EXPECT_TRUE(child > 0 && kill(child, SIGKILL) == 0 && waitpid(child, &status, 0) == child && status == SIGKILL);
         readUpTo(UINT_MAX);
         close(ends[0]);
         return acknowledged;
