@@ -73,11 +73,11 @@ void Switch::paintTrack(QPainter& painter, const QRectF& track) const
     painter.drawRoundedRect(track.adjusted(0.75, 0.75, -0.75, -0.75), radius, radius);
 
     const bool knobIsRight = isChecked() == (layoutDirection() == Qt::LeftToRight);
-    const qreal diameter = track.height() - 2.0 * knobInset;
-    const qreal left = knobIsRight ? track.right() - knobInset - diameter : track.left() + knobInset;
+    const qreal knobSize = track.height() - 2.0 * knobInset;
+    const qreal left = knobIsRight ? track.right() - knobInset - knobSize : track.left() + knobInset;
     painter.setPen(Qt::NoPen);
     painter.setBrush(isChecked() ? QColor(Qt::white) : theme.dimText);
-    painter.drawEllipse(QRectF(left, track.top() + knobInset, diameter, diameter));
+    painter.drawEllipse(QRectF(left, track.top() + knobInset, knobSize, knobSize));
 
     m_focusVisible.drawRing(painter, *this, track.adjusted(-2.5, -2.5, 2.5, 2.5), radius + 2.5);
 }
