@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
 #include <QDBusConnection>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 
-#include <sqlite3.h>
+#include <SQLiteCpp/SQLiteCpp.h>
 
 // Ingredients <store>
 //
-// What the ingredients of Pellory cost any program: a window of its size with a line of text, an open store, and a
-// connection to each bus.
+// What the ingredients of Pellory cost any program: a window of its size with a line of text in the two weights that
+// Pellory writes in, a store opened with the same library, and a connection to each bus.
 
 namespace {
 
-void openStore(const char* path)
+/// SQLite does not read the file before the first query.
+SQLite::Database openStore(const char* path)
 {
-    sqlite3* store = nullptr;
-    // SQLite does not read the file before the first query. The connection stays open, as in Pellory.
-    if (sqlite3_open_v2(path, &store, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK ||
-        sqlite3_exec(store, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr) != SQLITE_OK)
-        qFatal("The store cannot be opened: %s", sqlite3_errmsg(store));
+    SQLite::Database store(path, SQLite::OPEN_READWRITE);
+    store.execAndGet("SELECT count(*) FROM sqlite_schema");
+    return store;
 }
 
 void connectToBuses()
@@ -28,16 +28,29 @@ void connectToBuses()
         qFatal("The buses cannot be reached");
 }
 
+QWidget* lineOfText()
+{
+    auto* line = new QWidget;
+    auto* layout = new QHBoxLayout(line);
+    layout->addWidget(new QLabel(QStringLiteral("4 days in the office this")));
+    auto* word = new QLabel(QStringLiteral("month"));
+    QFont bold = word->font();
+    bold.setBold(true);
+    word->setFont(bold);
+    layout->addWidget(word);
+    return line;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
-    openStore(argv[1]);
+    const SQLite::Database store = openStore(argv[1]);
     connectToBuses();
     QMainWindow window;
-    window.setCentralWidget(new QLabel(QStringLiteral("November 2026")));
+    window.setCentralWidget(lineOfText());
     window.resize(534, 860);
     window.show();
     return QApplication::exec();
