@@ -18,13 +18,13 @@ public:
 class FakeLoginItem : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override { return enabled; }
-    void registerItem() override
+    void registerItem() override { enabled = true; }
+    void unregisterItem() override
     {
         if (isBroken)
             throw PlatformError(u"no room"_s);
-        enabled = true;
+        enabled = false;
     }
-    void unregisterItem() override { enabled = false; }
 
     bool enabled = false;
     bool isBroken = false;
