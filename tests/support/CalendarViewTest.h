@@ -16,20 +16,17 @@ protected:
         show(view);
     }
 
-    [[nodiscard]] DayState state(int day) const { return dayIn(*november, day).state; }
     [[nodiscard]] Day dayOnDisk(int day) const
     {
-        return dayIn(*ModelContainer({.name = {}, .path = path}).mainContext().fetchMonths(2026, 11).at(0), day);
+        ModelContainer reread({.name = {}, .path = path});
+        return reread.mainContext().fetchMonths(2026, 11).first()->days.value().at(day - 1);
     }
 
     /// What is painted in the middle of a button, so far below the top of its face.
     [[nodiscard]] static QColor painted(CommandClickableButton& button, int belowTop)
     {
-        const QRect face = button.face();
-        return button.grab().toImage().pixelColor(face.center().x(), face.top() + belowTop);
+        return button.grab().toImage().pixelColor(button.face().center().x(), button.face().top() + belowTop);
     }
-
-    [[nodiscard]] static Day dayIn(const Month& month, int day) { return month.days.value().at(*month.indexOf(day)); }
 
     const std::shared_ptr<Month> november = month(2026, 11);
     CalendarView view{context, viewSettings, clock};

@@ -3,7 +3,6 @@
 #include "CalendarTest.h"
 
 #include <QGridLayout>
-#include <QMap>
 
 class LegendViewTest : public CalendarTest {};
 
@@ -11,22 +10,14 @@ TEST_F(LegendViewTest, showsTheColoursOfTheCalendarWithTheirNames)
 {
     LegendView legend(viewSettings);
     show(legend);
-    auto* grid = qobject_cast<QGridLayout*>(legend.layout());
-    QMap<QString, QColor> found;
-    for (int row = 0; row < grid->rowCount(); ++row) {
-        const auto *swatch = grid->itemAtPosition(row, 0), *text = grid->itemAtPosition(row, 2);
-        if (swatch != nullptr && text != nullptr && text->widget() != swatch->widget())
-            found[text->widget()->property("text").toString()] = swatch->widget()->grab().toImage().pixelColor(14, 10);
-    }
-    const Theme& theme = themeFor(ColorScheme::Light);
-    const std::pair<QString, QColor> rows[]{
-        {u"Unknown"_s, theme.unknown},
-        {u"In the Office"_s, theme.inOffice},
-        {u"Out of Office"_s, theme.outOfOffice},
-        {u"Vacation Day"_s, theme.vacationDay},
-        {u"Will Be In Office"_s, theme.willBeInOffice},
-        {u"Weekend Day"_s, theme.nonWorkday},
+    const auto& grid = *qobject_cast<QGridLayout*>(legend.layout());
+    const auto expectRow = [&](int row, const QString& text, const Day& day) {
+        EXPECT_EQ(grid.itemAtPosition(row, 2)->widget()->property("text"), text);
+        EXPECT_EQ(grid.itemAtPosition(row, 0)->widget()->grab().toImage().pixelColor(14, 10),
+                  dayColor(themeFor(ColorScheme::Light), day));
     };
-    for (const auto& [text, colour] : rows)
-        EXPECT_EQ(found.value(text), colour) << qPrintable(text);
+    int row = 0;
+    for (const DayState state : allDayStates)
+        expectRow(++row, description(state), {1, state, true});
+    expectRow(++row, u"Weekend Day"_s, {1});
 }
