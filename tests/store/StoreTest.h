@@ -1,59 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "AppSettings.h"
-#include "JsonLists.h"
 #include "Marking.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
+#include "RecordFields.h"
 #include "ReleasedStore.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "Testing.h"
 
-#include <QDebug>
 #include <QTemporaryDir>
 
 #include <SQLiteCpp/Database.h>
 
-#include <iostream>
-#include <random>
+#include <algorithm>
 
-/// How many times as much as usual is asked of a test that kills or damages.
-inline const int torture = std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
-
-/// Random numbers, different in every run. A run is repeated by its seed in the environment.
-inline std::mt19937 randomNumbers()
+/// Every record that a context knows, as it is stored.
+inline std::vector<Row> contents(ModelContext& context)
 {
-    const unsigned given = qEnvironmentVariable("PELLORY_SEED").toUInt();
-    const unsigned seed = given != 0 ? given : std::random_device()();
-    std::cout << "PELLORY_SEED=" << seed << std::endl;
-    return std::mt19937(seed);
-}
-
-/// Every field of every record that a context knows.
-inline QStringList contents(ModelContext& context)
-{
-    const auto line = [](const auto&... fields) {
-        QString text;
-        (QDebug(&text) << ... << fields.value());
-        return text;
+    std::vector<Row> rows;
+    const auto add = [&rows](const auto& fields, const auto& records) {
+        for (const auto& record : records)
+            rows.push_back(fields.row(*record));
     };
-    QStringList lines;
-    for (const auto& month : context.fetchMonths())
-        lines += line(month->year, month->month, month->name, month->daysInMonth) +
-                 QString::fromStdString(encodedDays(month->days));
-    for (const auto& goal : context.fetchGoals())
-        lines += goal->id.toString() + line(goal->wantedDaysPerWeek, goal->desc);
-    for (const auto& settings : context.fetchSettings()) {
-        lines +=
-            line(settings->inOfficeSsids, settings->firstTime, settings->wifiTrackingEnabled,
-                 settings->vacationDaysCountAsInOffice, settings->notificationsEnabled, settings->checkEveryInMinutes);
-        for (const auto& goal : settings->daysPerWeekGoals.value())
-            lines.last() += goal->id.toString();
-    }
-    lines.sort();
-    return lines;
+    add(monthFields(), context.fetchMonths());
+    add(goalFields(), context.fetchGoals());
+    add(settingsFields(), context.fetchSettings());
+    std::ranges::sort(rows);
+    return rows;
 }
 
 /// A store in a folder of its own.
@@ -76,7 +51,7 @@ protected:
         }
     }
 
-    [[nodiscard]] QStringList stored() const { return contents(open()->mainContext()); }
+    [[nodiscard]] std::vector<Row> stored() const { return contents(open()->mainContext()); }
 
     /// A connection beside the store's own.
     [[nodiscard]] SQLite::Database connection() const { return {path.toStdString(), SQLite::OPEN_READWRITE}; }

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <csignal>
-#include <iostream>
 #include <map>
 
 #include <sqlite3.h>
@@ -58,7 +57,6 @@ public:
                 counts.at(call) = number - 1;
             }
         }
-        std::cout << "Open, write, sync, truncate, delete: " << testing::PrintToString(counts) << std::endl;
         return counts;
     }
 

@@ -13,9 +13,3 @@ inline void mark(Month& month, int dayId, DayState state)
     }
     month.days = days;
 }
-
-/// Makes one mark of an endless sequence that changes the same days again and again.
-inline void makeSequencedMark(Month& month, int number)
-{
-    mark(month, 1 + number % 28, allDayStates.at(static_cast<std::size_t>(1 + number) % allDayStates.size()));
-}
