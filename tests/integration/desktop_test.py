@@ -15,14 +15,12 @@ import dbus.bus
 
 PATIENCE = 30
 PROGRAM, NAME = os.environ["PELLORY_PROGRAM"], "io.github.pellory.Pellory"
-READER, NOTIFICATIONS, WATCHER = "org.a11y.Bus", "org.freedesktop.Notifications", "org.kde.StatusNotifierWatcher"
+READER, NOTIFICATIONS, DUNST = "org.a11y.Bus", "org.freedesktop.Notifications", "org.dunstproject.cmd0"
+WATCHER = "org.kde.StatusNotifierWatcher"
 REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 ACCESSIBLE, ACTION, PROPERTIES = "org.a11y.atspi.Accessible", "org.a11y.atspi.Action", "org.freedesktop.DBus.Properties"
 ACTIVE, FOCUSABLE, SHOWING = 1 << 1, 1 << 11, 1 << 25
 ROLES = {"dialog", "frame", "window", "check box", "page tab", "page tab list", "push button", "text"}
-CONTROLS = ("Skip|Back|Next|Done|Month|Quarter|Tracking Off|Calendar View Settings|Settings|Help|New goal|Scan|"
-            "Show Progress Trackers|Show Quarter Stats|Show Month Stats|Show day status on hover|Run In-Office Check|"
-            'Show "Will be In Office" in Progress Tracker|Launch at login|Check Every (mins)').split("|")
 Node = namedtuple("Node", "window name states place")
 
 
@@ -105,6 +103,13 @@ class DesktopTest(unittest.TestCase):
             self.tell(eventually(lambda: self.shown(name, FOCUSABLE))[0].place, ACTION, "DoAction", "i", 0)
         eventually(then if callable(then) else lambda: self.shown(then))
 
+    def track(self, *wrapper, then):
+        """Starts the program, skips the first run and turns tracking on."""
+        program = self.start(*wrapper, PROGRAM)
+        self.press("Skip", "Done", then=lambda: self.titles() == ["Pellory"])
+        self.press("Settings", "Office Networks", "Enable Automatic Tracking", then=then)
+        return program
+
     def on_display(self, program, title="", *command):
         search = ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(program.pid), "--name", f"^{title}"]
         return subprocess.run(search + [*command], env=self.environment, capture_output=True, timeout=PATIENCE).stdout
@@ -130,7 +135,6 @@ class DesktopTest(unittest.TestCase):
                 if not window or states & FOCUSABLE or self.tell(place, ACTION, "GetActions") and role != "scroll bar":
                     controls.add((window, role, name))
         self.assertEqual([control for control in controls if not control[2].strip() or control[1] not in ROLES], [])
-        self.assertLessEqual(set(CONTROLS), {name for _, _, name in controls})
         self.assertEqual(len({window for window, _, _ in controls}), 6)
         self.assertGreaterEqual(len([name for _, _, name in controls if name.endswith(", Unknown")]), 90)
 
@@ -138,16 +142,10 @@ class DesktopTest(unittest.TestCase):
         server = self.mock(NOTIFICATIONS, "/org/freedesktop/Notifications", "-t", "notification_daemon",
                            "-p", '{"capabilities": "body actions"}')
         told = partial(server, "GetMethodCalls", "s", "Notify")
-        tracking = ("Settings", "Office Networks", "Enable Automatic Tracking")
-        program = self.start(PROGRAM)
-        self.press("Skip", "Done", then=lambda: self.titles() == ["Pellory"])
-        self.press(*tracking, then="Wi-Fi or Location Off")
+        program = self.track(then="Wi-Fi or Location Off")
         self.assert_handed_over(program)
         self.close_windows(program, "Settings", "Pellory")
         self.assertIn("keeps checking in the background", eventually(told)[0][1][4])
-        server("EmitSignal", "sssav", NOTIFICATIONS, "ActionInvoked", "us", [dbus.UInt32(1), "default"])
-        eventually(lambda: self.on_display(program, "Pellory"))
-        self.close_windows(program, "Pellory")
         self.assert_handed_over(program)
         program.kill()
         program.wait(PATIENCE)
@@ -158,7 +156,7 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(len(told()), 2)
         self.assertEqual(self.start(PROGRAM, "--check-now").wait(PATIENCE), 0)
         eventually(lambda: program.said().count("Checking if in office via Wi-Fi") == 2)
-        self.press(*tracking, then="Tracking Off")
+        self.press("Settings", "Office Networks", "Enable Automatic Tracking", then="Tracking Off")
         self.close_windows(program, "Pellory", "Settings")
         self.assertEqual(program.wait(PATIENCE), 0)
 
@@ -185,8 +183,7 @@ class DesktopTest(unittest.TestCase):
         [(_, [item])] = eventually(items)
         self.assertEqual((self.titles(), self.on_display(program)), ([], b""))
         shown = self.tell((item, "/StatusNotifierItem"), PROPERTIES, "GetAll", "s", "org.kde.StatusNotifierItem")
-        corners = [bytes(pixels[:4]) for _, _, pixels in shown["IconPixmap"]]
-        self.assertEqual((shown["IconName"], corners), (symbolic.stem, [bytes(4)] * 2))
+        self.assertEqual((shown["IconName"], len(shown["IconPixmap"])), (symbolic.stem, 2))
         self.assert_handed_over(program)
         self.press("Help", then=lambda: self.titles(ACTIVE) == ["Help"])
         self.tell((item, "/StatusNotifierItem"), "org.kde.StatusNotifierItem", "Activate", "ii", 0, 0)

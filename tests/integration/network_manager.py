@@ -1,9 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A dbusmock template: NetworkManager with Wi-Fi radios that scan.
-
-It adds scans, permissions, raw names and the changes that a person makes to the template of dbusmock. Times are seconds
-of CLOCK_BOOTTIME, as in NetworkManager.
-"""
+"""A dbusmock template: NetworkManager with Wi-Fi radios that scan. Times are seconds of CLOCK_BOOTTIME, as there."""
 
 import time
 

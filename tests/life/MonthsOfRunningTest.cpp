@@ -4,7 +4,6 @@
 #include "SystemClock.h"
 #include "ViewTest.h"
 
-#include <QSignalSpy>
 #include <QTimeZone>
 #include <QTimer>
 
@@ -45,15 +44,11 @@ QDate workdayBefore(QDate date)
     return date.addDays(-days);
 }
 
-auto entriesOf(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
-}
-
 // Not counting the one file of each thread: the toolkit starts threads whenever it has much to paint.
 auto openFiles()
 {
-    return entriesOf(u"/proc/self/fd"_s) - entriesOf(u"/proc/self/task"_s);
+    const auto all = QDir::AllEntries | QDir::System;
+    return QDir(u"/proc/self/fd"_s).entryList(all).size() - QDir(u"/proc/self/task"_s).entryList(all).size();
 }
 
 // Nothing here comes from outside this process, so a few turns of its event loop are enough.
@@ -112,15 +107,11 @@ protected:
     void expectToday()
     {
         const QDate date = dateOnTheWall();
-        if (shown.month() != date.month())
+        if (std::exchange(shown, date).month() != date.month())
             window.showDay(date);
-        dates += std::exchange(shown, date) != date;
-        QStringList ringed;
-        for (const auto* day : window.findChildren<CommandClickableButton*>()) {
-            if (day->isVisible() && day->isRinged())
-                ringed += day->accessibleName().section(u',', 0, 0);
-        }
-        ASSERT_EQ(ringed, QStringList(QLocale().toString(date, u"dddd d MMMM yyyy"_s)));
+        const auto days = window.findChildren<CommandClickableButton*>();
+        ASSERT_TRUE(dayButton(window, date.day()).isRinged());
+        ASSERT_EQ(std::ranges::count_if(days, &CommandClickableButton::isRinged), 1);
         ASSERT_EQ(storedMarks(context), expected);
     }
 
@@ -131,7 +122,7 @@ protected:
     ContentView window{liveParts};
     Marks expected;
     QDate shown;
-    int checks = 0, dates = -1;
+    int checks = 0;
 };
 
 TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
@@ -139,7 +130,6 @@ TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
     liveCheck.start();
     const auto files = openFiles();
     show(window);
-    const QSignalSpy newDay(&systemClock, &Clock::dayChanged);
     expectCheck();
     double memory = 0;
     for (int day = 0; day < 90 && !HasFatalFailure(); ++day) {
@@ -159,7 +149,6 @@ TEST_P(MonthsOfRunningTest, leaveTodayTheMarksAndTheMemoryRight)
             pass(30min);
     }
     EXPECT_GT(expected.size(), 60);
-    EXPECT_EQ(newDay.size(), dates); // and of nothing else it has told
     // A thread that has just been started has yet to open its file.
     EXPECT_TRUE(eventually([&] { return openFiles() == files; })) << openFiles() - files << " more files are open";
     // A few new months are in memory, but nothing of every check. With the sanitizers, which look for leaks themselves,

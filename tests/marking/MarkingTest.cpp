@@ -8,7 +8,7 @@
 
 #include <QTemporaryDir>
 
-TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndTheMenuDoesNeither)
+TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicates)
 {
     const QTemporaryDir folder(inMemory);
     ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
@@ -23,16 +23,8 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndTheMenuDoesNeither)
     editor.cycleDayState(*november, 0);
     EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::WILL_BE_IN_OFFICE, true}}));
     EXPECT_FALSE(context.hasChanges());
-}
-
-TEST(MarkingTest, aQuarterTakesTheFirstOfDuplicatesAndOthersRefuseThem)
-{
-    const QTemporaryDir folder(inMemory);
-    ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
-    ModelContext& context = container.mainContext();
-    for (int i = 0; i < 2; ++i)
-        context.insert(std::make_shared<Month>(2026, 11));
-    EXPECT_EQ(quarterMonths(context, {2026, 4}).size(), 3);
+    context.insert(std::make_shared<Month>(2026, 11));
+    EXPECT_EQ(quarterMonths(context, {2026, 4}).first()->month, 10);
     EXPECT_EQ(context.fetchMonths().size(), 4);
     EXPECT_THROW((void)findOrCreateMonth(context, {2026, 11, 20}), DuplicateMonthError);
 }
