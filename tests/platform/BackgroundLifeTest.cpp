@@ -2,7 +2,6 @@
 #include "AutostartEntry.h"
 #include "LaunchAtLogin.h"
 #include "PrivateBuses.h"
-#include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusNotifierHost.h"
 
@@ -16,20 +15,17 @@ using Request = SingleInstance::Request;
 TEST(LaunchAtLoginTest, isReadFromTheFileAsTheDesktopReadsIt)
 {
     const QTemporaryDir folder;
+    qputenv("HOST_XDG_CONFIG_HOME", folder.filePath(u"new"_s).toUtf8()); // the desktop's outside a sandbox
+    AutostartEntry::ofThisProgram(folder.path()).registerItem();
     QFile file(folder.filePath(u"new/autostart/io.github.pellory.Pellory.desktop"_s));
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("Exec=\"flatpak\" \"run\" \"io.github.pellory.Pellory\" --at-login\n"));
     AutostartEntry entry(folder.filePath(u"new"_s), {uR"(/opt/a b/%f "$HOME" `\)"_s}), nowhere(file.fileName(), {});
-    LaunchAtLogin login(entry), broken(nowhere);
-    const QSignalSpy announced(&login, &LaunchAtLogin::willChange);
-    testing::internal::CaptureStderr();
-    for (const bool isWanted : {false, true, true}) {
-        login.setEnabled(isWanted);
-        EXPECT_EQ(login.isEnabled(), isWanted);
-    }
-    EXPECT_EQ(announced.size(), 3);
-    EXPECT_FALSE(QFile::permissions(QFileInfo(file).path()) & QFile::Permissions(0x77));
+    LaunchAtLogin login(entry);
+    login.setEnabled(true);
+    file.close();
     ASSERT_TRUE(file.open(QFile::ReadWrite));
     const QByteArray all = file.readAll();
-    EXPECT_TRUE(all.startsWith("[Desktop Entry]\nType=Application\nName=Pellory\n"));
     EXPECT_TRUE(all.contains(R"(Exec="/opt/a b/%%f \\"\\$HOME\\" \\`\\\\" --at-login)")) << all.constData();
     for (const auto& [text, isEnabled] :
          {std::pair(all + "Hidden = true \r\n", false),
@@ -40,25 +36,7 @@ TEST(LaunchAtLoginTest, isReadFromTheFileAsTheDesktopReadsIt)
         EXPECT_TRUE(file.resize(0) && file.seek(0) && file.write(text) > 0 && file.flush());
         EXPECT_EQ(login.isEnabled(), isEnabled) << text.constData();
     }
-    broken.setEnabled(true);
-    broken.setEnabled(false);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "pellory.login: Failed to enable launch at login: File exists\n"
-              "pellory.login: Failed to disable launch at login: Not a directory\n");
-}
-
-TEST(LaunchAtLoginTest, isSetOutsideTheSandbox)
-{
-    const QTemporaryDir folder;
-    qputenv("HOME", folder.path().toUtf8());
-    qputenv("HOST_XDG_CONFIG_HOME", folder.filePath(u"host"_s).toUtf8());
-    for (const char* place : {"host", ".config"}) {
-        AutostartEntry::ofThisProgram(folder.path()).registerItem();
-        QFile file(folder.filePath(QString::fromLatin1(place) + u"/autostart/io.github.pellory.Pellory.desktop"_s));
-        EXPECT_TRUE(file.open(QFile::ReadOnly)) << place;
-        EXPECT_TRUE(file.readAll().contains("Exec=\"flatpak\" \"run\" \"io.github.pellory.Pellory\" --at-login\n"));
-        qunsetenv("HOST_XDG_CONFIG_HOME");
-    }
+    EXPECT_THROW(nowhere.registerItem(), PlatformError);
 }
 
 TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
@@ -66,44 +44,28 @@ TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
     const QTemporaryDir folder;
     qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
     qputenv("XDG_ACTIVATION_TOKEN", "token");
-    qunsetenv("DESKTOP_STARTUP_ID");
     const auto interface = u"org.freedesktop.Application"_s;
     MockService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
+    first.startMock({first.name, first.path, interface});
     for (const auto& [request, code, outcome] :
          {std::tuple(Request::None, "raise ValueError", Claim::HandedOver),
           {Request::Show, "assert args[-1] == {'activation-token': 'token'}", Claim::HandedOver},
           {Request::Check, "assert list(args[:2]) == ['run-check', []]", Claim::HandedOver},
           {Request::Show, "raise ValueError", Claim::Refused},
-          {Request::Check, "import os, signal; os.kill(os.getpid(), signal.SIGSTOP)", Claim::Refused},
           {Request::Show, "import os; os._exit(1)", Claim::Owned}}) {
-        first.startMock({first.name, first.path, interface});
         first.answer(interface, "Activate", "a{sv}", "", code);
         first.answer(interface, "ActivateAction", "sava{sv}", "", code);
         EXPECT_EQ(SingleInstance(200ms).claim(request), outcome) << code;
-        first.bus.unregisterService(first.name);
-        first.stop();
     }
-    const QDBusConnection noBus(u"none"_s);
+    first.bus.unregisterService(first.name);
     SingleInstance instance;
-    EXPECT_EQ(instance.claim(Request::Show, noBus), Claim::Owned);
-    EXPECT_EQ(SingleInstance().claim(Request::Show, noBus), Claim::Refused);
+    EXPECT_EQ(instance.claim(Request::Show, QDBusConnection(u"none"_s)), Claim::Owned);
+    EXPECT_EQ(SingleInstance().claim(Request::Show, QDBusConnection(u"none"_s)), Claim::Refused);
     QSignalSpy activated(&instance, &SingleInstance::activated);
     instance.Activate({});
     instance.Open({}, {{u"desktop-startup-id"_s, u"id"_s}});
     instance.ActivateAction(u"show"_s, {}, {{u"desktop-startup-id"_s, u"id"_s}, {u"activation-token"_s, u"token"_s}});
     EXPECT_EQ(activated, (QList<QVariantList>{{QString()}, {u"id"_s}, {u"token"_s}}));
-}
-
-TEST(QuitSignalsTest, areReportedAndRestored)
-{
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        auto signals = std::make_unique<QuitSignals>();
-        QSignalSpy requested(signals.get(), &QuitSignals::requested);
-        raise(signal);
-        EXPECT_TRUE(eventually([&] { return requested.size() == 1; })) << signal;
-        signals.reset();
-        EXPECT_EQ(std::signal(signal, SIG_DFL), SIG_DFL) << signal;
-    }
 }
 
 TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsAHost)
@@ -117,16 +79,14 @@ TEST(StatusNotifierHostTest, isThereWhileTheWatcherKnowsAHost)
     watcher.startMock();
     const auto property = u"IsStatusNotifierHostRegistered"_s;
     watcher.tell("AddProperty", watcher.name, property, QDBusVariant(false));
-    for (const auto& [isRegistered, signal, report] : {std::tuple(false, "Registered", ""),
-                                                       {true, "Registered", "+"},
-                                                       {true, "Unregistered", ""},
-                                                       {false, "Unregistered", "-"},
-                                                       {true, "Registered", "+"}}) {
+    for (const auto& [isRegistered, signal] : {std::pair(true, "StatusNotifierHostRegistered"),
+                                               {true, "StatusNotifierHostUnregistered"}, // another one is left
+                                               {false, "StatusNotifierHostUnregistered"},
+                                               {true, "StatusNotifierHostRegistered"}}) {
         watcher.tell("UpdateProperties", watcher.name, QVariantMap{{property, isRegistered}});
-        watcher.emitSignal(watcher.name, ("StatusNotifierHost"_ba + signal).constData(), "", {});
+        watcher.emitSignal(watcher.name, signal, "", {});
         EXPECT_TRUE(eventually([&] { return host.findChild<QDBusPendingCallWatcher*>() == nullptr; }));
-        EXPECT_EQ(std::exchange(reported, {}), QLatin1StringView(report));
     }
     watcher.stop();
-    EXPECT_TRUE(eventually([&] { return reported == u'-'; }));
+    EXPECT_TRUE(eventually([&] { return reported == u"+-+-"_s; })) << qPrintable(reported);
 }

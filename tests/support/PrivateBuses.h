@@ -44,34 +44,17 @@ class PrivateBuses : public testing::Environment {
 };
 inline testing::Environment* const privateBuses = testing::AddGlobalTestEnvironment(new PrivateBuses);
 
-/// What a broken service could answer: a signature, and the code that makes the answer.
-inline constexpr std::pair<const char*, const char*> nonsense[]{
-    {"", ""},
-    {"s", "ret = 'x'"},
-    {"i", "ret = -1"},
-    {"as", "ret = []"},
-    {"(ss)", "ret = ('a', 'b')"},
-    {"a(ss)", "ret = [('a', 'b')] * 100000"},
-    {"a{sv}", "ret = {'a': ('b', 1)}"},
-    {"a{oa{sa{sv}}}", "ret = {'/a': {'org.freedesktop.NetworkManager.Device': {'Interface': 7, 'State': 'x'}, "
-                      "'org.freedesktop.NetworkManager.Device.Wireless': {'AccessPoints': [('a', 1)]}}}"},
-    {"s", "raise ValueError"},
-};
-
 /// A simulated service. The test talks to it over the connection of the code under test: when a reply has arrived, so
 /// has everything that the service sent before it.
 struct MockService {
-    [[nodiscard]] bool isThere() const { return bus.interface()->isServiceRegistered(name).value(); }
-    void start(const QString& program, const QStringList& arguments)
-    {
-        daemon = std::make_unique<Daemon>(program, arguments);
-        ASSERT_TRUE(eventually([this] { return isThere(); }));
-    }
+    [[nodiscard]] bool isThere() const { return bus.interface()->isServiceRegistered(name); }
     /// Without arguments for dbusmock its one interface is called as the service.
     void startMock(const QStringList& arguments = {})
     {
         const QStringList options{u"-m"_s, u"dbusmock"_s, u"-l"_s, u"/dev/null"_s};
-        start(u"/usr/bin/python3"_s, options + (arguments.isEmpty() ? QStringList{name, path, name} : arguments));
+        daemon = std::make_unique<Daemon>(u"/usr/bin/python3"_s,
+                                          options + (arguments.isEmpty() ? QStringList{name, path, name} : arguments));
+        ASSERT_TRUE(eventually([this] { return isThere(); }));
     }
     void stop()
     {
@@ -82,23 +65,18 @@ struct MockService {
     void suspend() const
     {
         const auto process = static_cast<pid_t>(daemon->processId());
-        ASSERT_EQ(kill(process, SIGSTOP), 0);
-        ASSERT_EQ(waitpid(process, nullptr, WUNTRACED), process);
+        ASSERT_TRUE(kill(process, SIGSTOP) == 0 && waitpid(process, nullptr, WUNTRACED) == process);
     }
 
-    template <class... Arguments>
-    QVariant call(const QString& interface, const char* method, const Arguments&... arguments)
+    template <class... Arguments> QVariant tell(const char* method, const Arguments&... arguments)
     {
-        auto message = QDBusMessage::createMethodCall(name, path, interface, QString::fromLatin1(method));
+        auto message =
+            QDBusMessage::createMethodCall(name, path, u"org.freedesktop.DBus.Mock"_s, QString::fromLatin1(method));
         message.setArguments({variant(arguments)...});
         const QDBusMessage reply = bus.call(message, QDBus::Block, 10'000);
         if (reply.type() != QDBusMessage::ReplyMessage)
             throw PlatformError(reply.errorMessage());
         return reply.arguments().value(0);
-    }
-    template <class... Arguments> QVariant tell(const char* method, const Arguments&... arguments)
-    {
-        return call(u"org.freedesktop.DBus.Mock"_s, method, arguments...);
     }
     /// Makes a line of Python answer a method from now on.
     void answer(const QString& interface, const char* method, const char* in, const char* out, const char* code)
