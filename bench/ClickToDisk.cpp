@@ -56,7 +56,7 @@ sqlite3* bareDatabase(const QString& path)
 {
     sqlite3* database = nullptr;
     check(sqlite3_open(path.toUtf8().constData(), &database) == SQLITE_OK, database);
-    const char* sql = "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL;"
+    const char* sql = "PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA;"
                       "CREATE TABLE month (pk INTEGER PRIMARY KEY, days TEXT NOT NULL) STRICT;"
                       "INSERT INTO month VALUES (1, hex(zeroblob(900))), (2, ''), (3, hex(zeroblob(900)))";
     check(sqlite3_exec(database, sql, nullptr, nullptr, nullptr) == SQLITE_OK, database);

@@ -24,7 +24,9 @@ void limitSqliteCache()
 SQLite::Database connectToStore(const std::string& path, int lockTimeout)
 {
     SQLite::Database database(path, SQLite::OPEN_READWRITE, lockTimeout);
-    database.exec("PRAGMA synchronous = FULL");
+    // A commit ends by deleting the journal. FULL does not wait until the folder is on disk as well, so that a power
+    // cut seconds later would bring the journal back and undo the commit.
+    database.exec("PRAGMA synchronous = EXTRA");
     return database;
 }
 

@@ -43,6 +43,7 @@ protected:
         obstruct(true);
         testing::internal::CaptureStderr();
         const bool isSaved = context.save();
+        EXPECT_TRUE(!isSaved || FailingDisk::isSynced()) << "a power cut would undo the save";
         QCoreApplication::processEvents();
         const auto logged = QString::fromStdString(testing::internal::GetCapturedStderr());
         EXPECT_EQ(logged.count(u"Could not save"), isSaved ? 0 : 1) << "not again in the same turn";

@@ -8,6 +8,7 @@
 #include <array>
 #include <csignal>
 #include <map>
+#include <set>
 
 #include <sqlite3.h>
 #include <sys/wait.h>
@@ -34,7 +35,11 @@ public:
             return result;
         };
         ownVfs.xDelete = [](auto*, const char* name, int isSynced) {
-            return strikes(Delete) ? SQLITE_IOERR_DELETE : realVfs->xDelete(realVfs, name, isSynced);
+            if (strikes(Delete))
+                return SQLITE_IOERR_DELETE;
+            if (isSynced == 0)
+                unsynced.insert(name);
+            return realVfs->xDelete(realVfs, name, isSynced);
         };
         sqlite3_vfs_register(&ownVfs, 1);
     }
@@ -78,7 +83,13 @@ public:
             _exit(EXIT_SUCCESS);
     }
 
-    static void arm(bool isArmed) { plan.isArmed = isArmed; }
+    static void arm(bool isArmed)
+    {
+        plan.isArmed = isArmed;
+        unsynced.clear();
+    }
+    /// Whether all that was done since the disk was armed survives a power cut.
+    [[nodiscard]] static bool isSynced() { return unsynced.empty(); }
     [[nodiscard]] static bool hasStruck() { return plan.hasStruck; }
 
 private:
@@ -100,14 +111,19 @@ private:
         methods.xWrite = [](auto* file, const void* data, int size, sqlite3_int64 offset) {
             const bool isFull = strikes(Write); // half of the data fits
             const int result = innerMethods->xWrite(file, data, isFull ? size / 2 : size, offset);
+            unsynced.insert(file);
             if (isFull && plan.fault == Kill)
                 raise(SIGKILL);
             return isFull ? SQLITE_FULL : result;
         };
         methods.xSync = [](auto* of, int how) {
-            return strikes(Sync) ? SQLITE_IOERR_FSYNC : innerMethods->xSync(of, how);
+            if (strikes(Sync))
+                return SQLITE_IOERR_FSYNC;
+            unsynced.erase(of);
+            return innerMethods->xSync(of, how);
         };
         methods.xTruncate = [](auto* file, sqlite3_int64 size) {
+            unsynced.insert(file);
             return strikes(Truncate) ? SQLITE_IOERR_TRUNCATE : innerMethods->xTruncate(file, size);
         };
         return &methods;
@@ -122,6 +138,8 @@ private:
         bool hasStruck;
     };
     static inline Plan plan{};
+    /// Files with writes, and names with a deletion, that may not have reached the disk.
+    static inline std::set<const void*> unsynced;
     static inline sqlite3_vfs* const realVfs = sqlite3_vfs_find(nullptr);
     static inline sqlite3_vfs ownVfs{};
     static inline const sqlite3_io_methods* innerMethods = nullptr;
