@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Goal.h"
 
+#include "Rounding.h"
+
 #include <charconv>
 #include <cmath>
 
@@ -25,7 +27,7 @@ std::optional<QString> Goal::acceptedText(const QString& daysPerWeek)
     const auto number = goalNumber(daysPerWeek);
     if (!number || *number < smallest || *number > largest)
         return std::nullopt;
-    return QString::number(*number, 'f', 2);
+    return QString::number(roundedToTwoDecimals(*number), 'f', 2);
 }
 
 std::shared_ptr<Goal> Goal::create(const QString& daysPerWeek, const QString& description)

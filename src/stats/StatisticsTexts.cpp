@@ -2,6 +2,7 @@
 #include "StatisticsTexts.h"
 
 #include "AttendanceStatistics.h"
+#include "Rounding.h"
 
 #include <QCoreApplication>
 
@@ -56,7 +57,8 @@ MarkedText goalText(const AttendanceStatistics& statistics)
 QString averageText(double average)
 {
     //: %L1 in place of %1 writes the number as the person's locale has it.
-    return Texts::tr("You've reached %1 average days in office per week").arg(average, 0, 'f', decimals);
+    return Texts::tr("You've reached %1 average days in office per week")
+        .arg(roundedToTwoDecimals(average), 0, 'f', decimals);
 }
 
 QString workdaysText(qint64 workdays)
@@ -67,11 +69,11 @@ QString workdaysText(qint64 workdays)
 QString twoDecimals(double value)
 {
     //: An average of days per week. %L1 in place of %1 writes the number as the person's locale has it.
-    return Texts::tr("%1", "days per week").arg(value, 0, 'f', decimals);
+    return Texts::tr("%1", "days per week").arg(roundedToTwoDecimals(value), 0, 'f', decimals);
 }
 
 QString goalValueText(double value)
 {
     //: The value of a goal, of five days in a week. %L1 in place of %1 writes it as the person's locale has it.
-    return Texts::tr("%1/5", "days per week").arg(value, 0, 'f', decimals);
+    return Texts::tr("%1/5", "days per week").arg(roundedToTwoDecimals(value), 0, 'f', decimals);
 }

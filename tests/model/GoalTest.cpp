@@ -6,8 +6,9 @@ TEST(Goal, isMadeFromADecimalNumberInItsRangeWhateverTheLocale)
 {
     const auto locale = scopedLocale(QLocale(QLocale::German));
     const std::pair<QString, QString> rows[]{
-        {u"0.1"_s, u"0.10"_s},   {u"7"_s, u"7.00"_s},  {u"2.004"_s, u"2.00"_s}, {u"2.006"_s, u"2.01"_s},
-        {u"6.999"_s, u"7.00"_s}, {u"+3"_s, u"3.00"_s}, {u".5"_s, u"0.50"_s},    {u"10e-1"_s, u"1.00"_s},
+        {u"0.1"_s, u"0.10"_s},   {u"7"_s, u"7.00"_s},     {u"2.004"_s, u"2.00"_s}, {u"2.006"_s, u"2.01"_s},
+        {u"2.125"_s, u"2.12"_s}, {u"2.675"_s, u"2.67"_s}, {u"6.999"_s, u"7.00"_s}, {u"+3"_s, u"3.00"_s},
+        {u".5"_s, u"0.50"_s},    {u"10e-1"_s, u"1.00"_s},
     };
     for (const auto& [text, stored] : rows) {
         const auto goal = Goal::create(text, u" ** "_s);

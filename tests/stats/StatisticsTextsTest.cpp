@@ -9,6 +9,8 @@ TEST(StatisticsTexts, readAsTheyShouldWhateverTheLocale)
     EXPECT_EQ(toMarkdown(headlineText(12, PeriodWord::Quarter)), u"12 days in the office this **quarter**"_s);
     EXPECT_EQ(toMarkdown(headlineText(1, PeriodWord::Month)), u"1 days in the office this **month**"_s);
     EXPECT_EQ(averageText(1234.567), u"You've reached 1234.57 average days in office per week"_s);
+    EXPECT_EQ(averageText(40 / 64.0 * 5), u"You've reached 3.12 average days in office per week"_s);
+    EXPECT_EQ(twoDecimals(3.125) + goalValueText(2.625), u"3.122.62/5"_s);
     EXPECT_EQ(workdaysText(1), u"1 workdays"_s);
 }
 
