@@ -12,9 +12,14 @@
 #include <SQLiteCpp/Database.h>
 #include <sqlite3.h>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// What the database keeps beside a store.
+constexpr std::array sideFiles{"-journal"_L1, "-wal"_L1, "-shm"_L1};
 
 /// A file that gets its name once it is whole, and is removed if it never does.
 class Draft {
@@ -74,9 +79,21 @@ void copyStore(const QString& path, const Draft& draft)
 // Killed attempts leave theirs behind.
 void removeDrafts(const QString& path)
 {
-    const QFileInfo copy(path);
-    for (const QString& name : copy.dir().entryList({copy.fileName() + ".new-*"_L1}, QDir::Files))
-        copy.dir().remove(name);
+    const QFileInfo file(path);
+    for (const QString& name : file.dir().entryList({file.fileName() + ".new-??????"_L1}, QDir::Files))
+        file.dir().remove(name);
+}
+
+// Of a store that is gone. The database would take it for the journal of a new store, and play it into that.
+void putAside(const QString& path)
+{
+    QFile file(path);
+    QString name = path + ".old"_L1;
+    for (int number = 2; file.exists() && !file.rename(name); ++number) {
+        if (!QFile::exists(name))
+            throw StoreError(StoreError::tr("The file %1 cannot be renamed: %2").arg(path, file.errorString()));
+        name = path + u".old-%1"_s.arg(number);
+    }
 }
 
 void removeIfPresent(const QString& path)
@@ -90,6 +107,9 @@ void removeIfPresent(const QString& path)
 
 void createStoreFile(const QString& path, const Schema& schema)
 {
+    removeDrafts(path);
+    for (const auto suffix : sideFiles)
+        putAside(path + suffix);
     Draft draft(path);
     {
         SQLite::Database database = connectToDraft(draft);
@@ -115,9 +135,9 @@ void keepStoreCopy(const QString& path, const Schema& schema)
 
 void removeStoreFile(const QString& path)
 {
-    // The store goes first: a journal without its store means nothing to the database, while a store without its
-    // journal would be damaged if the removal stopped halfway.
+    // The store goes first: if the removal stops halfway, a journal without its store does no harm, while a store
+    // without its journal would be damaged.
     removeIfPresent(path);
-    for (const auto suffix : {"-journal"_L1, "-wal"_L1, "-shm"_L1})
+    for (const auto suffix : sideFiles)
         removeIfPresent(path + suffix);
 }

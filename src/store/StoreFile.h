@@ -5,7 +5,8 @@ class QString;
 struct Schema;
 
 /// Puts an empty store at `path`, readable by its owner alone. It appears whole or not at all, and never replaces an
-/// existing file. Throws a StoreError, or the database's own exception.
+/// existing file. A journal that is left of another store is kept under another name ("Pellory.store-journal.old").
+/// Throws a StoreError, or the database's own exception.
 void createStoreFile(const QString& path, const Schema& schema);
 
 /// Keeps a verified copy of the store at `path` beside it, readable by its owner alone, before it is migrated to the

@@ -64,6 +64,24 @@ TEST_F(StoreFileTest, removalTakesTheStoreWithItsSideFilesAndNothingElse)
     EXPECT_TRUE(stored().empty());
 }
 
+TEST_F(StoreFileTest, isNewWhateverIsLeftOfAnotherOne)
+{
+    putSample();
+    auto other = connection();
+    other.exec("PRAGMA cache_size = 1; BEGIN; DROP TABLE month; CREATE TABLE other AS SELECT zeroblob(90000)");
+    const QByteArray journal = bytes(u"-journal"_s);
+    for (int i = 0; i < 2; ++i) {
+        QFile::remove(path);
+        setBytes(journal, u"-journal"_s);
+        setBytes("of a killed start", u".new-aBc123"_s);
+        setBytes("of the person", u".new-copy"_s);
+        EXPECT_TRUE(stored().empty());
+    }
+    EXPECT_EQ(files(), (QStringList{u"Pellory.store"_s, u"Pellory.store-journal.old"_s,
+                                    u"Pellory.store-journal.old-2"_s, u"Pellory.store.new-copy"_s}));
+    EXPECT_EQ(bytes(u"-journal.old-2"_s), journal);
+}
+
 TEST_F(StoreFileTest, isMadeForItsOwnerAloneAndStaysInAClosedFolder)
 {
     setFolderWritable(false);
