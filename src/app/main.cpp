@@ -219,6 +219,7 @@ int main(int argc, char* argv[])
 {
     limitMallocArenas();
     limitSqliteCache();
+    correctUserFolders();
     setApplicationMetadata();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (asksForText(arguments)) // for which no display is needed

@@ -108,12 +108,13 @@ class FaultsTest(DesktopTest):
 
     def test_starts_without_a_bus_and_after_every_end(self):
         buses = "DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"
-        self.environment |= dict.fromkeys(buses, "unix:path=/nonexistent")
+        self.environment |= dict.fromkeys(buses, "unix:path=/nonexistent") | {"XDG_DATA_HOME": "ignored/relative"}
         for end in (signal.SIGKILL, signal.SIGTERM):
             program = self.start(PROGRAM)
             eventually(lambda: "Sleeping for 1800 seconds" in program.said())
             program.send_signal(end)
             self.assertEqual(program.wait(PATIENCE), -end if end == signal.SIGKILL else 0)
+        self.assertTrue((self.folder / ".local/share/Pellory/Pellory.store").exists())
 
     def test_says_that_there_is_no_radio(self):
         if os.geteuid() != 0:
