@@ -12,6 +12,7 @@
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
 #include "SampleStore.h"
+#include "SystemBus.h"
 #include "SystemClock.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
@@ -84,8 +85,9 @@ struct Parts {
     AppSettings appSettings;
     SystemClock clock;
     std::unique_ptr<ModelContainer> container = openStore(sampleStore());
-    NetworkManagerWiFiClient wifiClient;
-    NetworkManagerAuthorization authorization;
+    SystemBus systemBus;
+    NetworkManagerWiFiClient wifiClient{systemBus};
+    NetworkManagerAuthorization authorization{systemBus};
     DesktopSystemSettings systemSettings;
     LocationManagerKey locationManager{authorization, systemSettings};
     FreedesktopNotifier notifier;

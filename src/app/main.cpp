@@ -22,6 +22,7 @@
 #include "QuitSignals.h"
 #include "SingleInstance.h"
 #include "StatusNotifierHost.h"
+#include "SystemBus.h"
 #include "SystemClock.h"
 #include "Theme.h"
 #include "Translations.h"
@@ -78,9 +79,10 @@ void followColorScheme(Appearance& appearance, QSettings& settings)
 struct PlatformServices {
     QuitSignals quitSignals;
     SystemClock clock;
-    NetworkManagerWiFiClient wifiClient;
+    SystemBus systemBus;
+    NetworkManagerWiFiClient wifiClient{systemBus};
     FreedesktopNotifier notifier;
-    NetworkManagerAuthorization authorization;
+    NetworkManagerAuthorization authorization{systemBus};
     DesktopSystemSettings systemSettings;
     AutostartEntry loginItem = AutostartEntry::ofThisProgram();
     PortalAppearance appearance;

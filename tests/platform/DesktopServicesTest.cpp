@@ -75,6 +75,7 @@ TEST_F(FreedesktopNotifierTest, carriesOnAfterAServerThatTalksNonsense)
 TEST(DesktopSystemSettingsTest, opensThePageOrSaysWhatElseCanBeDone)
 {
     const QTemporaryDir folder;
+    const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
     const QString program = folder.filePath(u"gnome-control-center"_s);
     ASSERT_TRUE(QFile::link(u"/bin/mkdir"_s, program)); // which then makes a folder named after the page
     qputenv("PATH", folder.path().toUtf8());

@@ -5,6 +5,7 @@
 #include "PowerWatch.h"
 #include "PrivateBuses.h"
 #include "SignalAwaiter.h"
+#include "SystemBus.h"
 
 #include <QSignalSpy>
 
@@ -47,8 +48,9 @@ protected:
     }
 
     const QString root = networkManagerPath, wlan0 = u"wlan0"_s, radio = u"/Devices/0"_s;
-    MockService manager{QDBusConnection::systemBus(), networkManagerService, networkManagerObjects};
-    NetworkManagerWiFiClient client{{300ms, 20ms}}, patientClient{{1h, 20ms}};
+    SystemBus systemBus;
+    MockService manager{systemBus.connection(), networkManagerService, networkManagerObjects};
+    NetworkManagerWiFiClient client{systemBus, {300ms, 20ms}}, patientClient{systemBus, {1h, 20ms}};
 };
 
 TEST(NetworkManagerStateTest, theDefaultIsTheRadioThatIsMostReady)
@@ -101,7 +103,7 @@ TEST_F(NetworkManagerTest, waitsForTheEndOfAScanButNotForEver)
 {
     addNetwork("a"_ba);
     setScan(-1);
-    auto shortLived = std::make_unique<NetworkManagerWiFiClient>(ScanTiming{1h, 1h});
+    auto shortLived = std::make_unique<NetworkManagerWiFiClient>(systemBus, ScanTiming{1h, 1h});
     const Scan scan = patientClient.scanForNetworks(wlan0), abandoned = shortLived->scanForNetworks(wlan0);
     EXPECT_TRUE(eventually([this] { return hasScanned(2); }));
     change(radio, wirelessInterface, "Bitrate", 1U); // which is no end of a scan
@@ -120,8 +122,8 @@ TEST_F(NetworkManagerTest, whatIsGoneOrHangsIsAnErrorAndBlocksNothing)
 {
     for (const Action& lose :
          {Action([&] { removeRadio(0); }), {[&] { manager.stop(); }}, {[&] { manager.suspend(); }}}) {
-        NetworkManagerWiFiClient impatient{{300ms, 20ms, 3s}};
-        NetworkManagerAuthorization authorization;
+        NetworkManagerWiFiClient impatient{systemBus, {300ms, 20ms, 3s}};
+        NetworkManagerAuthorization authorization{systemBus};
         setScan(-1);
         const Scan scan = impatient.scanForNetworks(wlan0);
         EXPECT_TRUE(eventually([&] { return hasScanned(1); }));
@@ -140,7 +142,7 @@ TEST_F(NetworkManagerTest, whatIsGoneOrHangsIsAnErrorAndBlocksNothing)
 
 TEST_F(NetworkManagerTest, reportsPowerChangesWhileMonitored)
 {
-    PowerWatch watch(1h);
+    PowerWatch watch(systemBus, 1h);
     const auto* debounce = watch.findChild<QTimer*>();
     QSignalSpy watched(&watch, &PowerWatch::powerStateDidChange), reported(&client, &WiFiClient::powerStateDidChange);
     // What happens, the number of the radio that is reported, and whether it is on then.
@@ -174,7 +176,7 @@ TEST_F(NetworkManagerTest, reportsPowerChangesWhileMonitored)
 
 TEST_F(NetworkManagerTest, followsThePermissionAndAsksForIt)
 {
-    NetworkManagerAuthorization authorization;
+    NetworkManagerAuthorization authorization{systemBus};
     QSignalSpy changed(&authorization, &LocationAuthorization::didChangeAuthorization);
     const auto becomes = [&](AuthorizationStatus status) {
         return eventually([&] { return authorization.authorizationStatus() == status; });
@@ -194,4 +196,33 @@ TEST_F(NetworkManagerTest, followsThePermissionAndAsksForIt)
     EXPECT_TRUE(becomes(denied));
     manager.stop();
     EXPECT_TRUE(becomes(authorizedAlways));
+}
+
+TEST_F(NetworkManagerTest, findsABusThatWasRestarted)
+{
+    NetworkManagerAuthorization authorization(systemBus);
+    authorization.start();
+    client.startMonitoringPowerEvents();
+    QSignalSpy reported(&client, &WiFiClient::powerStateDidChange);
+    const auto isReported = [&] { return eventually([&] { return !reported.isEmpty(); }); };
+    SystemBus unused;
+    EXPECT_TRUE(unused.connection().isConnected());
+    QSignalSpy reconnected(&unused, &SystemBus::reconnected);
+    privateBuses->start("DBUS_SYSTEM_BUS_ADDRESS");
+    EXPECT_TRUE(isReported() && eventually([&] { return reconnected.size() == 1; }));
+    manager.bus = systemBus.connection();
+    start();
+    EXPECT_EQ(found(client.scanForNetworks(wlan0)), QString());
+    manager.tell("SetPermission", "no");
+    EXPECT_TRUE(eventually([&] { return authorization.authorizationStatus() == denied; }));
+    reported.clear();
+    setState(100);
+    EXPECT_TRUE(isReported());
+}
+
+TEST(SystemBusTest, aCallWithoutABusFailsAtOnce)
+{
+    QObject caller;
+    const auto call = QDBusMessage::createMethodCall(u"a.b"_s, u"/"_s, u"a.b"_s, u"c"_s);
+    EXPECT_THROW(resultOf(busCall(&caller, QDBusConnection(u"none"_s), call)), BusError);
 }

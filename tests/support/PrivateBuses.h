@@ -26,23 +26,37 @@ template <class T> T resultOf(const QCoro::Task<T>& task)
     return task.operator co_await().await_resume();
 }
 
-/// A system bus and a session bus that start no service by themselves. A process connects to one of each for life.
+/// A system bus and a session bus that start no service by themselves.
 class PrivateBuses : public testing::Environment {
-    void SetUp() override // NOLINT(readability-identifier-naming)
+public:
+    /// Ends a bus if it runs, and starts it where programs look for it.
+    void start(const char* variable)
     {
+        const QString address = u"unix:path="_s + m_folder.filePath(QString::fromLatin1(variable));
+        qputenv(variable, address.toLatin1());
         // The rules of the bus of screen readers: anybody may do anything.
         const QStringList options{u"--config-file=/usr/share/defaults/at-spi2/accessibility.conf"_s,
-                                  u"--print-address"_s, u"--nofork"_s};
-        for (const char* variable : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
-            qputenv(variable, m_buses.emplace_back(new Daemon(u"dbus-daemon"_s, options))->firstLine());
-        if (!QDBusConnection::systemBus().isConnected() || !QDBusConnection::sessionBus().isConnected())
-            qFatal("There are no buses"); // a failure here would skip the tests, and not fail them
+                                  u"--address="_s + address, u"--print-address"_s, u"--nofork"_s};
+        m_buses.erase(variable);
+        if (!m_buses.try_emplace(variable, u"dbus-daemon"_s, options).first->second.firstLine().startsWith("unix:"))
+            qFatal("There is no bus"); // a failure here would skip the tests, and not fail them
     }
-    void TearDown() override { m_buses.clear(); } // NOLINT(readability-identifier-naming)
 
-    std::vector<std::unique_ptr<Daemon>> m_buses;
+private:
+    // NOLINTBEGIN(readability-identifier-naming)
+    void SetUp() override
+    {
+        for (const char* variable : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
+            start(variable);
+    }
+    void TearDown() override { m_buses.clear(); }
+    // NOLINTEND(readability-identifier-naming)
+
+    const QTemporaryDir m_folder;
+    std::map<std::string, Daemon> m_buses;
 };
-inline testing::Environment* const privateBuses = testing::AddGlobalTestEnvironment(new PrivateBuses);
+inline auto* const privateBuses = new PrivateBuses;
+inline testing::Environment* const environment = testing::AddGlobalTestEnvironment(privateBuses);
 
 /// A simulated service. The test talks to it over the connection of the code under test: when a reply has arrived, so
 /// has everything that the service sent before it.

@@ -12,7 +12,9 @@ QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMes
                                   std::chrono::milliseconds timeout)
 {
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(timeout.count())), caller);
-    co_await nextSignal(watcher, &QDBusPendingCallWatcher::finished);
+    // Without a bus the call has failed already, and would never signal that.
+    if (!watcher->isFinished())
+        co_await nextSignal(watcher, &QDBusPendingCallWatcher::finished);
     watcher->deleteLater();
     if (watcher->isError())
         throw BusError(watcher->error().name(), watcher->error().message());

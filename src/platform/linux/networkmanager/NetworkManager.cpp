@@ -4,9 +4,9 @@
 #include "Delay.h"
 #include "NetworkManagerNames.h"
 #include "NetworkManagerReader.h"
+#include "SystemBus.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,7 +36,7 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 {
     const auto call =
         methodCall(networkManagerObjects, u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
+    const QDBusMessage reply = co_await busCall(this, m_bus.connection(), call, m_timeout);
     NetworkManagerReader reader(reply);
     while (reader.readSome())
         co_await delay(0ms, this);
@@ -46,7 +46,7 @@ QCoro::Task<NetworkManagerState> NetworkManager::readState()
 QCoro::Task<AuthorizationStatus> NetworkManager::readScanPermission()
 {
     const auto call = methodCall(networkManagerPath, managerInterface, u"GetPermissions"_s);
-    const QDBusMessage reply = co_await busCall(this, QDBusConnection::systemBus(), call, m_timeout);
+    const QDBusMessage reply = co_await busCall(this, m_bus.connection(), call, m_timeout);
     // Reading a reply of another type would end the program.
     QMap<QString, QString> permissions;
     if (reply.signature() == "a{ss}"_L1)
@@ -61,5 +61,5 @@ QCoro::Task<> NetworkManager::requestScan(QString devicePath, bool isInteractive
     auto call = methodCall(devicePath, wirelessInterface, u"RequestScan"_s);
     call << QVariantMap();
     call.setInteractiveAuthorizationAllowed(isInteractive);
-    co_await busCall(this, QDBusConnection::systemBus(), call, isInteractive ? passwordPromptTimeout : m_timeout);
+    co_await busCall(this, m_bus.connection(), call, isInteractive ? passwordPromptTimeout : m_timeout);
 }

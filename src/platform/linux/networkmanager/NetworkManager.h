@@ -9,13 +9,16 @@
 
 #include <QCoroTask>
 
+class SystemBus;
+
 /// Calls to NetworkManager on the system bus. They throw a BusError on failure, and Abandoned if this is destroyed
 /// meanwhile.
 class NetworkManager : public QObject {
 public:
     /// `timeout` is how long each call waits for its reply.
-    explicit NetworkManager(std::chrono::milliseconds timeout = busTimeout)
-        : m_timeout(timeout)
+    explicit NetworkManager(SystemBus& bus, std::chrono::milliseconds timeout = busTimeout)
+        : m_bus(bus)
+        , m_timeout(timeout)
     {
     }
 
@@ -30,5 +33,6 @@ public:
     QCoro::Task<> requestScan(QString devicePath, bool isInteractive);
 
 private:
+    SystemBus& m_bus;
     std::chrono::milliseconds m_timeout;
 };

@@ -3,10 +3,9 @@
 
 #include "BusCall.h"
 #include "NetworkManagerNames.h"
+#include "SystemBus.h"
 
-#include <QDBusConnection>
 #include <QDBusError>
-#include <QDBusServiceWatcher>
 #include <QLoggingCategory>
 
 using namespace Qt::StringLiterals;
@@ -18,23 +17,30 @@ Q_LOGGING_CATEGORY(logAuthorization, "pellory.authorization", QtInfoMsg)
 
 } // namespace
 
-NetworkManagerAuthorization::NetworkManagerAuthorization()
+NetworkManagerAuthorization::NetworkManagerAuthorization(SystemBus& bus)
+    : m_bus(bus)
+    , m_networkManager(bus)
 {
     m_debounce.setSingleShot(true);
     m_debounce.setInterval(100ms);
     connect(&m_debounce, &QTimer::timeout, this, &NetworkManagerAuthorization::read);
 }
 
-NetworkManagerAuthorization::~NetworkManagerAuthorization() = default;
-
 void NetworkManagerAuthorization::start()
 {
-    QDBusConnection bus = QDBusConnection::systemBus();
+    m_serviceWatcher.addWatchedService(networkManagerService);
+    connect(&m_serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManagerAuthorization::read);
+    connect(&m_bus, &SystemBus::reconnected, this, &NetworkManagerAuthorization::listen);
+    connect(&m_bus, &SystemBus::lost, this, &NetworkManagerAuthorization::read);
+    listen();
+}
+
+void NetworkManagerAuthorization::listen()
+{
+    QDBusConnection bus = m_bus.connection();
     bus.connect(networkManagerService, networkManagerPath, managerInterface, u"CheckPermissions"_s, &m_debounce,
                 SLOT(start()));
-    m_serviceWatcher = std::make_unique<QDBusServiceWatcher>(networkManagerService, bus);
-    connect(m_serviceWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
-            &NetworkManagerAuthorization::read);
+    m_serviceWatcher.setConnection(bus);
     read();
 }
 

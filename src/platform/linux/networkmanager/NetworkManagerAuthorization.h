@@ -4,11 +4,8 @@
 #include "LocationAuthorization.h"
 #include "NetworkManager.h"
 
+#include <QDBusServiceWatcher>
 #include <QTimer>
-
-#include <memory>
-
-class QDBusServiceWatcher;
 
 /// NetworkManager's permission to scan, which decides whether this program can see which networks are in range. Without
 /// NetworkManager there is nothing to permit, and access counts as granted.
@@ -16,19 +13,20 @@ class NetworkManagerAuthorization : public LocationAuthorization {
     Q_OBJECT
 
 public:
-    NetworkManagerAuthorization();
-    ~NetworkManagerAuthorization() override;
+    explicit NetworkManagerAuthorization(SystemBus& bus);
 
     void start() override;
     [[nodiscard]] AuthorizationStatus authorizationStatus() const override { return m_status; }
     void requestAlwaysAuthorization() override { request(); }
 
 private:
+    void listen();
     QCoro::Task<> read();
     QCoro::Task<> request();
 
+    SystemBus& m_bus;
     NetworkManager m_networkManager;
-    std::unique_ptr<QDBusServiceWatcher> m_serviceWatcher;
+    QDBusServiceWatcher m_serviceWatcher;
     /// NetworkManager signals a change several times in a row.
     QTimer m_debounce;
     AuthorizationStatus m_status = AuthorizationStatus::authorizedAlways;

@@ -36,9 +36,10 @@ const WirelessDevice& presentDevice(const NetworkManagerState& state, const QStr
 
 } // namespace
 
-NetworkManagerWiFiClient::NetworkManagerWiFiClient(ScanTiming timing)
-    : m_timing(timing)
-    , m_networkManager(timing.callTimeout)
+NetworkManagerWiFiClient::NetworkManagerWiFiClient(SystemBus& bus, ScanTiming timing)
+    : m_bus(bus)
+    , m_timing(timing)
+    , m_networkManager(bus, timing.callTimeout)
 {
 }
 
@@ -68,7 +69,7 @@ QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QStrin
 
 QCoro::Task<bool> NetworkManagerWiFiClient::scan(QString devicePath)
 {
-    const QPointer<NetworkScan> scan = new NetworkScan(m_networkManager, devicePath, this);
+    const QPointer<NetworkScan> scan = new NetworkScan(m_bus, m_networkManager, devicePath, this);
     const auto remove = qScopeGuard([scan] {
         if (scan)
             scan->deleteLater();
@@ -110,7 +111,7 @@ QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readStateOrNone()
 void NetworkManagerWiFiClient::startMonitoringPowerEvents()
 {
     if (m_monitors == 0) {
-        m_powerWatch = std::make_unique<PowerWatch>(m_timing.callTimeout);
+        m_powerWatch = std::make_unique<PowerWatch>(m_bus, m_timing.callTimeout);
         connect(m_powerWatch.get(), &PowerWatch::powerStateDidChange, this, &WiFiClient::powerStateDidChange);
     }
     ++m_monitors;

@@ -16,7 +16,7 @@ class NetworkManagerWiFiClient : public WiFiClient {
     Q_OBJECT
 
 public:
-    explicit NetworkManagerWiFiClient(ScanTiming timing = {});
+    explicit NetworkManagerWiFiClient(SystemBus& bus, ScanTiming timing = {});
     ~NetworkManagerWiFiClient() override;
 
     [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> defaultInterface() override;
@@ -32,6 +32,7 @@ private:
     [[nodiscard]] QCoro::Task<QString> devicePath(QString interfaceName);
     [[nodiscard]] QCoro::Task<bool> scan(QString devicePath);
 
+    SystemBus& m_bus;
     ScanTiming m_timing;
     NetworkManager m_networkManager;
     /// By the names of interfaces, as last read.

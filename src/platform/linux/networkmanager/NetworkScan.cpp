@@ -5,9 +5,9 @@
 #include "NetworkManager.h"
 #include "NetworkManagerNames.h"
 #include "SignalAwaiter.h"
+#include "SystemBus.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -42,9 +42,8 @@ QCoro::Task<bool> NetworkScan::request()
     if (!isAccessGranted(permission))
         co_return false;
     // Before the request: the scan can end before its reply arrives.
-    QDBusConnection::systemBus().connect(networkManagerService, m_devicePath, propertiesInterface,
-                                         u"PropertiesChanged"_s, {wirelessInterface}, u"sa{sv}as"_s, this,
-                                         SLOT(handlePropertiesChanged(QDBusMessage)));
+    m_bus.connection().connect(networkManagerService, m_devicePath, propertiesInterface, u"PropertiesChanged"_s,
+                               {wirelessInterface}, u"sa{sv}as"_s, this, SLOT(handlePropertiesChanged(QDBusMessage)));
     try {
         co_await m_networkManager.requestScan(m_devicePath, false);
     } catch (const BusError& error) {

@@ -11,6 +11,7 @@
 
 class NetworkManager;
 class QDBusMessage;
+class SystemBus;
 
 struct ScanTiming {
     /// How long a scan may take.
@@ -26,8 +27,9 @@ class NetworkScan : public QObject {
     Q_OBJECT
 
 public:
-    NetworkScan(NetworkManager& networkManager, const QString& devicePath, QObject* parent)
+    NetworkScan(SystemBus& bus, NetworkManager& networkManager, const QString& devicePath, QObject* parent)
         : QObject(parent)
+        , m_bus(bus)
         , m_networkManager(networkManager)
         , m_devicePath(devicePath)
     {
@@ -43,6 +45,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QCoro::Task<bool> request();
 
+    SystemBus& m_bus;
     NetworkManager& m_networkManager;
     QString m_devicePath;
     bool m_hasEnded = false;

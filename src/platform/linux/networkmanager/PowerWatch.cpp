@@ -2,9 +2,9 @@
 #include "PowerWatch.h"
 
 #include "NetworkManagerNames.h"
+#include "SystemBus.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
 #include <QDBusError>
 #include <QLoggingCategory>
 
@@ -19,28 +19,32 @@ Q_LOGGING_CATEGORY(logPower, "pellory.wifi", QtInfoMsg)
 
 } // namespace
 
-PowerWatch::PowerWatch(std::chrono::milliseconds callTimeout)
-    : m_networkManager(callTimeout)
-    , m_serviceWatcher(networkManagerService, QDBusConnection::systemBus())
+PowerWatch::PowerWatch(SystemBus& bus, std::chrono::milliseconds callTimeout)
+    : m_bus(bus)
+    , m_networkManager(bus, callTimeout)
 {
     m_debounce.setSingleShot(true);
     m_debounce.setInterval(100ms);
     connect(&m_debounce, &QTimer::timeout, this, &PowerWatch::report);
     connect(&m_serviceWatcher, &QDBusServiceWatcher::serviceOwnerChanged, &m_debounce, qOverload<>(&QTimer::start));
-    listen();
+    m_serviceWatcher.addWatchedService(networkManagerService);
+    connect(&bus, &SystemBus::lost, &m_debounce, qOverload<>(&QTimer::start));
+    connect(&bus, &SystemBus::reconnected, this, [this] {
+        if (listen())
+            m_debounce.start();
+    });
+    if (!listen())
+        throw PlatformError(bus.connection().lastError().message());
 }
 
-void PowerWatch::listen()
+bool PowerWatch::listen()
 {
-    QDBusConnection bus = QDBusConnection::systemBus();
-    if (!bus.connect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
-                     {managerInterface}, u"sa{sv}as"_s, this, SLOT(handleManagerChanged(QDBusMessage))) ||
-        !bus.connect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
-                     SLOT(handleDeviceChanged(uint, uint))))
-        throw PlatformError(bus.lastError().message());
-    // QtDBus itself sends this one.
-    bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s, u"Disconnected"_s, this,
-                SLOT(handleBusLost()));
+    QDBusConnection bus = m_bus.connection();
+    m_serviceWatcher.setConnection(bus);
+    return bus.connect(networkManagerService, networkManagerPath, propertiesInterface, u"PropertiesChanged"_s,
+                       {managerInterface}, u"sa{sv}as"_s, this, SLOT(handleManagerChanged(QDBusMessage))) &&
+           bus.connect(networkManagerService, {}, deviceInterface, u"StateChanged"_s, this,
+                       SLOT(handleDeviceChanged(uint, uint)));
 }
 
 QCoro::Task<> PowerWatch::report()
@@ -68,11 +72,4 @@ void PowerWatch::handleDeviceChanged(uint state, uint oldState)
     // A device passes through many states while it connects; only these make a difference.
     if (isUsable(state) != isUsable(oldState) || isConnected(state) != isConnected(oldState))
         m_debounce.start();
-}
-
-// Qt does not reconnect.
-void PowerWatch::handleBusLost()
-{
-    qCWarning(logPower, "Lost the system bus, and Wi-Fi with it: start Pellory again when the bus is back");
-    m_debounce.start();
 }

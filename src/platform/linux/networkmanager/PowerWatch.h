@@ -14,16 +14,17 @@ class PowerWatch : public QObject {
 
 public:
     /// `callTimeout` is how long each bus call may take. Throws a PlatformError if the bus cannot be listened to.
-    explicit PowerWatch(std::chrono::milliseconds callTimeout);
+    PowerWatch(SystemBus& bus, std::chrono::milliseconds callTimeout);
 
 Q_SIGNALS:
     /// The power of this interface may have changed, or the interface has gone. Once for changes in quick succession.
     void powerStateDidChange(const QString& interfaceName);
 
 private:
-    void listen();
+    [[nodiscard]] bool listen();
     QCoro::Task<> report();
 
+    SystemBus& m_bus;
     NetworkManager m_networkManager;
     QDBusServiceWatcher m_serviceWatcher;
     QTimer m_debounce{this};
@@ -33,5 +34,4 @@ private:
 private Q_SLOTS:
     void handleManagerChanged(const QDBusMessage& signal);
     void handleDeviceChanged(uint state, uint oldState);
-    void handleBusLost();
 };
