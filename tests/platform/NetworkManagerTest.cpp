@@ -62,8 +62,24 @@ TEST(NetworkManagerStateTest, theDefaultIsTheRadioThatIsMostReady)
                                               {120U, 100U, u"b"_s},
                                               {100U, 100U, u"a"_s}}) {
         NetworkManagerState state;
-        state.devices = {{u"a"_s, {}, first, {}, {}}, {u"b"_s, {}, second, {}, {}}};
+        state.devices = {{u"a"_s, {}, first, {}, {}, {}}, {u"b"_s, {}, second, {}, {}, {}}};
         EXPECT_EQ(state.defaultDevice() ? state.defaultDevice()->path : QString(), best) << first << second;
+    }
+}
+
+TEST(NetworkManagerStateTest, anAccessPointInUseCountsOnlyIfItIsThere)
+{
+    using enum WirelessMode;
+    for (const auto& [deviceState, mode, lastSeen, count] : {std::tuple(100U, Infrastructure, 10, 1),
+                                                             {50U, Infrastructure, 10, 0},
+                                                             {50U, Infrastructure, 99, 1},
+                                                             {100U, Infrastructure, -1, 0},
+                                                             {100U, Hotspot, 99, 0},
+                                                             {100U, WirelessMode(1), 10, 0}}) {
+        NetworkManagerState state;
+        state.accessPoints = {{u"a"_s, {"Office", lastSeen}}};
+        const WirelessDevice device{{}, {}, deviceState, mode, {u"a"_s}, u"a"_s};
+        EXPECT_EQ(state.networksSeenSince(device, 50s).size(), count) << deviceState << int(mode) << lastSeen;
     }
 }
 
@@ -75,6 +91,7 @@ TEST_F(NetworkManagerTest, scansIfPermittedAndElseReadsWhatWasSeenLately)
     for (const int secondsAgo : {10, 45, 90, 900, 0, 1})
         addNetwork(QByteArray::number(secondsAgo), secondsAgo);
     manager.tell("Use", "0", "n393030");
+    setState(100);
     change(u"/AccessPoint/n30"_s, accessPointInterface, "LastSeen", -1); // was never seen
     manager.tell("RemoveObject", root + u"/AccessPoint/n31"_s);          // has gone, but is still listed
     const auto now = u"(hidden)|(hidden)|10|900|B\u00E9|C\u00C3|a\0b|\u00FC|\uFEFFz"_s;

@@ -35,8 +35,12 @@ WirelessDevice deviceFrom(const QString& path, const BusInterfaces& interfaces)
 {
     const QVariantMap device = interfaces.value(deviceInterface);
     const QVariantMap wireless = interfaces.value(wirelessInterface);
-    return {path, device.value(u"Interface"_s).toString(), device.value(u"State"_s).toUInt(),
-            pathsIn(wireless, u"AccessPoints"_s), pathIn(wireless, u"ActiveAccessPoint"_s)};
+    return {path,
+            device.value(u"Interface"_s).toString(),
+            device.value(u"State"_s).toUInt(),
+            WirelessMode(wireless.value(u"Mode"_s).toUInt()),
+            pathsIn(wireless, u"AccessPoints"_s),
+            pathIn(wireless, u"ActiveAccessPoint"_s)};
 }
 
 } // namespace

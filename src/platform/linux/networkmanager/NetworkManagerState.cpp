@@ -47,8 +47,11 @@ QList<WiFiNetwork> NetworkManagerState::networksSeenSince(const WirelessDevice& 
         const auto accessPoint = accessPoints.find(path);
         if (accessPoint == accessPoints.end())
             continue; // it went while the objects were being listed
-        const bool isFresh = accessPoint->lastSeen >= std::max<qint64>(time.count(), 0); // never seen is negative
-        if (isFresh || path == device.activeAccessPoint)
+        const bool isActive = path == device.activeAccessPoint;
+        if (accessPoint->lastSeen < 0 || (isActive && device.mode == WirelessMode::Hotspot))
+            continue;
+        const bool isInUse = isActive && isConnected(device.state) && device.mode == WirelessMode::Infrastructure;
+        if (isInUse || accessPoint->lastSeen >= time.count())
             networks.append({ssidText(accessPoint->ssid)});
     }
     return networks;

@@ -23,10 +23,13 @@
     return deviceState == 100;
 }
 
+/// The modes of a radio that matter, by the numbers of NM80211Mode.
+enum class WirelessMode : uint { Infrastructure = 2, Hotspot = 3 };
+
 /// An access point as NetworkManager knows it.
 struct AccessPoint {
     QByteArray ssid;
-    /// In seconds of CLOCK_BOOTTIME; -1 for never.
+    /// In seconds of CLOCK_BOOTTIME; -1 for never, as with a network that is only being looked for.
     qint64 lastSeen = -1;
 };
 
@@ -37,6 +40,7 @@ struct WirelessDevice {
     /// Such as "wlan0".
     QString interface;
     uint state = 0;
+    WirelessMode mode = WirelessMode::Infrastructure;
     QStringList accessPoints;
     /// The access point in use; "/" for none.
     QString activeAccessPoint;
@@ -56,7 +60,8 @@ struct NetworkManagerState {
     /// Null if there is no such device.
     [[nodiscard]] const WirelessDevice* deviceWithInterface(const QString& name) const;
     [[nodiscard]] bool isPowered(const WirelessDevice& device) const;
-    /// The networks of a radio whose access points were seen since `time` (of CLOCK_BOOTTIME), or are in use.
+    /// The networks of a radio whose access points were seen since `time` (of CLOCK_BOOTTIME), or are in use. The
+    /// computer's own hotspot is none of them.
     [[nodiscard]] QList<WiFiNetwork> networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const;
 };
 
