@@ -109,9 +109,9 @@ def CountScans(_self, number):
 
 @dbus.service.method(MOCK_IFACE, in_signature="s")
 def SetPermission(_self, permission):
-    """Empty for a version that does not know this permission. Signals twice, as NetworkManager does."""
+    """Empty for a version that does not know this permission, "broken" for an error. Signals twice, as NetworkManager does."""
     permissions = {PERMISSION: permission} if permission else {}
-    manager().permissions = dbus.Dictionary(permissions, signature="ss")
+    manager().permissions = None if permission == "broken" else dbus.Dictionary(permissions, signature="ss")
     for _ in range(2):
         manager().EmitSignal(base.MANAGER_IFACE, "CheckPermissions", "", [])
 

@@ -98,7 +98,7 @@ TEST_F(NetworkManagerTest, scansIfPermittedAndElseReadsWhatWasSeenLately)
     const auto lately = QString(now).replace(u"|10|"_s, u"|10|45|"_s);
     // The permission, the answer to a request, the scans so far, and what is found.
     const std::tuple<const char*, const char*, int, QString> rows[]{
-        {"yes", "", 1, now}, {"auth", "", 1, lately}, {"", "PermissionDenied", 2, lately}};
+        {"yes", "", 1, now}, {"auth", "", 1, lately}, {"broken", "", 1, lately}, {"", "PermissionDenied", 2, lately}};
     for (const auto& [permission, answer, scans, names] : rows) {
         manager.tell("SetPermission", permission);
         setScan(0, QString::fromLatin1(answer));

@@ -38,8 +38,8 @@ QCoro::Task<bool> NetworkScan::run(ScanTiming timing)
 // A request without permission might open a password prompt.
 QCoro::Task<bool> NetworkScan::request()
 {
-    const AuthorizationStatus permission = co_await m_networkManager.readScanPermission();
-    if (!isAccessGranted(permission))
+    const bool isPermitted = co_await hasPermission();
+    if (!isPermitted)
         co_return false;
     // Before the request: the scan can end before its reply arrives.
     m_bus.connection().connect(networkManagerService, m_devicePath, propertiesInterface, u"PropertiesChanged"_s,
@@ -52,6 +52,17 @@ QCoro::Task<bool> NetworkScan::request()
         co_return false;
     }
     co_return true;
+}
+
+QCoro::Task<bool> NetworkScan::hasPermission()
+{
+    try {
+        const AuthorizationStatus permission = co_await m_networkManager.readScanPermission();
+        co_return isAccessGranted(permission);
+    } catch (const BusError& error) {
+        qCWarning(logScan, "Cannot read the permission to scan: %s", error.what());
+    }
+    co_return false;
 }
 
 void NetworkScan::handlePropertiesChanged(const QDBusMessage& signal)

@@ -44,6 +44,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QCoro::Task<bool> request();
+    [[nodiscard]] QCoro::Task<bool> hasPermission();
 
     SystemBus& m_bus;
     NetworkManager& m_networkManager;
