@@ -44,6 +44,7 @@ def AddRadio(self, number, interface, state):
     self.AddObject(CONNECTIONS + number, base.ACTIVE_CONNECTION_IFACE,
                    {"Devices": dbus.Array([DEVICES + number], signature="o")}, [])
     radio.scan, radio.scans, radio.error, radio.milliseconds = scan, 0, "", 50
+    radio.in_range = []
     self.Change(base.MANAGER_OBJ, base.MANAGER_IFACE, "Devices", manager().Get(base.MANAGER_IFACE, "Devices"))
 
 
@@ -73,11 +74,13 @@ def Connect(self, number):
 
 @dbus.service.method(MOCK_IFACE, in_signature="ssayi")
 def AddNetwork(self, radio, name, ssid, seconds_ago):
-    """Adds an access point with a raw name that was last seen so many seconds ago."""
+    """Adds an access point with a raw name, last seen so many seconds ago. Scans see it again only if that is now."""
     base.AddAccessPoint(self, DEVICES + radio, name, "", "00:00:00:00:00:00", 2, 2412, 54000, 80, 0)
     properties = dbusmock.get_object(ACCESS_POINTS + name).props[base.ACCESS_POINT_IFACE]
     properties["Ssid"] = dbus.ByteArray(bytes(ssid))
     properties["LastSeen"] = dbus.Int32(boot_seconds() - seconds_ago)
+    if seconds_ago == 0:
+        dbusmock.get_object(DEVICES + radio).in_range.append(properties)
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="si")
@@ -149,5 +152,7 @@ def scan(radio):
 
 
 def end_scan(radio):
+    for properties in radio.in_range:
+        properties["LastSeen"] = dbus.Int32(properties["LastSeen"] + 1)
     radio.UpdateProperties(base.WIRELESS_DEVICE_IFACE, {"LastScan": dbus.Int64(1000 * boot_seconds())})
     return False

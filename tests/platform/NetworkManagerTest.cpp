@@ -50,7 +50,7 @@ protected:
     const QString root = networkManagerPath, wlan0 = u"wlan0"_s, radio = u"/Devices/0"_s;
     SystemBus systemBus;
     MockService manager{systemBus.connection(), networkManagerService, networkManagerObjects};
-    NetworkManagerWiFiClient client{systemBus, {300ms, 20ms}}, patientClient{systemBus, {1h, 20ms}};
+    NetworkManagerWiFiClient client{systemBus, {300ms, 20ms, 20ms}}, patientClient{systemBus, {1h, 20ms, 2s}};
 };
 
 TEST(NetworkManagerStateTest, theDefaultIsTheRadioThatIsMostReady)
@@ -135,11 +135,22 @@ TEST_F(NetworkManagerTest, waitsForTheEndOfAScanButNotForEver)
     EXPECT_EQ(found(scan), u"a|b"_s);
 }
 
+TEST_F(NetworkManagerTest, takesTheListAsItIsIfNothingIsEverSeenAgain)
+{
+    addNetwork("old"_ba, 900);
+    EXPECT_EQ(found(client.scanForNetworks(wlan0)), u"old"_s);
+    const QVariant reads = manager.tell("CountReads").toInt() + 2; // before the scan and after it
+    const Scan scan = patientClient.scanForNetworks(wlan0);
+    EXPECT_TRUE(eventually([&] { return manager.tell("CountReads") == reads; }));
+    addNetwork("late"_ba, 1);
+    EXPECT_EQ(found(scan), u"late|old"_s);
+}
+
 TEST_F(NetworkManagerTest, whatIsGoneOrHangsIsAnErrorAndBlocksNothing)
 {
     for (const Action& lose :
          {Action([&] { removeRadio(0); }), {[&] { manager.stop(); }}, {[&] { manager.suspend(); }}}) {
-        NetworkManagerWiFiClient impatient{systemBus, {300ms, 20ms, 3s}};
+        NetworkManagerWiFiClient impatient{systemBus, {300ms, 20ms, 20ms, 3s}};
         NetworkManagerAuthorization authorization{systemBus};
         setScan(-1);
         const Scan scan = impatient.scanForNetworks(wlan0);

@@ -57,6 +57,14 @@ QList<WiFiNetwork> NetworkManagerState::networksSeenSince(const WirelessDevice& 
     return networks;
 }
 
+bool isAnySeenAgain(const WirelessDevice& device, const NetworkManagerState& before, const NetworkManagerState& now)
+{
+    return std::ranges::any_of(device.accessPoints, [&](const QString& path) {
+        const auto known = before.accessPoints.find(path);
+        return known != before.accessPoints.end() && now.accessPoints.value(path).lastSeen > known->lastSeen;
+    });
+}
+
 std::optional<QString> ssidText(const QByteArray& ssid)
 {
     if (std::ranges::all_of(ssid, [](char byte) { return byte == 0; }))

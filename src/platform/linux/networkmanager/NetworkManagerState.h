@@ -65,5 +65,9 @@ struct NetworkManagerState {
     [[nodiscard]] QList<WiFiNetwork> networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const;
 };
 
+/// Whether any access point of the radio that was known before has been seen again since. With iwd that never happens.
+[[nodiscard]] bool isAnySeenAgain(const WirelessDevice& device, const NetworkManagerState& before,
+                                  const NetworkManagerState& now);
+
 /// A network's name as text: UTF-8, else Latin-1. None for a hidden one, which is empty or all zeros.
 [[nodiscard]] std::optional<QString> ssidText(const QByteArray& ssid);

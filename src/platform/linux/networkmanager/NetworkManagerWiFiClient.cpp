@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NetworkManagerWiFiClient.h"
 
+#include "Delay.h"
 #include "KernelClock.h"
 #include "PowerWatch.h"
 
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QScopeGuard>
+
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -60,40 +63,37 @@ QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWit
 QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)
 {
     const auto start = readKernelClock(CLOCK_BOOTTIME);
-    const QString path = co_await devicePath(interfaceName);
-    const bool hasScanned = co_await scan(path);
-    const NetworkManagerState state = co_await readState();
-    const auto since = start - (hasScanned ? longestMiss : longestMissUnscanned);
-    co_return state.networksSeenSince(presentDevice(state, interfaceName), since);
+    // Callers have just asked for the interface, so it is usually known.
+    if (m_state.deviceWithInterface(interfaceName) == nullptr)
+        co_await readState();
+    const NetworkManagerState before = m_state;
+    const ScanOutcome outcome = co_await scan(presentDevice(before, interfaceName).path);
+    NetworkManagerState now = co_await readState();
+    auto since = start - (outcome == ScanOutcome::NotPermitted ? longestMissUnscanned : longestMiss);
+    if (outcome == ScanOutcome::Ended && !isAnySeenAgain(presentDevice(now, interfaceName), before, now)) {
+        // iwd: it sees an access point once, and takes it off the list within a minute after it has gone.
+        co_await delay(m_timing.lateResultsTime, this);
+        now = co_await readState();
+        since = 0s;
+    }
+    co_return now.networksSeenSince(presentDevice(now, interfaceName), since);
 }
 
-QCoro::Task<bool> NetworkManagerWiFiClient::scan(QString devicePath)
+QCoro::Task<ScanOutcome> NetworkManagerWiFiClient::scan(QString devicePath)
 {
     const QPointer<NetworkScan> scan = new NetworkScan(m_bus, m_networkManager, devicePath, this);
     const auto remove = qScopeGuard([scan] {
         if (scan)
             scan->deleteLater();
     });
-    const bool hasScanned = co_await scan->run(m_timing);
-    co_return hasScanned;
-}
-
-// Usually known: callers have just asked for the interface.
-QCoro::Task<QString> NetworkManagerWiFiClient::devicePath(QString interfaceName)
-{
-    if (const auto known = m_devicePaths.constFind(interfaceName); known != m_devicePaths.cend())
-        co_return *known;
-    const NetworkManagerState state = co_await readState();
-    co_return presentDevice(state, interfaceName).path;
+    const ScanOutcome outcome = co_await scan->run(m_timing);
+    co_return outcome;
 }
 
 QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readState()
 {
-    const NetworkManagerState state = co_await m_networkManager.readState();
-    m_devicePaths.clear();
-    for (const WirelessDevice& device : state.devices)
-        m_devicePaths.insert(device.interface, device.path);
-    co_return state;
+    m_state = co_await m_networkManager.readState();
+    co_return std::as_const(m_state); // the task would move it out otherwise
 }
 
 // Without an answer from NetworkManager there is no Wi-Fi.

@@ -5,8 +5,6 @@
 #include "NetworkScan.h"
 #include "WiFiClient.h"
 
-#include <QHash>
-
 #include <memory>
 
 class PowerWatch;
@@ -29,14 +27,13 @@ public:
 private:
     [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
     [[nodiscard]] QCoro::Task<NetworkManagerState> readStateOrNone();
-    [[nodiscard]] QCoro::Task<QString> devicePath(QString interfaceName);
-    [[nodiscard]] QCoro::Task<bool> scan(QString devicePath);
+    [[nodiscard]] QCoro::Task<ScanOutcome> scan(QString devicePath);
 
     SystemBus& m_bus;
     ScanTiming m_timing;
     NetworkManager m_networkManager;
-    /// By the names of interfaces, as last read.
-    QHash<QString, QString> m_devicePaths;
+    /// As last read.
+    NetworkManagerState m_state;
     int m_monitors = 0;
     std::unique_ptr<PowerWatch> m_powerWatch;
 };

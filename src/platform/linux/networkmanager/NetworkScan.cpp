@@ -19,12 +19,12 @@ Q_LOGGING_CATEGORY(logScan, "pellory.wifi", QtInfoMsg)
 
 } // namespace
 
-QCoro::Task<bool> NetworkScan::run(ScanTiming timing)
+QCoro::Task<ScanOutcome> NetworkScan::run(ScanTiming timing)
 {
     const bool isRequested = co_await request();
     if (!isRequested) {
         qCDebug(logScan, "Scanning is not permitted: reading the networks already known");
-        co_return false;
+        co_return ScanOutcome::NotPermitted;
     }
     qCDebug(logScan, "Scanning");
     if (!m_hasEnded) {
@@ -32,7 +32,7 @@ QCoro::Task<bool> NetworkScan::run(ScanTiming timing)
         co_await nextSignal(this, &NetworkScan::ended);
     }
     co_await delay(timing.settlingTime, this);
-    co_return true;
+    co_return m_hasEnded ? ScanOutcome::Ended : ScanOutcome::TimedOut;
 }
 
 // A request without permission might open a password prompt.

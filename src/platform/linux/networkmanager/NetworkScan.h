@@ -18,9 +18,13 @@ struct ScanTiming {
     std::chrono::milliseconds scanTimeout = std::chrono::seconds(20);
     /// The last access points are listed only some time after a scan has ended.
     std::chrono::milliseconds settlingTime = std::chrono::milliseconds(300);
+    /// With iwd NetworkManager reports the end of a scan when it begins: the results come this much later.
+    std::chrono::milliseconds lateResultsTime = std::chrono::seconds(6);
     /// How long each bus call may take.
     std::chrono::milliseconds callTimeout = busTimeout;
 };
+
+enum class ScanOutcome { NotPermitted, TimedOut, Ended };
 
 /// One scan by one device.
 class NetworkScan : public QObject {
@@ -35,9 +39,9 @@ public:
     {
     }
 
-    /// Scans, and returns once the results can be read. Returns false if scanning is not permitted. Throws a BusError
-    /// if NetworkManager fails, and Abandoned if it or this is destroyed meanwhile.
-    [[nodiscard]] QCoro::Task<bool> run(ScanTiming timing);
+    /// Scans, and returns once the results can be read. Throws a BusError if NetworkManager fails, and Abandoned if it
+    /// or this is destroyed meanwhile.
+    [[nodiscard]] QCoro::Task<ScanOutcome> run(ScanTiming timing);
 
 Q_SIGNALS:
     void ended();
