@@ -99,6 +99,13 @@
     </message>
 </context>
 <context>
+    <name>CalendarPage</name>
+    <message>
+        <source>Error loading month!</source>
+        <translation>Der Monat konnte nicht geladen werden!</translation>
+    </message>
+</context>
+<context>
     <name>CalendarView</name>
     <message>
         <source>S</source>
@@ -453,10 +460,6 @@
         <source>Next Month</source>
         <translation>Nächster Monat</translation>
     </message>
-    <message>
-        <source>Error loading month!</source>
-        <translation>Der Monat konnte nicht geladen werden!</translation>
-    </message>
 </context>
 <context>
     <name>NetworkList</name>
@@ -511,14 +514,6 @@
 <context>
     <name>QuarterStatsView</name>
     <message>
-        <source>Last Quarter</source>
-        <translation>Voriges Quartal</translation>
-    </message>
-    <message>
-        <source>Next Quarter</source>
-        <translation>Nächstes Quartal</translation>
-    </message>
-    <message>
         <source>Q%1</source>
         <comment>a quarter of the year</comment>
         <translation>%1. Quartal</translation>
@@ -532,8 +527,12 @@
 <context>
     <name>QuarterView</name>
     <message>
-        <source>Error loading month!</source>
-        <translation>Der Monat konnte nicht geladen werden!</translation>
+        <source>Last Quarter</source>
+        <translation>Voriges Quartal</translation>
+    </message>
+    <message>
+        <source>Next Quarter</source>
+        <translation>Nächstes Quartal</translation>
     </message>
 </context>
 <context>

@@ -4,15 +4,20 @@
 #include "Period.h"
 
 #include <QDate>
-#include <QList>
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
+class Clock;
 class ModelContext;
 class Month;
+class MonthCard;
+class NavigationRow;
+class QLabel;
+class QVBoxLayout;
 
-/// A period of the calendar that can be turned like a page, also with Page Up and Page Down.
+/// A month or a quarter of the calendar, which can be turned like a page.
 class CalendarPage : public QWidget {
     Q_OBJECT
 
@@ -20,20 +25,41 @@ public:
     CalendarPage(ModelContext& context, QWidget* parent);
 
     /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
-    virtual void previous() = 0;
-    virtual void next() = 0;
+    void previous();
+    void next();
+    /// Shows the period that a month belongs to, and stores the months of its quarter that are not stored yet.
+    void showPeriod(const YearMonth& month);
     /// Turns to a day and gives it the focus. A day outside the calendar is ignored.
-    virtual void showDay(QDate date) = 0;
+    void showDay(QDate date);
+
+    /// A month of the period, the first after a turn.
+    [[nodiscard]] YearMonth month() const { return m_month; }
 
 protected:
+    /// Adds the parts of the page, from top to bottom. They are hidden while the store cannot be read.
+    [[nodiscard]] QVBoxLayout& contents() { return *m_column; }
+    /// Makes the buttons turn the page.
+    void connectNavigation(NavigationRow& navigation);
+    /// Makes a card show a month of the page: the only one, or the next of a quarter.
+    void connectCard(MonthCard& card);
+
+    /// Passes the months of the quarter to the other parts, whenever a period is shown.
+    virtual void showQuarter(const QList<std::shared_ptr<Month>>& months) = 0;
+
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// Must be called before a period is shown. Creates the months of the quarter that are not stored yet.
-    void loadQuarter(const YearQuarter& quarter);
-    /// The three months of the loaded quarter; empty if the store could not be read.
-    [[nodiscard]] const QList<std::shared_ptr<Month>>& months() const { return m_months; }
-
 private:
+    [[nodiscard]] bool isQuarter() const { return m_cards.size() > 1; }
+    [[nodiscard]] std::optional<YearMonth> monthBefore() const;
+    [[nodiscard]] std::optional<YearMonth> monthAfter() const;
+    [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
+    void turnTo(const std::optional<YearMonth>& month);
+
     ModelContext& m_context;
-    QList<std::shared_ptr<Month>> m_months;
+    YearMonth m_month;
+    std::vector<MonthCard*> m_cards;
+    NavigationRow* m_navigation = nullptr;
+    QLabel* m_error;
+    QWidget* m_contents;
+    QVBoxLayout* m_column;
 };

@@ -15,7 +15,7 @@ NavigationRow::NavigationRow(const QString& previousText, const QString& nextTex
     m_previous->setObjectName("previous"_L1);
     m_next->setObjectName("next"_L1);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins({});
+    row->setContentsMargins(20, 0, 20, 0);
     row->addWidget(m_previous);
     row->addStretch();
     row->addWidget(m_next);

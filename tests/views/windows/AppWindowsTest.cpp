@@ -58,7 +58,7 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     windows->openDay({2025, 2, 3});
     ASSERT_EQ(shown<ContentView>(), main);
     EXPECT_TRUE(eventually([&] { return main->findChild<CalendarView*>()->focusedDay() == 3; }));
-    EXPECT_EQ(main->findChild<MonthView*>()->period(), (YearMonth{2025, 2}));
+    EXPECT_EQ(main->findChild<MonthView*>()->month(), (YearMonth{2025, 2}));
     main->resize(700, 640);
     main->close();
     windows->openMain(); // before the closed one is deleted

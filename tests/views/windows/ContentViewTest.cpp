@@ -39,8 +39,8 @@ TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
         };
         for (const auto& [turn, isNext] : ways) {
             turn();
-            EXPECT_EQ(month.period(), (YearMonth{2026, isQuarter && isNext ? 12 : 11}));
-            EXPECT_EQ(quarter.quarter(), (!isQuarter && isNext ? YearQuarter{2027, 1} : YearQuarter{2026, 4}));
+            EXPECT_EQ(month.month(), (YearMonth{2026, isQuarter && isNext ? 12 : 11}));
+            EXPECT_EQ(quarter.month().quarter(), (!isQuarter && isNext ? YearQuarter{2027, 1} : YearQuarter{2026, 4}));
         }
     }
 }

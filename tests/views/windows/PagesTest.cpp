@@ -70,7 +70,7 @@ TEST_F(PagesTest, showWhatIsSwitchedOn)
     EXPECT_EQ(ModelContainer({.name = {}, .path = path}).mainContext().fetchMonths().size(), 3) << "made once";
     mark(*month(2026, 12), 24, DayState::IN_OFFICE);
     EXPECT_THAT(shownTexts(monthPage), testing::Contains(u"1 days in the office this quarter"_s));
-    quarterPage.showQuarter({2027, 1});
+    quarterPage.showPeriod({2027, 1});
     EXPECT_THAT(shownTexts(quarterPage), testing::Contains(u"Q1 2027"_s));
 }
 
@@ -78,12 +78,12 @@ TEST_F(PagesTest, aStoreThatCannotBeReadIsToldAndNothingIsMade)
 {
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
     other.exec("ALTER TABLE month RENAME TO gone");
-    monthPage.showMonth({2030, 1});
-    quarterPage.showQuarter({2030, 1});
+    monthPage.showPeriod({2030, 1});
+    quarterPage.showPeriod({2030, 1});
     for (const QWidget* page : pages)
         EXPECT_EQ(shownTexts(*page), QStringList(u"Error loading month!"_s));
     EXPECT_FALSE(context.hasChanges());
     other.exec("ALTER TABLE gone RENAME TO month");
-    monthPage.showMonth({2030, 2});
+    monthPage.showPeriod({2030, 2});
     EXPECT_THAT(shownTexts(monthPage), testing::Contains(u"February 2030"_s));
 }

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Card.h"
+#include "StatisticsTexts.h"
+
+#include <QProperty>
+
+#include <memory>
+
+class AppSettings;
+class Month;
+class ProgressWidgetView;
+class QVBoxLayout;
+class ViewSettings;
+
+/// A card with the progress tracker of a period, while that is switched on.
+class TrackerCard : public Card {
+    Q_OBJECT
+
+public:
+    TrackerCard(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
+                const QProperty<bool>& isTrackerShown, QWidget* parent = nullptr);
+
+    void setMonths(const QList<std::shared_ptr<Month>>& months);
+
+protected:
+    /// Both are in the order of the calls.
+    void addAboveTracker(QWidget* widget, Qt::Alignment alignment = {});
+    void addBelowTracker(QWidget* widget);
+
+private:
+    QVBoxLayout* m_above;
+    QVBoxLayout* m_column;
+    ProgressWidgetView* m_tracker;
+};
