@@ -3,7 +3,6 @@
 
 #include "Follow.h"
 #include "ProgressWidgetView.h"
-#include "Rows.h"
 #include "ViewSettings.h"
 
 #include <QVBoxLayout>
@@ -19,7 +18,7 @@ TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSe
     m_column->setContentsMargins(0, 16, 0, 20);
     m_column->setSpacing(8);
     m_column->addLayout(m_above);
-    addCentred(*m_column, m_tracker);
+    m_column->addWidget(m_tracker);
     follow(isTrackerShown, this, [this, &isTrackerShown] { m_tracker->setVisible(isTrackerShown); });
 }
 

@@ -39,4 +39,11 @@ namespace fonts {
     return scaled(base, 0.9);
 }
 
+/// A length in proportion to the desktop's font, but never less than in a font of the usual size.
+[[nodiscard]] inline int grown(int length, const QFont& base)
+{
+    constexpr double usualPointSize = 11.0;
+    return qRound(length * qMax(1.0, base.pointSizeF() / usualPointSize));
+}
+
 } // namespace fonts

@@ -4,13 +4,16 @@
 #include "Accessibility.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
+#include "Labels.h"
 #include "StatisticsTexts.h"
 #include "Theme.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -20,9 +23,13 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto tooltipDelay = 300ms;
-constexpr qreal barRadius = 7.0;
-constexpr int overhang = static_cast<int>(ProgressBarGeometry::captionOverhang);
-constexpr int defaultBarWidth = 375;
+// In parts of the height.
+constexpr qreal barRadius = 7.0 / 24;
+// How far captions extend past the ends of the bar: as wanted, and where there is little room.
+constexpr qreal captionOverhang = 40.0 / 24;
+constexpr qreal leastOverhang = 12.0 / 24;
+// A line is too thin to be hit.
+constexpr qreal lineReach = 4.0;
 
 constexpr HoverLabel::Style tooltipStyle{.padding = {6, 6, 6, 6}, .radius = 4.0, .backgroundOpacity = 1.0};
 
@@ -87,20 +94,46 @@ QString MarkedProgressBar::accessibleText() const
     return parts.join(u"; "_s);
 }
 
+QString MarkedProgressBar::markerTextAt(QPoint place) const
+{
+    const ProgressBarGeometry shown = barGeometry();
+    const QPointF inBar = place - barRect().topLeft();
+    QStringList texts;
+    for (qsizetype i = 0; i < shown.markers.size(); ++i) {
+        const auto& [line, caption] = shown.markers.at(i);
+        if (caption.contains(inBar) || line.adjusted(-lineReach, 0, lineReach, 0).contains(inBar))
+            texts.append(m_contents.markers.at(i).description);
+    }
+    texts.removeDuplicates();
+    return texts.join(", "_L1);
+}
+
 QRect MarkedProgressBar::barRect() const
 {
-    return {overhang, 0, width() - 2 * overhang, static_cast<int>(m_contents.barHeight)};
+    return {(width() - m_contents.barWidth) / 2, 0, m_contents.barWidth, static_cast<int>(m_contents.barHeight)};
 }
 
 QSize MarkedProgressBar::sizeHint() const
 {
-    return {defaultBarWidth + 2 * overhang, static_cast<int>(std::ceil(geometryFor(defaultBarWidth).height))};
+    return sizeWith(captionOverhang * m_contents.barHeight);
 }
 
-ProgressBarGeometry MarkedProgressBar::geometryFor(qreal barWidth) const
+QSize MarkedProgressBar::minimumSizeHint() const
+{
+    return sizeWith(leastOverhang * m_contents.barHeight);
+}
+
+QSize MarkedProgressBar::sizeWith(qreal overhang) const
+{
+    return {m_contents.barWidth + 2 * qRound(overhang), static_cast<int>(std::ceil(barGeometry().height))};
+}
+
+ProgressBarGeometry MarkedProgressBar::barGeometry() const
 {
     const QFontMetricsF captions(m_contents.markerFont);
-    ProgressBarMeasures measures{.width = barWidth,
+    const qreal free = 0.5 * (width() - m_contents.barWidth);
+    ProgressBarMeasures measures{.width = static_cast<qreal>(m_contents.barWidth),
+                                 .overhang = std::clamp(free, 0.0, captionOverhang * m_contents.barHeight),
                                  .barHeight = m_contents.barHeight,
                                  .progress = m_contents.progress,
                                  .prediction = m_contents.progressPrediction,
@@ -111,9 +144,20 @@ ProgressBarGeometry MarkedProgressBar::geometryFor(qreal barWidth) const
                                  .markers = {}};
     if (m_contents.label)
         measures.labelWidth = QFontMetricsF(labelFont(*this)).horizontalAdvance(twoDecimals(*m_contents.label));
-    for (const ProgressMarker& marker : m_contents.markers)
-        measures.markers.append({marker.position, std::ceil(captions.horizontalAdvance(marker.description))});
+    for (const ProgressMarker& marker : m_contents.markers) {
+        const QString& text = marker.description;
+        measures.markers.append({marker.position, text, std::ceil(captions.horizontalAdvance(text)), marker.isTarget});
+    }
     return progressBarGeometry(measures);
+}
+
+bool MarkedProgressBar::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto& help = *static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help.globalPos(), labels::help(markerTextAt(help.pos())), this);
+    return true;
 }
 
 void MarkedProgressBar::leaveEvent(QEvent* event)
@@ -154,21 +198,22 @@ void MarkedProgressBar::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(barRect().topLeft());
-    const ProgressBarGeometry geometry = geometryFor(barRect().width());
-    paintBar(painter, geometry);
+    const ProgressBarGeometry shown = barGeometry();
+    paintBar(painter, shown);
     if (m_contents.label)
-        paintLabel(painter, geometry);
-    paintMarkers(painter, geometry);
+        paintLabel(painter, shown);
+    paintMarkers(painter, shown);
 }
 
 void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& geometry) const
 {
+    const qreal radius = barRadius * m_contents.barHeight;
     QPainterPath outline;
-    outline.addRoundedRect(geometry.bar, barRadius, barRadius);
+    outline.addRoundedRect(geometry.bar, radius, radius);
     // However short, a fill is clipped by the left end of the bar and has a round right end.
     const auto fill = [&](const QRectF& rect, const QColor& color) {
         QPainterPath part;
-        part.addRoundedRect(rect.adjusted(-2 * barRadius, 0, 0, 0), barRadius, barRadius);
+        part.addRoundedRect(rect.adjusted(-2 * radius, 0, 0, 0), radius, radius);
         painter.fillPath(part.intersected(outline), color);
     };
     painter.fillPath(outline, m_contents.backgroundColor);
@@ -206,7 +251,12 @@ void MarkedProgressBar::paintMarkers(QPainter& painter, const ProgressBarGeometr
         painter.fillRect(line, colorOf(marker));
         painter.setPen(colorOf(marker));
         // Rounded because the width is a difference, which can be a little less than a whole number.
-        painter.drawText(caption, Qt::AlignCenter,
-                         painter.fontMetrics().elidedText(marker.description, Qt::ElideRight, qRound(caption.width())));
+        painter.drawText(
+            caption, Qt::AlignCenter,
+            painter.fontMetrics().elidedText(marker.description, Qt::ElideMiddle, qRound(caption.width())));
     }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_contents.markerColor);
+    for (const QPointF& place : geometry.separators)
+        painter.drawEllipse(place, m_contents.markerLineWidth / 2, m_contents.markerLineWidth / 2);
 }

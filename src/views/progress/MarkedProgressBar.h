@@ -16,6 +16,8 @@ struct ProgressMarker {
     /// A fraction of the bar's width, 0 to 1.
     double position = 0.0;
     QString description;
+    /// The marker of the goal that is named above the bar.
+    bool isTarget = false;
 };
 
 /// A horizontal bar with two fills, the progress reached and the progress predicted, and markers with captions below.
@@ -42,6 +44,7 @@ public:
         qreal markerLineWidth = 2.0;
         qreal markerLineHeight = 9.0;
         QFont markerFont;
+        int barWidth = 375;
     };
 
     explicit MarkedProgressBar(QWidget* parent = nullptr);
@@ -51,19 +54,24 @@ public:
     [[nodiscard]] const Contents& contents() const { return m_contents; }
     [[nodiscard]] QColor colorOf(const ProgressMarker& marker) const;
     [[nodiscard]] QString tooltipText() const;
+    /// The whole texts of the markers whose line or caption is there.
+    [[nodiscard]] QString markerTextAt(QPoint place) const;
     /// The bar without the margins for captions at both ends.
     [[nodiscard]] QRect barRect() const;
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] ProgressBarGeometry geometryFor(qreal barWidth) const;
+    [[nodiscard]] ProgressBarGeometry barGeometry() const;
+    [[nodiscard]] QSize sizeWith(qreal overhang) const;
     [[nodiscard]] QString accessibleText() const;
     void setHovered(bool inside);
     void paintBar(QPainter& painter, const ProgressBarGeometry& geometry) const;

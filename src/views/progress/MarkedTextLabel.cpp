@@ -1,28 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MarkedTextLabel.h"
 
+#include "Labels.h"
+
 #include <QEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace {
 
-QSize roundedUp(const QSizeF& size)
+constexpr qreal unlimited = std::numeric_limits<int>::max();
+
+QList<QTextLayout::FormatRange> boldRanges(const MarkedText& text, const QColor& color)
 {
-    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    bold.setForeground(color);
+    QList<QTextLayout::FormatRange> ranges;
+    int start = 0;
+    for (const TextRun& run : text) {
+        const int length = static_cast<int>(run.text.size());
+        if (run.bold)
+            ranges.append({start, length, bold});
+        start += length;
+    }
+    return ranges;
 }
 
 } // namespace
+
+MarkedTextLabel::MarkedTextLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
 
 void MarkedTextLabel::setMarkedText(const MarkedText& text)
 {
     if (text == m_text)
         return;
     m_text = text;
-    m_width = notLaidOut;
     setText(toPlainText(text));
+    layOut();
+}
+
+void MarkedTextLabel::setLineCount(int lines)
+{
+    m_lines = lines;
+    layOut();
     updateGeometry();
 }
 
@@ -32,75 +61,78 @@ void MarkedTextLabel::setPlainRole(QPalette::ColorRole role)
     update();
 }
 
+int MarkedTextLabel::linesFor(const MarkedText& text, int width) const
+{
+    QTextLayout layout;
+    return breakLines(layout, text, toPlainText(text).size(), width);
+}
+
 QSize MarkedTextLabel::sizeHint() const
 {
-    return roundedUp(layOut(std::numeric_limits<int>::max()));
+    QTextLayout layout;
+    breakLines(layout, m_text, text().size(), unlimited);
+    return {static_cast<int>(std::ceil(layout.maximumWidth())), minimumSizeHint().height()};
 }
 
 QSize MarkedTextLabel::minimumSizeHint() const
 {
-    return {0, fontMetrics().height()};
-}
-
-int MarkedTextLabel::heightForWidth(int width) const
-{
-    return roundedUp(layOut(width)).height();
+    return {0, m_lines * fontMetrics().height()};
 }
 
 void MarkedTextLabel::changeEvent(QEvent* event)
 {
     // The layout depends on font, direction and palette.
-    m_width = notLaidOut;
+    layOut();
     QLabel::changeEvent(event);
 }
 
 void MarkedTextLabel::paintEvent(QPaintEvent* /*event*/)
 {
-    layOut(width());
     QPainter painter(this);
     painter.setPen(palette().color(m_plainRole));
     m_layout.draw(&painter, {});
 }
 
-QSizeF MarkedTextLabel::layOut(qreal width) const
+void MarkedTextLabel::resizeEvent(QResizeEvent* event)
 {
-    // Text that fits on one line is laid out the same at every width in between.
-    const bool isOneLine = m_layout.lineCount() == 1 && m_size.width() <= width && width <= m_width;
-    if (width == m_width || (isOneLine && layoutDirection() == Qt::LeftToRight))
-        return m_size;
-    if (m_width == notLaidOut)
-        prepareLayout();
-    m_width = width;
-    m_size = {};
-    m_layout.beginLayout();
-    for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
-        line.setLineWidth(width);
-        line.setPosition({0.0, m_size.height()});
-        m_size = {qMax(m_size.width(), line.naturalTextWidth()), m_size.height() + line.height()};
-    }
-    m_layout.endLayout();
-    return m_size;
+    QLabel::resizeEvent(event);
+    layOut();
 }
 
-void MarkedTextLabel::prepareLayout() const
+void MarkedTextLabel::layOut()
 {
-    QList<QTextLayout::FormatRange> formats;
-    int start = 0;
-    for (const TextRun& run : m_text) {
-        const int length = static_cast<int>(run.text.size());
-        if (run.bold) {
-            QTextCharFormat bold;
-            bold.setFontWeight(QFont::Bold);
-            bold.setForeground(palette().color(QPalette::WindowText));
-            formats.append({start, length, bold});
+    const qsizetype whole = text().size();
+    m_isElided = breakLines(m_layout, m_text, whole, width()) > m_lines;
+    if (m_isElided) {
+        qsizetype fitting = 0;
+        qsizetype tooLong = whole;
+        while (tooLong - fitting > 1) {
+            const qsizetype letters = std::midpoint(fitting, tooLong);
+            (breakLines(m_layout, m_text, letters, width()) > m_lines ? tooLong : fitting) = letters;
         }
-        start += length;
+        breakLines(m_layout, m_text, fitting, width());
     }
-    QTextOption option(Qt::AlignLeading);
+    setToolTip(m_isElided ? labels::help(text()) : QString());
+    update();
+}
+
+int MarkedTextLabel::breakLines(QTextLayout& layout, const MarkedText& text, qsizetype letters, qreal width) const
+{
+    const QString whole = toPlainText(text);
+    QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
     option.setTextDirection(layoutDirection());
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_layout.setText(text());
-    m_layout.setFont(font());
-    m_layout.setFormats(formats);
-    m_layout.setTextOption(option);
+    layout.setText(letters < whole.size() ? whole.left(letters).trimmed() + u'\u2026' : whole);
+    layout.setFont(font());
+    layout.setFormats(boldRanges(text, palette().color(QPalette::WindowText)));
+    layout.setTextOption(option);
+    qreal height = 0.0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0.0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return layout.lineCount();
 }

@@ -6,37 +6,39 @@
 #include <QLabel>
 #include <QTextLayout>
 
-/// A label that wraps and has some words in bold. To assistive technology it is a plain label.
+/// A label that has some words in bold, and always the height of the same number of lines. Text that needs more is
+/// elided, and whole in the tooltip. To assistive technology it is a plain label.
 class MarkedTextLabel : public QLabel {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit MarkedTextLabel(QWidget* parent = nullptr);
 
     void setMarkedText(const MarkedText& text);
+    void setLineCount(int lines);
     /// Sets the colour of the words that are not bold.
     void setPlainRole(QPalette::ColorRole role);
 
+    /// How many lines a text needs at this width.
+    [[nodiscard]] int linesFor(const MarkedText& text, int width) const;
+    [[nodiscard]] bool isElided() const { return m_isElided; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
-    [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    static constexpr qreal notLaidOut = -1.0;
-
-    /// Breaks the text into lines of this width and returns their size.
-    QSizeF layOut(qreal width) const;
-    void prepareLayout() const;
+    void layOut();
+    /// Breaks a text into lines, or its first letters and an ellipsis, and returns the number of lines.
+    int breakLines(QTextLayout& layout, const MarkedText& text, qsizetype letters, qreal width) const;
 
     MarkedText m_text;
-    /// The last layout, kept because layouts ask for the same widths repeatedly.
-    mutable QTextLayout m_layout;
-    mutable QSizeF m_size;
-    mutable qreal m_width = notLaidOut;
+    int m_lines = 1;
+    QTextLayout m_layout;
+    bool m_isElided = false;
     QPalette::ColorRole m_plainRole = QPalette::WindowText;
 };

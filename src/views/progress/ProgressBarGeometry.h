@@ -2,16 +2,15 @@
 #pragma once
 
 #include <QList>
+#include <QPointF>
 #include <QRectF>
 
 /// The layout of a progress bar, in device-independent pixels from the bar's top left corner. Captions may extend past
-/// both ends of the bar by `captionOverhang`.
+/// both ends of the bar.
 struct ProgressBarGeometry {
-    static constexpr qreal captionOverhang = 40.0;
-
     struct Marker {
         QRectF line;
-        /// Narrower than the text if there is no room for all of it, empty if there is none at all.
+        /// Narrower than the text if there is no room for all of it, empty if an equal marker shows the same text.
         QRectF caption;
     };
 
@@ -20,12 +19,16 @@ struct ProgressBarGeometry {
     QRectF progress;
     QRectF label;
     QList<Marker> markers;
-    /// From the top of the bar to the bottom of the lowest caption.
+    /// Between captions that had to move aside and stand side by side.
+    QList<QPointF> separators;
+    /// From the top of the bar to the bottom of the lower row of captions, whatever captions there are.
     qreal height = 0.0;
 };
 
 struct ProgressBarMeasures {
     qreal width = 0.0;
+    /// How far captions may extend past an end of the bar.
+    qreal overhang = 0.0;
     qreal barHeight = 0.0;
     /// Fractions of the width, 0 to 1.
     double progress = 0.0;
@@ -37,30 +40,12 @@ struct ProgressBarMeasures {
 
     struct Marker {
         double position = 0.0;
+        QString caption;
         qreal captionWidth = 0.0;
+        /// Others give way to its caption.
+        bool isTarget = false;
     };
     QList<Marker> markers;
 };
 
 [[nodiscard]] ProgressBarGeometry progressBarGeometry(const ProgressBarMeasures& measures);
-
-/// A horizontal extent.
-struct Span {
-    qreal left = 0.0;
-    qreal right = 0.0;
-
-    bool operator==(const Span&) const = default;
-};
-
-struct PlacedCaption {
-    /// 0 is the upper row, 1 the lower.
-    int row = 0;
-    /// The part of the wanted span that is free in the row; right == left if none is.
-    Span span;
-
-    bool operator==(const PlacedCaption&) const = default;
-};
-
-/// Places captions on two rows without overlaps, in the upper row where possible. A caption that fits in neither row is
-/// cut in the row with more space. Results are in the order of the arguments.
-[[nodiscard]] QList<PlacedCaption> placeCaptions(const QList<Span>& wanted);

@@ -17,8 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int columnWidth = 375;
-constexpr int textInset = static_cast<int>(ProgressBarGeometry::captionOverhang);
+// In the usual font, with which they grow.
+constexpr int usualColumnWidth = 375;
+constexpr int usualBarHeight = 24;
+constexpr int usualLineHeight = 9;
+constexpr int usualLineWidth = 2;
+constexpr int linesOfGoal = 2;
+// More digits than the days of a quarter have.
+constexpr qint64 widestDays = 88;
 
 QString captionOf(const ValuedGoal& goal)
 {
@@ -39,21 +45,25 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
 {
     m_headline->setObjectName("headline"_L1);
     m_headline->setFont(fonts::headline(font()));
-    m_headline->setContentsMargins({});
     m_goal->setObjectName("goal"_L1);
     m_goal->setFont(fonts::body(font()));
     m_goal->setPlainRole(QPalette::PlaceholderText);
 
-    auto* texts = new QVBoxLayout;
-    texts->setContentsMargins(textInset, 0, textInset, 4);
-    texts->setSpacing(4);
-    texts->addWidget(m_headline);
-    texts->addWidget(m_goal);
+    // The height is the same whatever the texts are, so that nothing below moves when they change.
+    const int columnWidth = fonts::grown(usualColumnWidth, font());
+    m_headline->setFixedWidth(columnWidth);
+    m_headline->setLineCount(m_headline->linesFor(headlineText(widestDays, period), columnWidth));
+    m_goal->setFixedWidth(columnWidth);
+    m_goal->setLineCount(linesOfGoal);
+    QSizePolicy policy = m_goal->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_goal->setSizePolicy(policy);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addLayout(texts);
+    column->setSpacing(4);
+    column->addWidget(m_headline, 0, Qt::AlignHCenter);
+    column->addWidget(m_goal, 0, Qt::AlignHCenter);
     column->addWidget(m_bar);
-    setFixedWidth(columnWidth + 2 * textInset);
     onChange(m_contents, this, [this] { refresh(); });
 }
 
@@ -85,15 +95,21 @@ ProgressWidgetView::Contents ProgressWidgetView::contents() const
                                     .progressPrediction = fractions.prediction,
                                     .label = shownAverage(statistics),
                                     .markers = {},
+                                    .barHeight = static_cast<qreal>(fonts::grown(usualBarHeight, font())),
                                     .progressColor = theme.progress,
                                     .progressPredictionColor = theme.prediction,
                                     .backgroundColor = theme.progressTrack,
                                     .reachedMarkerColor = theme.progressText,
                                     .predictedMarkerColor = theme.predictionText,
                                     .markerColor = theme.dimText,
-                                    .markerFont = fonts::subheadline(font())};
-    for (qsizetype i = 0; i < fractions.markers.size(); ++i)
-        bar.markers.append({fractions.markers.at(i), captionOf(statistics.validGoals.at(i))});
+                                    .markerLineWidth = static_cast<qreal>(fonts::grown(usualLineWidth, font())),
+                                    .markerLineHeight = static_cast<qreal>(fonts::grown(usualLineHeight, font())),
+                                    .markerFont = fonts::subheadline(font()),
+                                    .barWidth = fonts::grown(usualColumnWidth, font())};
+    for (qsizetype i = 0; i < fractions.markers.size(); ++i) {
+        const ValuedGoal& goal = statistics.validGoals.at(i);
+        bar.markers.append({fractions.markers.at(i), captionOf(goal), goal.goal == statistics.targetGoal->goal});
+    }
     return {headlineText(statistics.inOffice, m_period), goalText(statistics), bar, m_viewSettings.showProgressBars};
 }
 
