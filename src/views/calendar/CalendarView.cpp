@@ -58,6 +58,7 @@ void CalendarView::addHeader(QGridLayout& grid)
     m_name = new QLabel;
     m_name->setFont(fonts::title(font()));
     m_name->setAlignment(Qt::AlignCenter);
+    m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long name would move the cells
     m_workdays = new QLabel;
     m_workdays->setFont(fonts::subheadline(font()));
     m_workdays->setForegroundRole(QPalette::PlaceholderText);

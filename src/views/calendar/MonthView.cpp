@@ -18,8 +18,8 @@ MonthView::MonthView(ModelContext& context, const AppSettings& settings, const V
     auto* month = new MonthCard(context, settings, viewSettings, clock, navigation);
     connectNavigation(*navigation);
     connectCard(*month);
-    contents().addWidget(m_quarter, 0, Qt::AlignHCenter);
     contents().addWidget(month, 0, Qt::AlignHCenter);
+    contents().addWidget(m_quarter, 0, Qt::AlignHCenter);
     const auto& isQuarterShown = viewSettings.showQuarterStats;
     follow(isQuarterShown, m_quarter, [this, &isQuarterShown] { m_quarter->setVisible(isQuarterShown); });
     const QDate today = clock.today();

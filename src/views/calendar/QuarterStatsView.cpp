@@ -27,7 +27,7 @@ QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettin
     if (navigation != nullptr)
         addAboveTracker(navigation);
     addAboveTracker(m_title);
-    addAboveTracker(m_workdays);
+    addBelowTracker(m_workdays);
     connect(&clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
 }
 

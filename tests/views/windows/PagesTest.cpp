@@ -46,6 +46,42 @@ TEST_F(PagesTest, keysKeepTheDayAndCrossTheEndsOfAPeriod)
     }
 }
 
+TEST_F(PagesTest, noMarkNoGoalAndNoTurnMovesWhatIsClicked)
+{
+    const auto places = [this] {
+        QCoreApplication::processEvents();
+        QList<QRect> found;
+        for (const QWidget* page : pages) {
+            for (const auto* button : page->findChildren<QAbstractButton*>())
+                found.append({button->mapTo(page, QPoint()), button->size()});
+        }
+        return found;
+    };
+    const auto before = places();
+    auto& goals = settings->daysPerWeekGoals;
+    const QString longName = u"as many words as fit on no two lines "_s.repeated(9);
+    const std::function<void()> changes[]{
+        [&] { mark(*month(2026, 11), 20, DayState::IN_OFFICE); },
+        [&] { goals.value().first()->desc = longName; },
+        [&] { goals.value().last()->desc = longName; },
+        [&] { mark(*month(2026, 11), 19, DayState::VACATION_DAY); },
+        [&] {
+            goals = goals.value() + AppSettings::Goals{Goal::create(u"2"_s, {}), Goal::create(u"2.1"_s, {})};
+        },
+        [&] { goals.value().last()->wantedDaysPerWeek = u"x"_s; },
+        [&] { goals = AppSettings::Goals(); },
+    };
+    for (const auto& change : changes) {
+        change();
+        EXPECT_EQ(places(), before) << &change - changes;
+    }
+    for (int turn = 0; turn < 12; ++turn) {
+        monthPage.next();
+        quarterPage.next();
+        EXPECT_EQ(places(), before) << turn;
+    }
+}
+
 TEST_F(PagesTest, showWhatIsSwitchedOn)
 {
     // On each page: the trackers of a month, those of a quarter, and bars.
