@@ -462,6 +462,13 @@
     </message>
 </context>
 <context>
+    <name>NavigationRow</name>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+</context>
+<context>
     <name>NetworkList</name>
     <message>
         <source>(empty name)</source>

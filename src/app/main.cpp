@@ -131,7 +131,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, Sin
     Background background(parts, windows, platform.notifier, platform.trayHost, settings);
     followColorScheme(platform.appearance, settings);
 
-    QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openMain);
+    QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openToday);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
     QObject::connect(&platform.quitSignals, &QuitSignals::requested, &windows, quit);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);

@@ -2,6 +2,8 @@
 #include "CalendarPage.h"
 
 #include "CalendarView.h"
+#include "Clock.h"
+#include "LinkButton.h"
 #include "MonthCard.h"
 #include "NavigationRow.h"
 #include "StoreError.h"
@@ -12,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -27,9 +30,11 @@ std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
 
 } // namespace
 
-CalendarPage::CalendarPage(ModelContext& context, QWidget* parent)
+CalendarPage::CalendarPage(ModelContext& context, const Clock& clock, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
+    , m_clock(clock)
+    , m_today(clock.today())
     , m_error(new QLabel(tr("Error loading month!")))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
@@ -43,29 +48,34 @@ CalendarPage::CalendarPage(ModelContext& context, QWidget* parent)
     page->addWidget(m_error);
     page->addWidget(m_contents);
     page->addStretch();
+    connect(&clock, &Clock::dayChanged, this, &CalendarPage::followToday);
 }
 
 void CalendarPage::connectNavigation(NavigationRow& navigation)
 {
     m_navigation = &navigation;
-    connect(m_navigation, &NavigationRow::previousRequested, this, &CalendarPage::previous);
-    connect(m_navigation, &NavigationRow::nextRequested, this, &CalendarPage::next);
+    connect(m_navigation, &NavigationRow::previousRequested, this, [this] { previous(Qt::MouseFocusReason); });
+    connect(m_navigation, &NavigationRow::nextRequested, this, [this] { next(Qt::MouseFocusReason); });
+    connect(m_navigation, &NavigationRow::todayRequested, this, [this] {
+        // The link is about to be hidden.
+        showToday(m_navigation->todayLink()->hasFocus() ? Qt::TabFocusReason : Qt::MouseFocusReason);
+    });
 }
 
 void CalendarPage::connectCard(MonthCard& card)
 {
     m_cards.push_back(&card);
-    connect(&card.calendar(), &CalendarView::dayRequested, this, &CalendarPage::showDay);
+    connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
 }
 
-void CalendarPage::previous()
+void CalendarPage::previous(Qt::FocusReason reason)
 {
-    turnTo(monthBefore());
+    turnTo(monthBefore(), reason);
 }
 
-void CalendarPage::next()
+void CalendarPage::next(Qt::FocusReason reason)
 {
-    turnTo(monthAfter());
+    turnTo(monthAfter(), reason);
 }
 
 void CalendarPage::showPeriod(const YearMonth& month)
@@ -81,17 +91,25 @@ void CalendarPage::showPeriod(const YearMonth& month)
         m_cards[i]->setMonth(months.at(isQuarter() ? static_cast<qsizetype>(i) : (month.month - 1) % 3));
     showQuarter(months);
     m_navigation->setAvailable(monthBefore().has_value(), monthAfter().has_value());
+    m_navigation->todayLink()->setVisible(!isShown(m_today));
 }
 
-void CalendarPage::showDay(QDate date)
+void CalendarPage::showDay(QDate date, Qt::FocusReason reason)
 {
     if (date.year() < firstYear || date.year() > lastYear)
         return;
-    const YearMonth wanted{date.year(), date.month()};
-    const bool isShown = isQuarter() ? wanted.quarter() == m_month.quarter() : wanted == m_month;
-    if (!isShown || m_contents->isHidden())
-        showPeriod(wanted);
-    m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)->calendar().focusDay(date.day());
+    if (!isShown(date) || m_contents->isHidden())
+        showPeriod({date.year(), date.month()});
+    if (m_contents->isHidden())
+        return;
+    m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)
+        ->calendar()
+        .focusDay(date.day(), reason);
+}
+
+void CalendarPage::showToday(Qt::FocusReason reason)
+{
+    showDay(m_today, reason);
 }
 
 void CalendarPage::keyPressEvent(QKeyEvent* event)
@@ -125,13 +143,39 @@ QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
     }
 }
 
-void CalendarPage::turnTo(const std::optional<YearMonth>& month)
+bool CalendarPage::isShown(QDate date) const
+{
+    const YearMonth month{date.year(), date.month()};
+    return isQuarter() ? month.quarter() == m_month.quarter() : month == m_month;
+}
+
+CalendarView* CalendarPage::focusedCalendar() const
+{
+    const auto focused = std::ranges::find_if(m_cards, [](auto* card) { return card->calendar().focusedDay() > 0; });
+    return focused == m_cards.end() ? nullptr : &(*focused)->calendar();
+}
+
+void CalendarPage::turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason)
 {
     if (!month)
         return;
-    const auto focused = std::ranges::find_if(m_cards, [](auto* card) { return card->calendar().focusedDay() > 0; });
-    const int day = focused == m_cards.end() ? 0 : (*focused)->calendar().focusedDay();
+    CalendarView* const calendar = focusedCalendar();
+    if (calendar != nullptr && calendar->focusedDay() != m_reachedDay)
+        m_wantedDay = calendar->focusedDay();
     showPeriod(*month);
-    if (day > 0)
-        (*focused)->calendar().focusDay(day);
+    if (calendar == nullptr)
+        return;
+    calendar->focusDay(m_wantedDay, reason);
+    m_reachedDay = calendar->focusedDay();
+}
+
+void CalendarPage::followToday()
+{
+    const QDate before = std::exchange(m_today, m_clock.today());
+    if (!isShown(before) || isShown(m_today))
+        m_navigation->todayLink()->setVisible(!isShown(m_today));
+    else if (focusedCalendar() != nullptr)
+        showDay(m_today, Qt::OtherFocusReason);
+    else
+        showPeriod({m_today.year(), m_today.month()});
 }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class CalendarView;
 class Clock;
 class ModelContext;
 class Month;
@@ -17,20 +18,24 @@ class NavigationRow;
 class QLabel;
 class QVBoxLayout;
 
+/// The keys that lead back to today.
+inline constexpr QKeyCombination todayKeys = Qt::CTRL | Qt::Key_Home;
+
 /// A month or a quarter of the calendar, which can be turned like a page.
 class CalendarPage : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarPage(ModelContext& context, QWidget* parent);
+    CalendarPage(ModelContext& context, const Clock& clock, QWidget* parent);
 
     /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
-    void previous();
-    void next();
+    void previous(Qt::FocusReason reason = Qt::ShortcutFocusReason);
+    void next(Qt::FocusReason reason = Qt::ShortcutFocusReason);
     /// Shows the period that a month belongs to, and stores the months of its quarter that are not stored yet.
     void showPeriod(const YearMonth& month);
     /// Turns to a day and gives it the focus. A day outside the calendar is ignored.
-    void showDay(QDate date);
+    void showDay(QDate date, Qt::FocusReason reason = Qt::TabFocusReason);
+    void showToday(Qt::FocusReason reason);
 
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
@@ -53,13 +58,21 @@ private:
     [[nodiscard]] std::optional<YearMonth> monthBefore() const;
     [[nodiscard]] std::optional<YearMonth> monthAfter() const;
     [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
-    void turnTo(const std::optional<YearMonth>& month);
+    [[nodiscard]] bool isShown(QDate date) const;
+    [[nodiscard]] CalendarView* focusedCalendar() const;
+    void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
+    void followToday();
 
     ModelContext& m_context;
+    const Clock& m_clock;
+    QDate m_today;
     YearMonth m_month;
     std::vector<MonthCard*> m_cards;
     NavigationRow* m_navigation = nullptr;
     QLabel* m_error;
     QWidget* m_contents;
     QVBoxLayout* m_column;
+    /// The day that the last turn gave the focus, and the one that it would have if the month were long enough.
+    int m_reachedDay = 0;
+    int m_wantedDay = 0;
 };

@@ -136,10 +136,10 @@ void CalendarView::setMonth(const std::shared_ptr<Month>& month)
     setTabStop(m_cells[static_cast<std::size_t>(*month->indexOf(isThisMonth ? today.day() : 1))]);
 }
 
-void CalendarView::focusDay(int dayOfMonth)
+void CalendarView::focusDay(int dayOfMonth, Qt::FocusReason reason)
 {
     const auto index = m_month->indexOf(std::min<int>(dayOfMonth, m_month->daysInMonth));
-    m_cells[static_cast<std::size_t>(*index)]->setFocus(Qt::TabFocusReason);
+    m_cells[static_cast<std::size_t>(*index)]->setFocus(reason);
 }
 
 QString CalendarView::title(QDate today) const

@@ -27,7 +27,7 @@ public:
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] Month* month() const { return m_month.get(); }
     /// Gives a day the keyboard focus. Past the end of the month this is the last day.
-    void focusDay(int dayOfMonth);
+    void focusDay(int dayOfMonth, Qt::FocusReason reason = Qt::TabFocusReason);
     /// The day that has the keyboard focus, 0 if none has.
     [[nodiscard]] int focusedDay() const;
 

@@ -2,7 +2,6 @@
 #include "MonthCard.h"
 
 #include "CalendarView.h"
-#include "NavigationRow.h"
 #include "ViewSettings.h"
 
 MonthCard::MonthCard(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
@@ -10,9 +9,7 @@ MonthCard::MonthCard(ModelContext& context, const AppSettings& settings, const V
     : TrackerCard(settings, viewSettings, PeriodWord::Month, viewSettings.showMonthStats, parent)
     , m_calendar(new CalendarView(context, viewSettings, clock))
 {
-    if (navigation != nullptr)
-        addAboveTracker(navigation);
-    addAboveTracker(m_calendar, Qt::AlignHCenter);
+    addHeader(navigation, m_calendar);
 }
 
 void MonthCard::setMonth(const std::shared_ptr<Month>& month)

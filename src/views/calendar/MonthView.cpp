@@ -11,7 +11,7 @@
 
 MonthView::MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                      const Clock& clock, QWidget* parent)
-    : CalendarPage(context, parent)
+    : CalendarPage(context, clock, parent)
     , m_quarter(new TrackerCard(settings, viewSettings, PeriodWord::Quarter, viewSettings.showQuarterStats))
 {
     auto* navigation = new NavigationRow(tr("Last Month"), tr("Next Month"));

@@ -5,7 +5,7 @@
 
 class LinkButton;
 
-/// The buttons for the previous and the next period.
+/// The buttons for the previous and the next period, and the link back to today.
 class NavigationRow : public QWidget {
     Q_OBJECT
 
@@ -14,12 +14,16 @@ public:
 
     /// Enables the buttons; at the ends of the calendar one is disabled.
     void setAvailable(bool previous, bool next);
+    /// Hidden at first. The owner shows it, beside the name of the period.
+    [[nodiscard]] LinkButton* todayLink() { return m_today; }
 
 Q_SIGNALS:
     void previousRequested();
     void nextRequested();
+    void todayRequested();
 
 private:
     LinkButton* m_previous;
     LinkButton* m_next;
+    LinkButton* m_today;
 };

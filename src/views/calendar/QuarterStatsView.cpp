@@ -4,7 +4,6 @@
 #include "Clock.h"
 #include "Fonts.h"
 #include "Month.h"
-#include "NavigationRow.h"
 #include "ViewSettings.h"
 
 #include <QLabel>
@@ -19,14 +18,12 @@ QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettin
     , m_workdays(new QLabel)
 {
     m_title->setFont(fonts::title(font()));
-    m_title->setAlignment(Qt::AlignCenter);
+    m_title->setContentsMargins(0, 0, 0, 6);
     m_workdays->setObjectName("workdays"_L1);
     m_workdays->setFont(fonts::subheadline(font()));
     m_workdays->setForegroundRole(QPalette::PlaceholderText);
     m_workdays->setAlignment(Qt::AlignCenter);
-    if (navigation != nullptr)
-        addAboveTracker(navigation);
-    addAboveTracker(m_title);
+    addHeader(navigation, m_title);
     addBelowTracker(m_workdays);
     connect(&clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
 }

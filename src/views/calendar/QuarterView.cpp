@@ -19,7 +19,7 @@ constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
 
 QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
                          const Clock& clock, QWidget* parent)
-    : CalendarPage(context, parent)
+    : CalendarPage(context, clock, parent)
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));

@@ -2,22 +2,22 @@
 #include "TrackerCard.h"
 
 #include "Follow.h"
+#include "LinkButton.h"
+#include "NavigationRow.h"
 #include "ProgressWidgetView.h"
 #include "ViewSettings.h"
 
-#include <QVBoxLayout>
+#include <QGridLayout>
 
 TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
                          const QProperty<bool>& isTrackerShown, QWidget* parent)
     : Card(parent)
-    , m_above(new QVBoxLayout)
     , m_column(new QVBoxLayout(this))
     , m_tracker(new ProgressWidgetView(settings, viewSettings, period))
 {
     setFixedWidth(contentWidth);
-    m_column->setContentsMargins(0, 16, 0, 20);
+    m_column->setContentsMargins(0, 16, 0, 12);
     m_column->setSpacing(8);
-    m_column->addLayout(m_above);
     m_column->addWidget(m_tracker);
     follow(isTrackerShown, this, [this, &isTrackerShown] { m_tracker->setVisible(isTrackerShown); });
 }
@@ -27,9 +27,20 @@ void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
     m_tracker->setMonths(months);
 }
 
-void TrackerCard::addAboveTracker(QWidget* widget, Qt::Alignment alignment)
+void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 {
-    m_above->addWidget(widget, 0, alignment);
+    auto* header = new QGridLayout;
+    header->setContentsMargins(20, 0, 20, 0);
+    header->setVerticalSpacing(m_column->spacing());
+    if (navigation != nullptr)
+        header->addWidget(navigation, 0, 0);
+    header->addWidget(title, 1, 0, Qt::AlignHCenter);
+    if (navigation != nullptr) {
+        // Beside the name, which is in the middle, so that nothing moves when the link appears.
+        header->addWidget(navigation->todayLink(), 1, 0, Qt::AlignTop | Qt::AlignRight);
+        navigation->todayLink()->raise();
+    }
+    m_column->insertLayout(0, header);
 }
 
 void TrackerCard::addBelowTracker(QWidget* widget)

@@ -10,6 +10,7 @@
 
 class AppSettings;
 class Month;
+class NavigationRow;
 class ProgressWidgetView;
 class QVBoxLayout;
 class ViewSettings;
@@ -25,12 +26,11 @@ public:
     void setMonths(const QList<std::shared_ptr<Month>>& months);
 
 protected:
-    /// Both are in the order of the calls.
-    void addAboveTracker(QWidget* widget, Qt::Alignment alignment = {});
+    /// Adds what names the period above the tracker, and the navigation, if there is one, above that.
+    void addHeader(NavigationRow* navigation, QWidget* title);
     void addBelowTracker(QWidget* widget);
 
 private:
-    QVBoxLayout* m_above;
     QVBoxLayout* m_column;
     ProgressWidgetView* m_tracker;
 };

@@ -9,49 +9,58 @@
 
 namespace {
 
-constexpr int linkSymbolSize = 16;
+constexpr int usualSymbolSize = 16;
 constexpr int linkGap = 4;
 constexpr QMargins linkPadding(6, 4, 6, 4);
 
 } // namespace
 
-LinkButton::LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent)
+LinkButton::LinkButton(const QString& text, QWidget* parent)
     : FlatButton(parent)
-    , m_symbol(symbol)
-    , m_side(side)
+    , m_symbolSize(fonts::grown(usualSymbolSize, font()))
 {
     setText(text);
     setFont(fonts::body(font()));
 }
 
+LinkButton::LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent)
+    : LinkButton(text, parent)
+{
+    m_symbol = symbol;
+    m_side = side;
+}
+
 QSize LinkButton::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return QSize(words.width() + linkGap + linkSymbolSize, qMax(words.height(), linkSymbolSize)).grownBy(linkPadding);
+    const QSize symbol = m_symbol ? QSize(linkGap + m_symbolSize, m_symbolSize) : QSize(0, 0);
+    return QSize(words.width() + symbol.width(), qMax(words.height(), symbol.height())).grownBy(linkPadding);
 }
 
 void LinkButton::paintEvent(QPaintEvent* /*event*/)
 {
     const Theme& theme = themeFor(palette());
-    const QColor color = isEnabled() ? theme.accent : theme.dimText;
     const QRect inside = rect().marginsRemoved(linkPadding);
-    const Qt::Alignment symbolEdge = m_side == SymbolSide::Leading ? Qt::AlignLeft : Qt::AlignRight;
-    const Qt::Alignment wordsEdge = m_side == SymbolSide::Leading ? Qt::AlignRight : Qt::AlignLeft;
+    const bool isLeading = m_side == SymbolSide::Leading;
+    const auto edge = [this](bool isLeft) {
+        return QStyle::visualAlignment(layoutDirection(), isLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+    };
 
     QPainter painter(this);
     paintFace(painter, theme.page);
-    painter.setPen(color);
-    painter.drawText(QStyle::visualRect(layoutDirection(), inside, inside),
-                     static_cast<int>(QStyle::visualAlignment(layoutDirection(), wordsEdge) | Qt::AlignVCenter),
-                     text());
-    const QRect symbolPlace =
-        QStyle::alignedRect(layoutDirection(), symbolEdge | Qt::AlignVCenter, {linkSymbolSize, linkSymbolSize}, inside);
+    painter.setPen(isEnabled() ? theme.accent : theme.dimText);
+    painter.drawText(inside, static_cast<int>(edge(!isLeading)), text());
+    if (m_symbol)
+        paintSymbol(painter,
+                    QStyle::alignedRect(Qt::LeftToRight, edge(isLeading), {m_symbolSize, m_symbolSize}, inside));
+}
+
+void LinkButton::paintSymbol(QPainter& painter, const QRect& place) const
+{
     // Arrows point the other way in right-to-left layouts.
-    painter.save();
     if (layoutDirection() == Qt::RightToLeft) {
-        painter.translate(2.0 * QRectF(symbolPlace).center().x(), 0.0);
+        painter.translate(2.0 * QRectF(place).center().x(), 0.0);
         painter.scale(-1.0, 1.0);
     }
-    drawSymbol(painter, symbolPlace, m_symbol, color);
-    painter.restore();
+    drawSymbol(painter, place, *m_symbol, painter.pen().color());
 }

@@ -4,13 +4,16 @@
 #include "FlatButton.h"
 #include "Symbol.h"
 
-/// A flat button with a text and a symbol in the accent colour.
+#include <optional>
+
+/// A flat button in the accent colour: a text, with a symbol or without.
 class LinkButton : public FlatButton {
     Q_OBJECT
 
 public:
     enum class SymbolSide { Leading, Trailing };
 
+    explicit LinkButton(const QString& text, QWidget* parent = nullptr);
     LinkButton(const QString& text, Symbol symbol, SymbolSide side, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -19,6 +22,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Symbol m_symbol;
-    SymbolSide m_side;
+    void paintSymbol(QPainter& painter, const QRect& place) const;
+
+    std::optional<Symbol> m_symbol;
+    SymbolSide m_side = SymbolSide::Leading;
+    int m_symbolSize;
 };

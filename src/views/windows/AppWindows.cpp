@@ -77,6 +77,12 @@ void AppWindows::openMain(const QString& activationToken)
         raise(*m_welcome, {});
 }
 
+void AppWindows::openToday(const QString& activationToken)
+{
+    openMain(activationToken);
+    m_main->showToday();
+}
+
 void AppWindows::openDay(QDate day, const QString& activationToken)
 {
     openMain(activationToken);

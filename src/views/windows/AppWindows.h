@@ -22,6 +22,8 @@ public:
 
     /// Opens the main window, or raises it. Some desktops let a window come to the front only with a token.
     void openMain(const QString& activationToken = {});
+    /// Opens the main window at today.
+    void openToday(const QString& activationToken = {});
     /// Opens the main window at a day. An invalid date leaves it where it is.
     void openDay(QDate day, const QString& activationToken = {});
     void open(WindowId id);

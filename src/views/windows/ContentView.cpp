@@ -109,12 +109,13 @@ void ContentView::addShortcuts()
         connect(shortcut, &QShortcut::activated, m_tabs, [this, tab] { m_tabs->setCurrentIndex(tab); });
     }
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
-    const auto add = [this](Qt::Key arrow, void (CalendarPage::*turn)()) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | arrow), this);
-        connect(shortcut, &QShortcut::activated, this, [this, turn] { (page().*turn)(); });
+    const auto add = [this](QKeyCombination keys, void (CalendarPage::*turn)(Qt::FocusReason)) {
+        auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, [this, turn] { (page().*turn)(Qt::ShortcutFocusReason); });
     };
-    add(isLeftToRight ? Qt::Key_Left : Qt::Key_Right, &CalendarPage::previous);
-    add(isLeftToRight ? Qt::Key_Right : Qt::Key_Left, &CalendarPage::next);
+    add(Qt::ALT | (isLeftToRight ? Qt::Key_Left : Qt::Key_Right), &CalendarPage::previous);
+    add(Qt::ALT | (isLeftToRight ? Qt::Key_Right : Qt::Key_Left), &CalendarPage::next);
+    add(todayKeys, &CalendarPage::showToday);
 }
 
 void ContentView::alertIfNeeded()
@@ -134,6 +135,11 @@ CalendarPage& ContentView::page() const
 void ContentView::showDay(QDate date)
 {
     page().showDay(date);
+}
+
+void ContentView::showToday()
+{
+    page().showToday(Qt::OtherFocusReason);
 }
 
 void ContentView::showTab(int index)

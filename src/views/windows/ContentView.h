@@ -23,6 +23,7 @@ public:
 
     /// Turns the current tab to a day and gives it the focus.
     void showDay(QDate date);
+    void showToday();
 
 Q_SIGNALS:
     /// A button of the toolbar was pressed.

@@ -59,6 +59,8 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     ASSERT_EQ(shown<ContentView>(), main);
     EXPECT_TRUE(eventually([&] { return main->findChild<CalendarView*>()->focusedDay() == 3; }));
     EXPECT_EQ(main->findChild<MonthView*>()->month(), (YearMonth{2025, 2}));
+    windows->openToday();
+    EXPECT_EQ(main->findChild<MonthView*>()->month(), (YearMonth{2026, 11}));
     main->resize(700, 640);
     main->close();
     windows->openMain(); // before the closed one is deleted
@@ -156,6 +158,9 @@ bool isClipped(const QWidget& text)
     const QSize least = text.minimumSizeHint();
     const int height = text.hasHeightForWidth() ? text.heightForWidth(text.width()) : least.height();
     const int right = text.mapTo(text.window(), text.rect().topRight()).x();
+    const auto* marked = qobject_cast<const MarkedTextLabel*>(&text);
+    if (marked != nullptr && marked->isElided())
+        return true;
     return text.width() < least.width() || text.height() < height || right > text.window()->width();
 }
 

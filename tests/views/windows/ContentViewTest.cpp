@@ -36,6 +36,8 @@ TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
             {[&] { press(window, Qt::Key_PageUp); }, false},
             {[&] { click(named<QAbstractButton>(page, "next")); }, true},
             {[&] { click(named<QAbstractButton>(page, "previous")); }, false},
+            {[&] { press(window, Qt::Key_PageDown); }, true},
+            {[&] { press(window, Qt::Key_Home, Qt::ControlModifier); }, false},
         };
         for (const auto& [turn, isNext] : ways) {
             turn();

@@ -17,13 +17,14 @@ protected:
 
     MonthView monthPage{context, *settings, viewSettings, clock};
     QuarterView quarterPage{context, *settings, viewSettings, clock};
-    QWidget* const pages[2]{&monthPage, &quarterPage};
+    CalendarPage* const pages[2]{&monthPage, &quarterPage};
 };
 
 TEST_F(PagesTest, keysKeepTheDayAndCrossTheEndsOfAPeriod)
 {
     const std::tuple<CalendarPage&, QDate, Qt::Key, QDate> rows[]{
         {monthPage, {2026, 1, 31}, Qt::Key_PageDown, {2026, 2, 28}},
+        {monthPage, {2026, 2, 28}, Qt::Key_PageDown, {2026, 3, 31}},
         {monthPage, {2026, 1, 3}, Qt::Key_Up, {2025, 12, 27}},
         {monthPage, {1, 1, 1}, Qt::Key_Left, {1, 1, 1}},
         {quarterPage, {2026, 5, 31}, Qt::Key_PageUp, {2026, 2, 28}},
@@ -33,7 +34,7 @@ TEST_F(PagesTest, keysKeepTheDayAndCrossTheEndsOfAPeriod)
     for (const auto& [page, from, key, to] : rows) {
         SCOPED_TRACE(from.toString(Qt::ISODate).toStdString());
         show(page);
-        page.showDay(from);
+        page.showDay(from); // which changes nothing if the day before led there
         press(page, key);
         QList<QDate> focused;
         for (const auto* calendar : page.findChildren<CalendarView*>()) {
@@ -43,6 +44,53 @@ TEST_F(PagesTest, keysKeepTheDayAndCrossTheEndsOfAPeriod)
         EXPECT_EQ(focused, QList({to}));
         EXPECT_EQ(named<QWidget>(page, "previous").isEnabled(), to.year() > 1);
         EXPECT_EQ(named<QWidget>(page, "next").isEnabled(), to.year() < 9999);
+    }
+}
+
+TEST_F(PagesTest, leadBackToTodayAndMoveOnWithIt)
+{
+    for (CalendarPage* page : pages) {
+        show(*page);
+        const auto& link = named<QWidget>(*page, "today");
+        EXPECT_FALSE(link.isVisible());
+        page->showPeriod({2024, 2});
+        EXPECT_TRUE(link.isVisible());
+        click(link);
+        EXPECT_FALSE(link.isVisible());
+        EXPECT_EQ(page->month(), (YearMonth{2026, 11}));
+    }
+    clock.beginDay({2027, 1, 1});
+    EXPECT_EQ(monthPage.month(), (YearMonth{2027, 1}));
+    EXPECT_EQ(quarterPage.month(), (YearMonth{2027, 1}));
+    quarterPage.next();
+    clock.beginDay({2027, 2, 1});
+    EXPECT_EQ(monthPage.month(), (YearMonth{2027, 2}));
+    EXPECT_EQ(quarterPage.month(), (YearMonth{2027, 4})) << "not left open on the current quarter";
+}
+
+TEST_F(PagesTest, theNavigationIsBeforeTheDaysAndAClickOnItShowsNoFocus)
+{
+    const auto isRinged = [](CommandClickableButton& day) {
+        const QImage image = day.grab().toImage();
+        const auto isAccent = [&](int y) {
+            return image.pixelColor(image.width() / 2, y) == themeFor(ColorScheme::Light).accent;
+        };
+        return isAccent(0) || isAccent(1);
+    };
+    for (CalendarPage* page : pages) {
+        page->showPeriod({2026, 8});
+        show(*page);
+        named<QWidget>(*page, "previous").setFocus();
+        for (const char* control : {"next", "today"}) {
+            press(*page, Qt::Key_Tab);
+            EXPECT_EQ(page->focusWidget(), &named<QWidget>(*page, control));
+        }
+        press(*page, Qt::Key_Tab);
+        EXPECT_TRUE(isRinged(dayButton(*page, 1)));
+        click(dayButton(*page, 15));
+        click(named<QWidget>(*page, "next"));
+        EXPECT_TRUE(dayButton(*page, 15).hasFocus());
+        EXPECT_FALSE(isRinged(dayButton(*page, 15)));
     }
 }
 
@@ -73,12 +121,12 @@ TEST_F(PagesTest, noMarkNoGoalAndNoTurnMovesWhatIsClicked)
     };
     for (const auto& change : changes) {
         change();
-        EXPECT_EQ(places(), before) << &change - changes;
+        EXPECT_TRUE(places() == before) << &change - changes;
     }
     for (int turn = 0; turn < 12; ++turn) {
         monthPage.next();
         quarterPage.next();
-        EXPECT_EQ(places(), before) << turn;
+        EXPECT_TRUE(places() == before) << turn;
     }
 }
 
