@@ -39,6 +39,14 @@ protected:
         QApplication::processEvents();
     }
 
+    /// Whether something is drawn on a ground.
+    [[nodiscard]] static bool hasMark(const QImage& image)
+    {
+        QImage ground = image.copy();
+        ground.fill(image.pixelColor(0, 0));
+        return image != ground;
+    }
+
     const QTemporaryDir folder{inMemory};
     const QString path = folder.filePath(u"Pellory.store"_s);
     ModelContainer container{{.name = {}, .path = path}};

@@ -171,6 +171,7 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
     const QDate date = m_month->dateOf(day.id);
     cell.setText(QString::number(day.id));
     cell.setTint(dayColor(themeFor(palette()), day));
+    cell.setState(day.state);
     cell.setTooltipText(description(day.state));
     cell.setRinged(date == today);
     //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.

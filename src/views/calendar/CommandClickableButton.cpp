@@ -3,17 +3,22 @@
 
 #include "Fonts.h"
 #include "HoverLabel.h"
+#include "StateMark.h"
 #include "Theme.h"
 #include "ViewSettings.h"
 
 #include <QContextMenuEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
 constexpr QSize minimumFace(35, 26);
 constexpr int cellRadius = 8;
 constexpr int cellRingMargin = 5;
+// The number stands a little above the middle, which leaves room for the mark below it.
+constexpr qreal numberLift = 4.0;
+constexpr int markInset = 2;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
 
@@ -53,11 +58,19 @@ void CommandClickableButton::setTint(const QColor& tint)
     update();
 }
 
+void CommandClickableButton::setState(DayState state)
+{
+    if (m_state == state)
+        return;
+    m_state = state;
+    updateLabel();
+    update();
+}
+
 void CommandClickableButton::setTooltipText(const std::optional<QString>& text)
 {
     m_tooltipText = text;
-    if (m_label && text)
-        m_label->setText(*text);
+    updateLabel();
 }
 
 void CommandClickableButton::setRinged(bool ringed)
@@ -76,6 +89,13 @@ void CommandClickableButton::resetHover()
 QRect CommandClickableButton::face() const
 {
     return rect().marginsRemoved(QMargins() + cellRingMargin);
+}
+
+QRect CommandClickableButton::markArea() const
+{
+    const int size = face().height() * 6 / minimumFace.height();
+    const QRect inner = face().adjusted(markInset, markInset, -markInset, -markInset);
+    return QStyle::alignedRect(layoutDirection(), Qt::AlignHCenter | Qt::AlignBottom, {size, size}, inner);
 }
 
 QSize CommandClickableButton::sizeHint() const
@@ -184,7 +204,8 @@ void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
     painter.setBrush(isDown() ? m_tint.darker(115) : m_tint);
     painter.drawRoundedRect(area, cellRadius, cellRadius);
     painter.setPen(readableTextOn(m_tint));
-    painter.drawText(area, Qt::AlignCenter, text());
+    painter.drawText(area.adjusted(0, 0, 0, -numberLift), Qt::AlignCenter, text());
+    drawStateMark(painter, markArea(), m_state, painter.pen().color());
     if (m_ringed)
         drawRing(painter, area, todayRingOutset, {theme.text, 1.75});
     if (hasFocus() && m_focusVisible)
@@ -226,9 +247,21 @@ void CommandClickableButton::setShowTooltip(bool show)
 {
     if (show && m_tooltipText && !m_label) {
         m_label = new HoverLabel(this, face(), labelStyle);
-        m_label->setText(*m_tooltipText);
+        updateLabel();
     } else if (!show && m_label) {
         m_label->dismiss();
         m_label.clear();
     }
+}
+
+void CommandClickableButton::updateLabel()
+{
+    if (!m_label || !m_tooltipText)
+        return;
+    HoverLabel::Mark mark;
+    if (m_state != DayState::UNKNOWN)
+        mark = [state = m_state](QPainter& painter, const QRectF& area) {
+            drawStateMark(painter, area, state, Qt::white);
+        };
+    m_label->setText(*m_tooltipText, mark);
 }

@@ -32,6 +32,8 @@ public:
     ~CommandClickableButton() override;
 
     void setTint(const QColor& tint);
+    /// Shows the mark of a state below the number, and before the text of the label.
+    void setState(DayState state);
     void setTooltipText(const std::optional<QString>& text);
     /// Draws a ring around the button, which marks today.
     void setRinged(bool ringed);
@@ -40,6 +42,8 @@ public:
     void resetHover();
     /// The coloured part, which reacts to clicks. The margin around it is for the rings.
     [[nodiscard]] QRect face() const;
+    /// Where the mark of the state is.
+    [[nodiscard]] QRect markArea() const;
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -68,10 +72,12 @@ private:
     void requestMenu(const QPoint& globalPosition);
     void setHovered(bool inside);
     void setShowTooltip(bool show);
+    void updateLabel();
 
     Actions m_actions;
     const ViewSettings& m_viewSettings;
     QColor m_tint;
+    DayState m_state = DayState::UNKNOWN;
     std::optional<QString> m_tooltipText;
     QPointer<HoverLabel> m_label;
     Qt::KeyboardModifiers m_heldAtKeyPress;

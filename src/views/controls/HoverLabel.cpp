@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPropertyAnimation>
+#include <QStyle>
 
 namespace {
 
@@ -30,9 +31,10 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
     window()->installEventFilter(this);
 }
 
-void HoverLabel::setText(const QString& text)
+void HoverLabel::setText(const QString& text, const Mark& mark)
 {
     m_text = text;
+    m_mark = mark;
     reposition();
     raise();
     show();
@@ -48,7 +50,18 @@ void HoverLabel::dismiss()
 
 QSize HoverLabel::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextSingleLine, m_text).grownBy(m_style.padding);
+    const QSize text = fontMetrics().size(Qt::TextSingleLine, m_text);
+    return text.grownBy(m_style.padding).grownBy({markRoom(), 0, 0, 0});
+}
+
+int HoverLabel::markSize() const
+{
+    return fontMetrics().capHeight();
+}
+
+int HoverLabel::markRoom() const
+{
+    return m_mark ? markSize() * 3 / 2 : 0;
 }
 
 void HoverLabel::setOpacity(qreal opacity)
@@ -74,8 +87,13 @@ void HoverLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(background);
     painter.drawRoundedRect(rect(), m_style.radius, m_style.radius);
+    const QRect contents = rect().marginsRemoved(m_style.padding);
     painter.setPen(Qt::white);
-    painter.drawText(rect(), Qt::AlignCenter, m_text);
+    painter.drawText(QStyle::visualRect(layoutDirection(), contents, contents.adjusted(markRoom(), 0, 0, 0)),
+                     Qt::AlignCenter, m_text);
+    if (m_mark)
+        m_mark(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
+                                            {markSize(), markSize()}, contents));
 }
 
 void HoverLabel::fadeTo(qreal opacity)

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+
 class QPropertyAnimation;
 
 /// A short text that fades in over a widget and out again. It is a child of the window, so that neighbours cannot cover
@@ -23,7 +25,10 @@ public:
     /// `area` is in the coordinates of the anchor, which the label follows when it moves.
     HoverLabel(QWidget* anchor, const QRect& area, const Style& style);
 
-    void setText(const QString& text);
+    /// Paints a mark before the text, in a square area.
+    using Mark = std::function<void(QPainter& painter, const QRectF& area)>;
+
+    void setText(const QString& text, const Mark& mark = {});
     [[nodiscard]] QString text() const { return m_text; }
     /// Fades out, then deletes the label.
     void dismiss();
@@ -39,11 +44,15 @@ protected:
 private:
     void fadeTo(qreal opacity);
     void reposition();
+    /// The sides of the square of the mark, and the room it takes with its distance from the text.
+    [[nodiscard]] int markSize() const;
+    [[nodiscard]] int markRoom() const;
 
     QPointer<QWidget> m_anchor;
     QRect m_area;
     Style m_style;
     QString m_text;
+    Mark m_mark;
     qreal m_opacity = 0.0;
     QPropertyAnimation* m_fade;
 };

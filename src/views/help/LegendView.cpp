@@ -5,6 +5,7 @@
 #include "KeyCap.h"
 #include "Labels.h"
 #include "StateGestures.h"
+#include "StateMark.h"
 #include "Switch.h"
 #include "SymbolView.h"
 #include "Theme.h"
@@ -30,12 +31,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
-        constexpr qreal radius = 6.0;
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(dayColor(themeFor(palette()), m_day));
-        painter.drawRoundedRect(rect(), radius, radius);
+        drawDaySwatch(painter, rect(), themeFor(palette()), m_day);
     }
 
 private:

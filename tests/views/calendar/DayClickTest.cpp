@@ -40,8 +40,10 @@ TEST_F(DayClickTest, aDayHasTheColourOfItsStateAndTodayARing)
             const QColor unknown = day == friday ? theme.unknown : theme.nonWorkday;
             for (const QColor& colour :
                  {unknown, theme.inOffice, theme.outOfOffice, theme.vacationDay, theme.willBeInOffice, unknown}) {
-                EXPECT_EQ(painted(dayButton(view, day), 2), colour) << day;
-                click(dayButton(view, day));
+                auto& button = dayButton(view, day);
+                EXPECT_EQ(painted(button, 2), colour) << day;
+                EXPECT_EQ(hasMark(button.grab(button.markArea()).toImage()), colour != unknown) << day;
+                click(button);
             }
             mark(*november, day, UNKNOWN); // from outside the view
             EXPECT_EQ(painted(dayButton(view, day), -3) != theme.page, day == friday);

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Theme.h"
-#include "DayState.h"
+#include "StateMark.h"
+
+#include <QPainter>
 
 #include <gmock/gmock.h>
 
 TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
 {
     EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21.0, 0.01);
-    for (const auto& [scheme, least] : {std::pair(ColorScheme::Light, 4.5), std::pair(ColorScheme::Dark, 4.0)}) {
+    constexpr double least = 4.5;
+    for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         const Theme& theme = themeFor(scheme);
         QList<QColor> grounds{theme.progress, theme.prediction, theme.progressTrack};
         for (const DayState state : allDayStates)
@@ -18,5 +21,28 @@ TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
             EXPECT_GE(contrastRatio(text, theme.card), least) << text.name().toStdString();
         EXPECT_GE(contrastRatio(Qt::white, theme.hoverLabel), least);
         EXPECT_EQ(colorSchemeOf(paletteFor(scheme)), scheme);
+    }
+}
+
+TEST(StateMarkTest, tellsStatesApartWithoutColour)
+{
+    QList<QImage> marks;
+    for (const DayState state : allDayStates) {
+        QImage mark(6, 6, QImage::Format_Grayscale8);
+        mark.fill(Qt::white);
+        QPainter painter(&mark);
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawStateMark(painter, mark.rect(), state, Qt::black);
+        marks.append(mark);
+    }
+    const auto darkness = [](const QImage& a, const QImage& b) {
+        int sum = 0;
+        for (int i = 0; i < 36; ++i)
+            sum += std::abs(qGray(a.pixel(i % 6, i / 6)) - qGray(b.pixel(i % 6, i / 6)));
+        return sum / 255;
+    };
+    for (qsizetype i = 0; i < marks.size(); ++i) {
+        for (qsizetype j = 0; j < i; ++j)
+            EXPECT_GE(darkness(marks.at(i), marks.at(j)), 6) << i << ' ' << j; // pixels of 36
     }
 }
