@@ -44,8 +44,7 @@ CalendarView::CalendarView(ModelContext& context, const ViewSettings& viewSettin
     setAccessibleRole(*this, QAccessible::Grouping);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins({});
-    grid->setHorizontalSpacing(2);
-    grid->setVerticalSpacing(0);
+    grid->setSpacing(0); // a click between two cells would be lost
     addHeader(*grid);
     addWeekdays(*grid);
     addCells(*grid);
@@ -90,7 +89,7 @@ void CalendarView::addCells(QGridLayout& grid)
     for (qsizetype index = 0; index < drawnCells; ++index) {
         m_cells.push_back(makeCell(index));
         grid.addWidget(m_cells.back(), firstCellRow + static_cast<int>(index) / columns,
-                       static_cast<int>(index) % columns, Qt::AlignCenter);
+                       static_cast<int>(index) % columns);
     }
 }
 

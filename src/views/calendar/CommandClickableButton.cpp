@@ -15,9 +15,9 @@ namespace {
 
 constexpr QSize minimumFace(35, 26);
 constexpr int cellRadius = 8;
-constexpr int cellRingMargin = 5;
+constexpr QMargins cellMargins(6, 5, 6, 5);
 // The number stands a little above the middle, which leaves room for the mark below it.
-constexpr qreal numberLift = 4.0;
+constexpr int numberLift = 4;
 constexpr int markInset = 2;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
@@ -39,7 +39,7 @@ CommandClickableButton::CommandClickableButton(Actions actions, const ViewSettin
     , m_actions(std::move(actions))
     , m_viewSettings(viewSettings)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     setFont(fonts::body(font()));
     // Only assistive technology emits this; mouse and keys have modifiers and call run() themselves.
     connect(this, &QAbstractButton::clicked, this, [this] { run(Qt::NoModifier); });
@@ -88,7 +88,7 @@ void CommandClickableButton::resetHover()
 
 QRect CommandClickableButton::face() const
 {
-    return rect().marginsRemoved(QMargins() + cellRingMargin);
+    return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, faceSize(), rect());
 }
 
 QRect CommandClickableButton::markArea() const
@@ -98,15 +98,21 @@ QRect CommandClickableButton::markArea() const
     return QStyle::alignedRect(layoutDirection(), Qt::AlignHCenter | Qt::AlignBottom, {size, size}, inner);
 }
 
-QSize CommandClickableButton::sizeHint() const
+QRect CommandClickableButton::numberArea() const
 {
-    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("30"));
-    return text.grownBy({8, 3, 8, 3}).expandedTo(minimumFace).grownBy(QMargins() + cellRingMargin);
+    const QRect area(0, 0, face().width(), fontMetrics().capHeight());
+    return area.translated(face().center() - area.center() - QPoint(0, numberLift / 2));
 }
 
-bool CommandClickableButton::hitButton(const QPoint& position) const
+QSize CommandClickableButton::faceSize() const
 {
-    return face().contains(position);
+    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("30"));
+    return text.grownBy({8, 3, 8, 3}).expandedTo(minimumFace);
+}
+
+QSize CommandClickableButton::sizeHint() const
+{
+    return faceSize().grownBy(cellMargins);
 }
 
 void CommandClickableButton::contextMenuEvent(QContextMenuEvent* event)
@@ -169,7 +175,7 @@ void CommandClickableButton::keyReleaseEvent(QKeyEvent* event)
 
 void CommandClickableButton::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !hitButton(event->position().toPoint())) {
+    if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
@@ -178,7 +184,7 @@ void CommandClickableButton::mousePressEvent(QMouseEvent* event)
 
 void CommandClickableButton::mouseMoveEvent(QMouseEvent* event)
 {
-    // Leaving the face cancels the click, even if the pointer comes back.
+    // Leaving the cell cancels the click, even if the pointer comes back.
     if (isDown() && !hitButton(event->position().toPoint()))
         setDown(false);
 }
@@ -246,7 +252,7 @@ void CommandClickableButton::setHovered(bool inside)
 void CommandClickableButton::setShowTooltip(bool show)
 {
     if (show && m_tooltipText && !m_label) {
-        m_label = new HoverLabel(this, face(), labelStyle);
+        m_label = new HoverLabel(this, numberArea(), labelStyle);
         updateLabel();
     } else if (!show && m_label) {
         m_label->dismiss();

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] bool isRinged() const { return m_ringed; }
     /// Hides the label, whatever the setting.
     void resetHover();
-    /// The coloured part, which reacts to clicks. The margin around it is for the rings.
+    /// The coloured part. The margin around it is for the rings, and reacts like it.
     [[nodiscard]] QRect face() const;
     /// Where the mark of the state is.
     [[nodiscard]] QRect markArea() const;
@@ -52,7 +52,6 @@ Q_SIGNALS:
     void menuRequested(const QPoint& globalPosition);
 
 protected:
-    bool hitButton(const QPoint& position) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -66,6 +65,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// Where the digits are.
+    [[nodiscard]] QRect numberArea() const;
+    [[nodiscard]] QSize faceSize() const;
     void run(Qt::KeyboardModifiers held);
     /// Where the menu opens if a key was pressed, in global coordinates.
     [[nodiscard]] QPoint menuCorner() const;

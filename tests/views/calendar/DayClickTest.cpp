@@ -53,15 +53,17 @@ TEST_F(DayClickTest, aDayHasTheColourOfItsStateAndTodayARing)
     EXPECT_EQ(dayOnDisk(friday).state, OUT_OF_OFFICE);
 }
 
-TEST_F(DayClickTest, onlyAPressThatStaysOnTheFaceIsAClick)
+TEST_F(DayClickTest, onlyAPressThatStaysOnTheDayIsAClick)
 {
     const QPoint face = inWindow(dayButton(view, friday)), neighbour = inWindow(dayButton(view, saturday));
-    const QPoint margin = dayButton(view, friday).mapTo(&view, QPoint(1, 1));
+    const QRect cell = dayButton(view, friday).geometry();
+    const QPoint corner = cell.topLeft();
+    EXPECT_EQ(dayButton(view, saturday).pos(), cell.topRight() + QPoint(1, 0)); // no gap
+    EXPECT_EQ(dayButton(view, 27).pos(), cell.bottomLeft() + QPoint(0, 1));
     const std::tuple<Qt::MouseButton, std::array<QPoint, 3>, DayState> rows[]{
         {Qt::LeftButton, {face, face + QPoint(9, 5), face + QPoint(9, 5)}, IN_OFFICE},
         {Qt::LeftButton, {face, neighbour, face}, UNKNOWN},
-        {Qt::LeftButton, {face, face, margin}, UNKNOWN},
-        {Qt::LeftButton, {margin, face, face}, UNKNOWN},
+        {Qt::LeftButton, {corner, face, corner}, IN_OFFICE},
         {Qt::MiddleButton, {face, face, face}, UNKNOWN},
     };
     for (const auto& [button, way, after] : rows) {
