@@ -7,6 +7,7 @@
 #include "Follow.h"
 #include "Fonts.h"
 #include "Month.h"
+#include "RestingPointer.h"
 #include "StatisticsTexts.h"
 #include "StatusPicker.h"
 #include "Theme.h"
@@ -42,6 +43,7 @@ CalendarView::CalendarView(ModelContext& context, const ViewSettings& viewSettin
     , m_highlighted(highlighted)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
+    new RestingPointer(this);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins({});
     grid->setSpacing(0); // a click between two cells would be lost

@@ -25,6 +25,12 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(fonts::caption(anchor->window()->font()));
     m_fade->setDuration(fadeMilliseconds);
+    for (auto* other : window()->findChildren<HoverLabel*>(Qt::FindDirectChildrenOnly)) {
+        if (other == this)
+            continue;
+        m_opacity = other->m_opacity;
+        delete other;
+    }
     // Scrolling moves an ancestor of the anchor, not the anchor itself.
     for (QWidget* moving = anchor; moving != nullptr && moving != window(); moving = moving->parentWidget())
         moving->installEventFilter(this);
@@ -114,7 +120,7 @@ void HoverLabel::reposition()
 
 QRect hoverLabelRect(QSize label, const QRect& anchor, const QRect& window)
 {
-    constexpr int gap = 4;
+    constexpr int gap = 2;
     QRect place(QPoint(), label);
     place.moveCenter(anchor.center());
     place.moveBottom(anchor.top() - gap);

@@ -8,7 +8,8 @@
 
 class QPropertyAnimation;
 
-/// A short text that fades in over a widget and out again. It is a child of the window, so that neighbours cannot cover
+/// A short text that fades in over a widget and out again. A window has one at a time: a new one takes the place of
+/// another. It is a child of the window, so that neighbours cannot cover
 /// it, stays inside the window and ignores the mouse.
 class HoverLabel : public QWidget {
     Q_OBJECT

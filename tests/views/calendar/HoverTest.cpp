@@ -3,11 +3,21 @@
 #include "HoverLabel.h"
 
 #include <QPropertyAnimation>
+#include <QScrollArea>
+#include <QScrollBar>
 
 class HoverTest : public CalendarViewTest {
 protected:
-    void rest(int day) { moveTo(view, inWindow(dayButton(view, day))); }
-    [[nodiscard]] QList<HoverLabel*> labels() const { return view.findChildren<HoverLabel*>(); }
+    void rest(int day)
+    {
+        const QPoint place = inWindow(dayButton(view, day));
+        QCursor::setPos(view.window()->mapToGlobal(place));
+        moveTo(view, place);
+    }
+    [[nodiscard]] QList<HoverLabel*> labels() const
+    {
+        return view.window()->findChildren<HoverLabel*>(Qt::FindDirectChildrenOnly);
+    }
 };
 
 TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
@@ -35,12 +45,30 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
     EXPECT_TRUE(eventually([&] { return labels().isEmpty(); }));
 }
 
+TEST_F(HoverTest, theOnlyLabelIsThatOfTheDayUnderThePointerAlsoAfterScrolling)
+{
+    QScrollArea area;
+    area.setWidget(&view);
+    area.resize(400, 200);
+    show(area);
+    mark(*november, 13, DayState::VACATION_DAY);
+    rest(6);
+    auto& bar = *area.verticalScrollBar();
+    const int row = dayButton(view, 13).y() - dayButton(view, 6).y();
+    for (const auto& [scrolled, text] : {std::pair(0, u"Unknown"_s), {row, u"Vacation Day"_s}, {0, u"Unknown"_s}}) {
+        bar.setValue(scrolled);
+        EXPECT_TRUE(eventually([&] { return labels().first()->text() == text; })) << qPrintable(text);
+        EXPECT_EQ(labels().size(), 1);
+    }
+    area.takeWidget();
+}
+
 TEST(HoverLabelRectTest, isOverTheAnchorAndInsideTheWindow)
 {
     const std::pair<QRect, QRect> rows[]{
-        {{100, 100, 40, 20}, {90, 77, 60, 20}},  {{0, 100, 40, 20}, {0, 77, 60, 20}},
-        {{270, 100, 30, 20}, {240, 77, 60, 20}}, {{100, 10, 40, 20}, {90, 33, 60, 20}},
-        {{100, 5, 40, 190}, {90, 180, 60, 20}},  {{100, 100, 40, 20}, {0, 77, 400, 20}},
+        {{100, 100, 40, 20}, {90, 79, 60, 20}},  {{0, 100, 40, 20}, {0, 79, 60, 20}},
+        {{270, 100, 30, 20}, {240, 79, 60, 20}}, {{100, 10, 40, 20}, {90, 31, 60, 20}},
+        {{100, 5, 40, 190}, {90, 180, 60, 20}},  {{100, 100, 40, 20}, {0, 79, 400, 20}},
     };
     for (const auto& [anchor, label] : rows)
         EXPECT_TRUE(hoverLabelRect(label.size(), anchor, {0, 0, 300, 200}) == label) << anchor.x() << ',' << anchor.y();
