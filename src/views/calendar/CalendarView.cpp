@@ -166,15 +166,15 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
 {
     const Day& day = m_month->days.value().at(index);
     CommandClickableButton& cell = *m_cells[static_cast<std::size_t>(index)];
+    const QDate date = m_month->dateOf(day.id);
     cell.setVisible(day.isInMonth());
+    cell.setRinged(day.isInMonth() && date == today);
     if (!day.isInMonth())
         return;
-    const QDate date = m_month->dateOf(day.id);
     cell.setText(QString::number(day.id));
     cell.setTint(dayColor(themeFor(palette()), day));
     cell.setState(day.state);
     cell.setTooltipText(description(day.state));
-    cell.setRinged(date == today);
     //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
     cell.setAccessibleName(tr("%1, %2", "date and state").arg(written, description(day.state)));
