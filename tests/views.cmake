@@ -16,7 +16,7 @@ pellory_test(life
 pellory_test(app
     SOURCES support/WindowTestMain.cpp
         app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp app/TranslationsTest.cpp
-    LINKS Pellory::app Qt6::Test
+    LINKS Pellory::app SQLiteCpp Qt6::Test
 )
 pellory_test(platform
     SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp

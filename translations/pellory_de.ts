@@ -517,6 +517,18 @@
         <source>Could not remove app data store: %1</source>
         <translation>Der Datenspeicher der App konnte nicht gelöscht werden: %1</translation>
     </message>
+    <message>
+        <source>Waiting for Your Data</source>
+        <translation>Warten auf Ihre Daten</translation>
+    </message>
+    <message>
+        <source>Another program is using the data store. Pellory starts as soon as it is free.</source>
+        <translation>Ein anderes Programm benutzt den Datenspeicher. Pellory startet, sobald er frei ist.</translation>
+    </message>
+    <message>
+        <source>This does not mean that your data is damaged. Choose Cancel to keep it.</source>
+        <translation>Das bedeutet nicht, dass Ihre Daten beschädigt sind. Mit „Abbrechen“ behalten Sie sie.</translation>
+    </message>
 </context>
 <context>
     <name>QuarterStatsView</name>
@@ -785,6 +797,10 @@
     <message>
         <source>&quot;%1&quot; in the data store is not defined as expected.</source>
         <translation>„%1“ ist im Datenspeicher anders definiert als erwartet.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be renamed: %2</source>
+        <translation>Die Datei %1 kann nicht umbenannt werden: %2</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,15 @@ void prepare(QMessageBox& box, QMessageBox::Icon icon, const QString& message, c
 
 } // namespace
 
+std::shared_ptr<void> MessageBoxAlerts::showNotice(const QString& message, const QString& informativeText)
+{
+    const auto box = std::make_shared<QMessageBox>();
+    prepare(*box, QMessageBox::Information, message, informativeText);
+    box->setStandardButtons(QMessageBox::NoButton);
+    box->show();
+    return box;
+}
+
 void MessageBoxAlerts::showCritical(const QString& message, const QString& informativeText)
 {
     QMessageBox box;

@@ -9,6 +9,7 @@
 #include "StoreError.h"
 #include "StoreFile.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLoggingCategory>
 
@@ -20,17 +21,20 @@ namespace {
 
 Q_LOGGING_CATEGORY(logApp, "pellory.app", QtInfoMsg)
 
+// How long one attempt to open a locked store takes, in milliseconds. Short, so that a notice stays alive meanwhile.
+constexpr int attemptTimeout = 5;
+
 } // namespace
 
-PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts)
+PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts, std::chrono::milliseconds lockTimeout)
     : m_alerts(alerts)
     , m_folder(dataFolder + "/Pellory"_L1)
     , m_storeFile(m_folder + "/Pellory.store"_L1)
+    , m_lockTimeout(lockTimeout)
 {
     qCDebug(logApp, "fileURL swift data location: %s", qUtf8Printable(m_storeFile));
     createFolder();
     openStore();
-    findOrCreateSettings();
     qCDebug(logApp, "Checking if in office every %lld seconds", qint64(checkInterval(*m_settings).count()));
 }
 
@@ -63,35 +67,59 @@ void PelloryApp::openStore()
         throw FatalStop(u"Cannot read app swift data store. You do not have read permissions on %1. Fix the "
                         "permissions and re-start app."_s.arg(m_storeFile));
     }
-    QString failure;
-    if (tryToOpen(failure))
+    auto failure = tryToOpen();
+    if (failure) {
+        offerToDelete(*failure);
+        failure = tryToOpen();
+    }
+    if (!failure)
         return;
-    offerToDelete();
-    if (tryToOpen(failure))
-        return;
-    m_alerts.showCritical(tr("Fatal Error"), tr("Could not load data store at %1. %2").arg(m_storeFile, failure));
-    throw FatalStop(u"Could not load data store, giving up.: %1: %2"_s.arg(m_storeFile, failure));
+    const QString reason = failure->description();
+    m_alerts.showCritical(tr("Fatal Error"), tr("Could not load data store at %1. %2").arg(m_storeFile, reason));
+    throw FatalStop(u"Could not load data store, giving up.: %1: %2"_s.arg(m_storeFile, reason));
 }
 
-bool PelloryApp::tryToOpen(QString& failure)
+// Other programs may lock the store for a moment again and again, so a free moment is looked for.
+std::optional<StoreError> PelloryApp::tryToOpen()
+{
+    const QDeadlineTimer end(m_lockTimeout);
+    const QDeadlineTimer silence(m_lockTimeout / 10);
+    std::shared_ptr<void> notice;
+    auto failure = openOnce();
+    while (failure && failure->cause() == StoreError::Cause::Lock && !end.hasExpired()) {
+        if (!notice && silence.hasExpired())
+            notice = m_alerts.showNotice(tr("Waiting for Your Data"),
+                                         tr("Another program is using the data store. Pellory starts as soon as it is "
+                                            "free."));
+        QCoreApplication::processEvents();
+        failure = openOnce();
+    }
+    if (failure)
+        qCCritical(logApp, "%s", failure->what());
+    return failure;
+}
+
+std::optional<StoreError> PelloryApp::openOnce()
 {
     try {
-        m_container = std::make_unique<ModelContainer>(ModelConfiguration{u"Example"_s, m_storeFile});
-        return true;
+        m_container = std::make_unique<ModelContainer>(ModelConfiguration{u"Example"_s, m_storeFile, attemptTimeout});
+        findOrCreateSettings();
+        return {};
     } catch (const StoreError& error) {
-        failure = error.description();
-        qCCritical(logApp, "%s", qUtf8Printable(failure));
-        return false;
+        m_container.reset();
+        return error;
     }
 }
 
-void PelloryApp::offerToDelete()
+void PelloryApp::offerToDelete(const StoreError& reason)
 {
-    const bool isDelete = m_alerts.confirmWarning(
-        tr("Delete File?"),
-        tr("Could not load the app's data store. It's probably corrupted. Do you want reset all the app's data? "
-           "You will lose all data. This action cannot be undone."),
-        tr("Delete"), tr("Cancel"));
+    QString text = tr("Could not load the app's data store. It's probably corrupted. Do you want reset all the app's "
+                      "data? You will lose all data. This action cannot be undone.");
+    const auto newParagraph = "\n\n"_L1;
+    text += newParagraph + reason.description();
+    if (reason.cause() != StoreError::Cause::Damage)
+        text += newParagraph + tr("This does not mean that your data is damaged. Choose Cancel to keep it.");
+    const bool isDelete = m_alerts.confirmWarning(tr("Delete File?"), text, tr("Delete"), tr("Cancel"));
     if (!isDelete)
         return;
     try {

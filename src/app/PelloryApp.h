@@ -3,12 +3,15 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 class Alerts;
 class AppSettings;
 class ModelContainer;
+class StoreError;
 
 /// The program cannot start, and the person has been told why.
 class FatalStop : public std::runtime_error {
@@ -24,8 +27,11 @@ class PelloryApp {
     Q_DECLARE_TR_FUNCTIONS(PelloryApp)
 
 public:
-    /// `dataFolder` is the user's folder for the data of applications. Throws a FatalStop if no store can be opened.
-    PelloryApp(const QString& dataFolder, Alerts& alerts);
+    /// `dataFolder` is the user's folder for the data of applications. If another program has locked the store, that
+    /// may take as long as `lockTimeout`, and after a tenth of it the person is told. Throws a FatalStop if no store
+    /// can be opened.
+    PelloryApp(const QString& dataFolder, Alerts& alerts,
+               std::chrono::milliseconds lockTimeout = std::chrono::seconds(5));
     ~PelloryApp();
     PelloryApp(const PelloryApp&) = delete;
     PelloryApp& operator=(const PelloryApp&) = delete;
@@ -36,13 +42,15 @@ public:
 private:
     void createFolder();
     void openStore();
-    [[nodiscard]] bool tryToOpen(QString& failure);
-    void offerToDelete();
+    [[nodiscard]] std::optional<StoreError> tryToOpen();
+    [[nodiscard]] std::optional<StoreError> openOnce();
+    void offerToDelete(const StoreError& reason);
     void findOrCreateSettings();
 
     Alerts& m_alerts;
     QString m_folder;
     QString m_storeFile;
+    std::chrono::milliseconds m_lockTimeout;
     std::unique_ptr<ModelContainer> m_container;
     std::shared_ptr<AppSettings> m_settings;
 };

@@ -12,6 +12,23 @@ namespace {
 
 Q_LOGGING_CATEGORY(logSqlite, "pellory.store", QtInfoMsg)
 
+StoreError::Cause causeOf(int code)
+{
+    switch (code) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return StoreError::Cause::Lock;
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+        return StoreError::Cause::Obstacle;
+    default:
+        return StoreError::Cause::Damage;
+    }
+}
+
 } // namespace
 
 void limitSqliteCache()
@@ -51,4 +68,9 @@ QString descriptionOf(const SQLite::Exception& error)
     default:
         return StoreError::tr("The data store cannot be used (%1).").arg(detail);
     }
+}
+
+StoreError storeError(const SQLite::Exception& error)
+{
+    return StoreError(descriptionOf(error), causeOf(error.getErrorCode()));
 }

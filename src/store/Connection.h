@@ -9,6 +9,7 @@ class Exception;
 } // namespace SQLite
 
 class QString;
+class StoreError;
 
 /// How long a save waits for another program that holds the store, in milliseconds. It is short because a click waits
 /// for it; the save is tried again with the next one.
@@ -24,3 +25,4 @@ void limitSqliteCache();
 
 /// The error in words for the person.
 [[nodiscard]] QString descriptionOf(const SQLite::Exception& error);
+[[nodiscard]] StoreError storeError(const SQLite::Exception& error);

@@ -25,7 +25,7 @@ ModelContainer::ModelContainer(ModelConfiguration configuration, const Schema& s
     try {
         open(schema);
     } catch (const SQLite::Exception& error) {
-        throw StoreError(descriptionOf(error));
+        throw storeError(error);
     }
 }
 

@@ -23,7 +23,7 @@ template <class Fetch> auto withStoreErrors(Fetch fetch)
     try {
         return fetch();
     } catch (const SQLite::Exception& error) {
-        throw StoreError(descriptionOf(error));
+        throw storeError(error);
     }
 }
 

@@ -53,7 +53,8 @@ private:
     [[noreturn]] void fail() const
     {
         throw StoreError(
-            StoreError::tr("The file %1 cannot be created: %2").arg(m_file.fileName(), m_file.errorString()));
+            StoreError::tr("The file %1 cannot be created: %2").arg(m_file.fileName(), m_file.errorString()),
+            StoreError::Cause::Obstacle);
     }
 
     QTemporaryFile m_file;
@@ -91,7 +92,8 @@ void putAside(const QString& path)
     QString name = path + ".old"_L1;
     for (int number = 2; file.exists() && !file.rename(name); ++number) {
         if (!QFile::exists(name))
-            throw StoreError(StoreError::tr("The file %1 cannot be renamed: %2").arg(path, file.errorString()));
+            throw StoreError(StoreError::tr("The file %1 cannot be renamed: %2").arg(path, file.errorString()),
+                             StoreError::Cause::Obstacle);
         name = path + u".old-%1"_s.arg(number);
     }
 }

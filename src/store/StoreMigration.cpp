@@ -89,11 +89,12 @@ void migrate(SQLite::Database& database, const Schema& schema, int fromVersion)
     static_cast<void>(verifyStore(database, schema));
 }
 
-StoreError migrationError(const QString& reason)
+StoreError migrationError(const StoreError& reason)
 {
     return StoreError(StoreError::tr("The data store cannot be converted to the format of this version of Pellory, "
                                      "and is left as it was. %1")
-                          .arg(reason));
+                          .arg(reason.description()),
+                      reason.cause());
 }
 
 } // namespace
@@ -103,8 +104,8 @@ void migrateStore(SQLite::Database& database, const Schema& schema, int fromVers
     try {
         migrate(database, schema, fromVersion);
     } catch (const SQLite::Exception& error) {
-        throw migrationError(descriptionOf(error));
-    } catch (const std::exception& error) {
-        throw migrationError(QString::fromUtf8(error.what()));
+        throw migrationError(storeError(error));
+    } catch (const StoreError& error) {
+        throw migrationError(error);
     }
 }

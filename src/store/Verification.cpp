@@ -30,7 +30,8 @@ int verifyVersion(SQLite::Database& database, int newest)
             StoreError::tr("The data store was written by a newer version of Pellory (format %1, this version knows "
                            "format %2). Install that version to open it.")
                 .arg(version)
-                .arg(newest));
+                .arg(newest),
+            StoreError::Cause::Obstacle);
     if (version < 1)
         throw StoreError(StoreError::tr("The data store has the unknown format %1.").arg(version));
     return version;

@@ -8,12 +8,16 @@
 
 #include <QTemporaryDir>
 
+#include <SQLiteCpp/Database.h>
+
 using testing::Return;
+using namespace std::chrono_literals;
 
 namespace {
 
 class MockAlerts : public Alerts {
 public:
+    MOCK_METHOD(std::shared_ptr<void>, showNotice, (const QString&, const QString&), (override));
     MOCK_METHOD(void, showCritical, (const QString&, const QString&), (override));
     MOCK_METHOD(bool, confirmWarning, (const QString&, const QString&, const QString&, const QString&), (override));
 };
@@ -26,18 +30,19 @@ protected:
     QString start()
     {
         try {
-            const PelloryApp app(data, alerts);
+            const PelloryApp app(data, alerts, 50ms);
             return {};
         } catch (const FatalStop& stop) {
             return QString::fromUtf8(stop.what());
         }
     }
-    auto& expectQuestion()
+    auto& expectQuestion(const QString& reason)
     {
         return EXPECT_CALL(alerts, confirmWarning(u"Delete File?"_s,
                                                   u"Could not load the app's data store. It's probably corrupted. Do "
                                                   "you want reset all the app's data? You will lose all data. This "
-                                                  "action cannot be undone."_s,
+                                                  "action cannot be undone.\n\n"_s +
+                                                      reason,
                                                   u"Delete"_s, u"Cancel"_s));
     }
     void expectStop(const QString& reason, const QString& message, const QString& informativeText)
@@ -59,6 +64,7 @@ protected:
     const QTemporaryDir home;
     const QString data = home.filePath(u"nothing in %1 %2 is replaced"_s), folder = data + u"/Pellory"_s;
     const QString store = folder + u"/Pellory.store"_s;
+    const QString damage = u"The file is not a data store of Pellory (file is not a database)."_s;
     const QByteArray damaged = QByteArray("This is no database. ").repeated(100);
     testing::StrictMock<MockAlerts> alerts;
 };
@@ -79,8 +85,7 @@ TEST_F(PelloryAppTest, saysWhatItCannotDoAndLeavesTheStoreAlone)
     expectStop(unreadable + u"and re-start app."_s, fatal, unreadable + u"and restart the app."_s);
 
     QFile::setPermissions(store, QFile::ReadOwner);
-    expectQuestion().WillOnce(Return(false)).WillOnce(Return(true));
-    const QString damage = u"The file is not a data store of Pellory (file is not a database)."_s;
+    expectQuestion(damage).WillOnce(Return(false)).WillOnce(Return(true));
     expectStop(u"Could not load data store, giving up.: "_s + store + u": "_s + damage, fatal,
                u"Could not load data store at "_s + store + u". "_s + damage);
 
@@ -90,6 +95,25 @@ TEST_F(PelloryAppTest, saysWhatItCannotDoAndLeavesTheStoreAlone)
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(bytes(), damaged);
     EXPECT_EQ(QDir(folder).entryList(QDir::Files), QStringList(u"Pellory.store"_s));
+}
+
+TEST_F(PelloryAppTest, waitsForALockAndNeverTakesItForDamage)
+{
+    start();
+    std::optional<SQLite::Database> other(std::in_place, store.toStdString(), SQLite::OPEN_READWRITE);
+    other->exec("BEGIN EXCLUSIVE");
+    EXPECT_CALL(alerts, showNotice).Times(2).WillRepeatedly(Return(std::make_shared<bool>()));
+    expectQuestion(
+        u"The data store is in use by another program. Close that program and start Pellory again.\n\nThis does "
+        "not mean that your data is damaged. Choose Cancel to keep it."_s);
+    EXPECT_CALL(alerts, showCritical);
+    EXPECT_NE(start(), u""_s);
+
+    EXPECT_CALL(alerts, showNotice).WillOnce([&] {
+        other.reset();
+        return std::make_shared<bool>();
+    });
+    EXPECT_EQ(start(), u""_s);
 }
 
 TEST_F(PelloryAppTest, makesAStoreAndOpensADamagedOneAfterTheQuestionWhateverTheAnswer)
@@ -104,7 +128,7 @@ TEST_F(PelloryAppTest, makesAStoreAndOpensADamagedOneAfterTheQuestionWhateverThe
     const QByteArray sound = bytes();
     for (const bool isDelete : {false, true}) {
         write(damaged);
-        expectQuestion().WillOnce([&] {
+        expectQuestion(damage).WillOnce([&] {
             if (!isDelete)
                 write(sound); // the person has put it right meanwhile
             return isDelete;
