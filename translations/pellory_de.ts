@@ -518,6 +518,14 @@
         <translation>Der Datenspeicher der App konnte nicht gelöscht werden: %1</translation>
     </message>
     <message>
+        <source>Pellory is running already</source>
+        <translation>Pellory läuft bereits</translation>
+    </message>
+    <message>
+        <source>Another Pellory is using your data, perhaps in another session, and cannot be reached from here. Two programs would erase each other&apos;s marks. Use its window, or end it and start Pellory again.</source>
+        <translation>Ein anderes Pellory benutzt Ihre Daten, vielleicht in einer anderen Sitzung, und ist von hier aus nicht erreichbar. Zwei Programme würden sich gegenseitig die Einträge überschreiben. Benutzen Sie dessen Fenster, oder beenden Sie es und starten Sie Pellory neu.</translation>
+    </message>
+    <message>
         <source>Waiting for Your Data</source>
         <translation>Warten auf Ihre Daten</translation>
     </message>

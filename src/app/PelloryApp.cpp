@@ -31,9 +31,11 @@ PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts, std::chrono::m
     , m_folder(dataFolder + "/Pellory"_L1)
     , m_storeFile(m_folder + "/Pellory.store"_L1)
     , m_lockTimeout(lockTimeout)
+    , m_lock(m_storeFile)
 {
     qCDebug(logApp, "fileURL swift data location: %s", qUtf8Printable(m_storeFile));
     createFolder();
+    lockStore();
     openStore();
     qCDebug(logApp, "Checking if in office every %lld seconds", qint64(checkInterval(*m_settings).count()));
 }
@@ -54,6 +56,18 @@ void PelloryApp::createFolder()
     const QString reason = QString::fromStdString(error.message());
     m_alerts.showCritical(tr("Cannot start Pellory Tracker"), tr("Could not create app directory: %1").arg(reason));
     throw FatalStop(u"Could not create directory at %1 for Pellory SwiftData app store. %2"_s.arg(m_folder, reason));
+}
+
+void PelloryApp::lockStore()
+{
+    if (m_lock.acquire(m_lockTimeout / 10))
+        return;
+    m_alerts.showCritical(
+        tr("Pellory is running already"),
+        tr("Another Pellory is using your data, perhaps in another session, and cannot be reached from "
+           "here. Two programs would erase each other's marks. Use its window, or end it and start "
+           "Pellory again."));
+    throw FatalStop(u"Another Pellory uses the data in %1"_s.arg(m_folder));
 }
 
 void PelloryApp::openStore()

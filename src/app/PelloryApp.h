@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "StoreLock.h"
+
 #include <QCoreApplication>
 
 #include <chrono>
@@ -41,6 +43,7 @@ public:
 
 private:
     void createFolder();
+    void lockStore();
     void openStore();
     [[nodiscard]] std::optional<StoreError> tryToOpen();
     [[nodiscard]] std::optional<StoreError> openOnce();
@@ -51,6 +54,7 @@ private:
     QString m_folder;
     QString m_storeFile;
     std::chrono::milliseconds m_lockTimeout;
+    StoreLock m_lock;
     std::unique_ptr<ModelContainer> m_container;
     std::shared_ptr<AppSettings> m_settings;
 };

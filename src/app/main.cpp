@@ -183,7 +183,8 @@ int run(SingleInstance& instance)
     QSettings settings;
     applyLastScheme(settings);
     MessageBoxAlerts alerts;
-    // Before anything touches the store: two programs would each hold their own copies of the records.
+    // Before anything touches the store, so that a second start shows the window of the first. If they cannot reach
+    // each other, the lock of the store keeps them apart.
     if (!claimName(instance, mode, alerts))
         return EXIT_SUCCESS;
     logStage("name owned");

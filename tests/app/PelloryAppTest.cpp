@@ -94,7 +94,7 @@ TEST_F(PelloryAppTest, saysWhatItCannotDoAndLeavesTheStoreAlone)
     expectStop(kept, fatal, kept);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(bytes(), damaged);
-    EXPECT_EQ(QDir(folder).entryList(QDir::Files), QStringList(u"Pellory.store"_s));
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files), (QStringList{u"Pellory.store"_s, u"Pellory.store.lock"_s}));
 }
 
 TEST_F(PelloryAppTest, waitsForALockAndNeverTakesItForDamage)
@@ -113,6 +113,18 @@ TEST_F(PelloryAppTest, waitsForALockAndNeverTakesItForDamage)
         other.reset();
         return std::make_shared<bool>();
     });
+    EXPECT_EQ(start(), u""_s);
+}
+
+TEST_F(PelloryAppTest, sharesTheStoreWithNoOtherPellory)
+{
+    {
+        const PelloryApp first(data, alerts);
+        expectStop(
+            u"Another Pellory uses the data in "_s + folder, u"Pellory is running already"_s,
+            u"Another Pellory is using your data, perhaps in another session, and cannot be reached from here. Two "
+            "programs would erase each other's marks. Use its window, or end it and start Pellory again."_s);
+    }
     EXPECT_EQ(start(), u""_s);
 }
 

@@ -116,6 +116,9 @@ class FaultsTest(DesktopTest):
         for end in (signal.SIGKILL, signal.SIGTERM):
             program = self.start(PROGRAM)
             eventually(lambda: "Sleeping for 1800 seconds" in program.said())
+            second = self.start(PROGRAM)
+            eventually(lambda: self.on_display(second, "Pellory", "windowfocus", "key", "Return") or second.poll())
+            self.assertEqual(second.wait(PATIENCE), 1)
             program.send_signal(end)
             self.assertEqual(program.wait(PATIENCE), -end if end == signal.SIGKILL else 0)
         self.assertTrue((self.folder / ".local/share/Pellory/Pellory.store").exists())

@@ -41,8 +41,6 @@ TEST(LaunchAtLoginTest, isReadFromTheFileAsTheDesktopReadsIt)
 
 TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
 {
-    const QTemporaryDir folder;
-    qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
     qputenv("XDG_ACTIVATION_TOKEN", "token");
     const auto interface = u"org.freedesktop.Application"_s;
     MockService first{QDBusConnection::sessionBus(), u"io.github.pellory.Pellory"_s, u"/io/github/pellory/Pellory"_s};
@@ -60,7 +58,6 @@ TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
     first.bus.unregisterService(first.name);
     SingleInstance instance;
     EXPECT_EQ(instance.claim(Request::Show, QDBusConnection(u"none"_s)), Claim::Owned);
-    EXPECT_EQ(SingleInstance().claim(Request::Show, QDBusConnection(u"none"_s)), Claim::Refused);
     QSignalSpy activated(&instance, &SingleInstance::activated);
     instance.Activate({});
     instance.Open({}, {{u"desktop-startup-id"_s, u"id"_s}});

@@ -4,7 +4,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -37,12 +36,11 @@ SingleInstance::Claim SingleInstance::claim(Request request, QDBusConnection bus
 {
     // Before the name, so that nobody finds the name without the object.
     if (!bus.isConnected() || !bus.registerObject(ownPath, this, QDBusConnection::ExportScriptableSlots))
-        return claimLock();
+        return Claim::Owned;
     for (int attempt = 0; attempt < 3; ++attempt) {
         const auto name = bus.interface()->registerService(ownService, QDBusConnectionInterface::DontQueueService);
-        if (!name.isValid()) // the bus does not allow this program the name
-            return claimLock();
-        if (name == QDBusConnectionInterface::ServiceRegistered)
+        const bool isAllowed = name.isValid();
+        if (!isAllowed || name == QDBusConnectionInterface::ServiceRegistered)
             return Claim::Owned;
         const QString owner = bus.interface()->serviceOwner(ownService);
         if (request == Request::None ||
@@ -65,15 +63,6 @@ QDBusMessage SingleInstance::messageFor(Request request) const
     message << m_platformData;
     message.setAutoStartService(false);
     return message;
-}
-
-// For sessions without a bus. A lock stays valid as long as its owner lives.
-SingleInstance::Claim SingleInstance::claimLock()
-{
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    m_lock.emplace(folder + u"/pellory.lock"_s);
-    m_lock->setStaleLockTime(0);
-    return m_lock->tryLock() ? Claim::Owned : Claim::Refused;
 }
 
 void SingleInstance::Activate(const QVariantMap& data)

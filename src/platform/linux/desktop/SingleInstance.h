@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLockFile>
 #include <QObject>
 #include <QVariantMap>
 
 #include <chrono>
-#include <optional>
 
 class QDBusConnection;
 class QDBusMessage;
@@ -25,7 +23,8 @@ public:
     /// `timeout` is how long the first instance may take to answer.
     explicit SingleInstance(std::chrono::milliseconds timeout = std::chrono::seconds(5));
 
-    /// Becomes the instance, or hands the request over to the first one. Refused if that does not answer.
+    /// Becomes the instance, also if there is no bus to ask, or hands the request over to the first one. Refused if
+    /// that does not answer.
     [[nodiscard]] Claim claim(Request request);
     [[nodiscard]] Claim claim(Request request, QDBusConnection bus);
 
@@ -42,9 +41,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QDBusMessage messageFor(Request request) const;
-    [[nodiscard]] Claim claimLock();
 
     int m_timeout;
     QVariantMap m_platformData;
-    std::optional<QLockFile> m_lock;
 };
