@@ -25,7 +25,8 @@ constexpr std::array sideFiles{"-journal"_L1, "-wal"_L1, "-shm"_L1};
 class Draft {
 public:
     explicit Draft(const QString& path)
-        : m_file(path + ".new-XXXXXX"_L1)
+        : m_path(path)
+        , m_file(path + ".new-XXXXXX"_L1)
     {
         if (!m_file.open())
             fail();
@@ -52,11 +53,11 @@ public:
 private:
     [[noreturn]] void fail() const
     {
-        throw StoreError(
-            StoreError::tr("The file %1 cannot be created: %2").arg(m_file.fileName(), m_file.errorString()),
-            StoreError::Cause::Obstacle);
+        throw StoreError(StoreError::tr("The file %1 cannot be created: %2").arg(m_path, m_file.errorString()),
+                         StoreError::Cause::Obstacle);
     }
 
+    QString m_path;
     QTemporaryFile m_file;
 };
 

@@ -85,7 +85,7 @@ TEST_F(StoreFileTest, isNewWhateverIsLeftOfAnotherOne)
 TEST_F(StoreFileTest, isMadeForItsOwnerAloneAndStaysInAClosedFolder)
 {
     setFolderWritable(false);
-    EXPECT_THAT(refusal(), HasSubstr("cannot be created"));
+    EXPECT_THAT(refusal(), HasSubstr("Pellory.store cannot be created"));
     setFolderWritable(true);
     EXPECT_TRUE(stored().empty());
     EXPECT_EQ(int(QFile::permissions(path) & 0x77), 0); // nothing for group and others
