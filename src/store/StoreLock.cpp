@@ -17,7 +17,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(logLock, "pellory.store", QtInfoMsg)
 
-void warn(const QString& reason)
+void warnAboutLock(const QString& reason)
 {
     qCWarning(logLock).noquote() << "The store cannot be locked:"_L1 << reason;
 }
@@ -33,13 +33,13 @@ bool StoreLock::acquire(std::chrono::milliseconds timeout)
 {
     // In a folder where no file can be made nobody can write a store either.
     if (!m_file.open(QFile::ReadWrite, QFile::ReadOwner | QFile::WriteOwner) && !m_file.open(QFile::ReadOnly)) {
-        warn(m_file.errorString());
+        warnAboutLock(m_file.errorString());
         return true;
     }
     const QDeadlineTimer end(timeout);
     while (flock(m_file.handle(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK) {
-            warn(QString::fromStdString(std::generic_category().message(errno)));
+            warnAboutLock(QString::fromStdString(std::generic_category().message(errno)));
             return true;
         }
         if (end.hasExpired())

@@ -10,6 +10,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <thread>
+
 using testing::Return;
 using namespace std::chrono_literals;
 
@@ -27,10 +29,10 @@ public:
 class PelloryAppTest : OrdinaryUser, public testing::Test {
 protected:
     /// Returns why there was no start.
-    QString start()
+    QString start(std::chrono::milliseconds lockTimeout = 50ms)
     {
         try {
-            const PelloryApp app(data, alerts, 50ms);
+            const PelloryApp app(data, alerts, lockTimeout);
             return {};
         } catch (const FatalStop& stop) {
             return QString::fromUtf8(stop.what());
@@ -114,6 +116,22 @@ TEST_F(PelloryAppTest, waitsForALockAndNeverTakesItForDamage)
         return std::make_shared<bool>();
     });
     EXPECT_EQ(start(), u""_s);
+}
+
+TEST_F(PelloryAppTest, startsBesideAProgramThatTakesShortLocks)
+{
+    start();
+    const std::jthread other([this](const std::stop_token& end) {
+        SQLite::Database database(store.toStdString(), SQLite::OPEN_READWRITE, 60'000);
+        while (!end.stop_requested()) {
+            database.exec("BEGIN EXCLUSIVE");
+            std::this_thread::sleep_for(15ms);
+            database.exec("COMMIT");
+            std::this_thread::sleep_for(1ms);
+        }
+    });
+    for (int i = 0; i < 50; ++i)
+        EXPECT_EQ(start(60s), u""_s);
 }
 
 TEST_F(PelloryAppTest, sharesTheStoreWithNoOtherPellory)
