@@ -21,7 +21,7 @@ QString decomposed(const QString& text)
 
 QCoro::Task<bool> InOfficeDetector::isInOffice(QStringList officeSsids)
 {
-    const auto interface = co_await m_client.defaultInterface();
+    const auto interface = co_await m_client.readyInterface();
     if (!interface) {
         qCCritical(logDetection, "Could not find default interface for automatic in office detection");
         throw InOfficeDetectionError(InOfficeDetectionError::couldNotFindDefaultInterface);

@@ -28,6 +28,8 @@ class WiFiClient : public QObject {
 public:
     /// The radio in use; none if there is no radio, or no service that knows of one.
     [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> defaultInterface() = 0;
+    /// The same, for a scan: a radio that is just coming up gets some seconds for it.
+    [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> readyInterface() { return defaultInterface(); }
     [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> interfaceWithName(QString name) = 0;
 
     /// All networks in range of a radio, in no particular order, once per access point. Takes seconds. Throws a

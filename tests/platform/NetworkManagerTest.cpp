@@ -50,7 +50,8 @@ protected:
     const QString root = networkManagerPath, wlan0 = u"wlan0"_s, radio = u"/Devices/0"_s;
     SystemBus systemBus;
     MockService manager{systemBus.connection(), networkManagerService, networkManagerObjects};
-    NetworkManagerWiFiClient client{systemBus, {300ms, 20ms, 20ms}}, patientClient{systemBus, {1h, 20ms, 2s}};
+    NetworkManagerWiFiClient client{systemBus, {300ms, 20ms, 20ms, 1h, 100ms}},
+        patientClient{systemBus, {1h, 20ms, 2s, 1h, 1h}};
 };
 
 TEST(NetworkManagerStateTest, theDefaultIsTheRadioThatIsMostReady)
@@ -133,6 +134,23 @@ TEST_F(NetworkManagerTest, waitsForTheEndOfAScanButNotForEver)
     addNetwork("b"_ba);
     change(radio, wirelessInterface, "LastScan", 1LL);
     EXPECT_EQ(found(scan), u"a|b"_s);
+}
+
+TEST_F(NetworkManagerTest, waitsForARadioThatIsComingUpButNotForEver)
+{
+    const std::pair<Action, Action> rows[]{{[&] { setState(20); }, [&] { setState(30); }},
+                                           {[&] { manager.stop(); }, [&] { start(); }}};
+    for (const auto& [lose, bringUp] : rows) {
+        lose();
+        EXPECT_FALSE(resultOf(client.readyInterface()).value_or(WiFiInterface()).powerOn);
+        const auto ready = patientClient.readyInterface();
+        bringUp();
+        EXPECT_TRUE(resultOf(ready).value_or(WiFiInterface()).powerOn);
+    }
+    change("WirelessEnabled", false);
+    EXPECT_FALSE(resultOf(patientClient.readyInterface())->powerOn);
+    removeRadio(0);
+    EXPECT_FALSE(resultOf(patientClient.readyInterface()));
 }
 
 TEST_F(NetworkManagerTest, takesTheListAsItIsIfNothingIsEverSeenAgain)

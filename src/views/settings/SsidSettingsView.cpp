@@ -226,7 +226,7 @@ QCoro::Task<> SsidSettingsView::scan()
     refresh();
     QStringList names;
     try {
-        const auto interface = co_await m_wifiClient.defaultInterface();
+        const auto interface = co_await m_wifiClient.readyInterface();
         if (interface && self) {
             const auto networks = co_await m_wifiClient.scanForNetworks(interface->name);
             names = sortedNames(networks);

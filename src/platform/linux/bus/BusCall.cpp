@@ -8,6 +8,15 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+using namespace Qt::StringLiterals;
+
+bool BusError::isServiceMissing() const
+{
+    return QStringList{u"org.freedesktop.DBus.Error.NameHasNoOwner"_s, u"org.freedesktop.DBus.Error.ServiceUnknown"_s,
+                       u"org.freedesktop.DBus.Error.Disconnected"_s}
+        .contains(m_name);
+}
+
 QCoro::Task<QDBusMessage> busCall(QObject* caller, QDBusConnection bus, QDBusMessage call,
                                   std::chrono::milliseconds timeout)
 {

@@ -25,6 +25,8 @@ public:
 
     /// Such as "org.freedesktop.DBus.Error.ServiceUnknown".
     [[nodiscard]] const QString& name() const { return m_name; }
+    /// Whether nobody was there to be called.
+    [[nodiscard]] bool isServiceMissing() const;
 
 private:
     QString m_name;

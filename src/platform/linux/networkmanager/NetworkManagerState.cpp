@@ -40,6 +40,12 @@ bool NetworkManagerState::isPowered(const WirelessDevice& device) const
     return isWirelessEnabled && isUsable(device.state);
 }
 
+bool NetworkManagerState::isComingUp() const
+{
+    return isWirelessEnabled && !devices.isEmpty() &&
+           std::ranges::none_of(devices, [](const WirelessDevice& device) { return isUsable(device.state); });
+}
+
 QList<WiFiNetwork> NetworkManagerState::networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const
 {
     QList<WiFiNetwork> networks;

@@ -60,6 +60,8 @@ struct NetworkManagerState {
     /// Null if there is no such device.
     [[nodiscard]] const WirelessDevice* deviceWithInterface(const QString& name) const;
     [[nodiscard]] bool isPowered(const WirelessDevice& device) const;
+    /// Whether Wi-Fi is switched on, but no radio can be used yet.
+    [[nodiscard]] bool isComingUp() const;
     /// The networks of a radio whose access points were seen since `time` (of CLOCK_BOOTTIME), or are in use. The
     /// computer's own hotspot is none of them.
     [[nodiscard]] QList<WiFiNetwork> networksSeenSince(const WirelessDevice& device, std::chrono::seconds time) const;

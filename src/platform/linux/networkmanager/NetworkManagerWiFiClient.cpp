@@ -4,10 +4,12 @@
 #include "Delay.h"
 #include "KernelClock.h"
 #include "PowerWatch.h"
+#include "SignalAwaiter.h"
 
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QScopeGuard>
+#include <QTimer>
 
 #include <utility>
 
@@ -44,20 +46,27 @@ NetworkManagerWiFiClient::NetworkManagerWiFiClient(SystemBus& bus, ScanTiming ti
     , m_timing(timing)
     , m_networkManager(bus, timing.callTimeout)
 {
+    connect(this, &WiFiClient::powerStateDidChange, this, &NetworkManagerWiFiClient::mayBeReady);
 }
 
 NetworkManagerWiFiClient::~NetworkManagerWiFiClient() = default;
 
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::defaultInterface()
 {
-    const NetworkManagerState state = co_await readStateOrNone();
-    co_return interfaceOf(state, state.defaultDevice());
+    const auto state = co_await readStateIfRunning();
+    co_return state ? interfaceOf(*state, state->defaultDevice()) : std::nullopt;
+}
+
+QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::readyInterface()
+{
+    const auto state = co_await readStateOnceReady();
+    co_return state ? interfaceOf(*state, state->defaultDevice()) : std::nullopt;
 }
 
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWithName(QString name)
 {
-    const NetworkManagerState state = co_await readStateOrNone();
-    co_return interfaceOf(state, state.deviceWithInterface(name));
+    const auto state = co_await readStateIfRunning();
+    co_return state ? interfaceOf(*state, state->deviceWithInterface(name)) : std::nullopt;
 }
 
 QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)
@@ -96,16 +105,49 @@ QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readState()
     co_return std::as_const(m_state); // the task would move it out otherwise
 }
 
-// Without an answer from NetworkManager there is no Wi-Fi.
-QCoro::Task<NetworkManagerState> NetworkManagerWiFiClient::readStateOrNone()
+// None if NetworkManager does not run. If it does not answer there is no Wi-Fi.
+QCoro::Task<std::optional<NetworkManagerState>> NetworkManagerWiFiClient::readStateIfRunning()
 {
     try {
         const NetworkManagerState state = co_await readState();
         co_return state;
     } catch (const BusError& error) {
         qCWarning(logWiFi, "Cannot read Wi-Fi from NetworkManager, so it counts as off: %s", error.what());
+        if (error.isServiceMissing())
+            co_return std::nullopt;
     }
     co_return NetworkManagerState();
+}
+
+QCoro::Task<std::optional<NetworkManagerState>> NetworkManagerWiFiClient::readStateOnceReady()
+{
+    StateIfRunning state = co_await readStateIfRunning();
+    const bool wasRunning = state.has_value();
+    const auto isComingUp = [wasRunning](const StateIfRunning& now) {
+        return !now || now->isComingUp() || (!wasRunning && now->devices.isEmpty());
+    };
+    if (!isComingUp(state))
+        co_return state;
+    try {
+        startMonitoringPowerEvents();
+    } catch (const PlatformError&) {
+        co_return state; // without a bus there is nothing to wait for
+    }
+    const auto stop = qScopeGuard([self = QPointer(this)] {
+        if (self)
+            self->stopMonitoringPowerEvents();
+    });
+    auto* limit = new QTimer(this);
+    limit->setSingleShot(true);
+    connect(limit, &QTimer::timeout, this, &NetworkManagerWiFiClient::mayBeReady);
+    limit->start(m_timing.comingUpTime);
+    state = co_await readStateIfRunning(); // it may have changed before it was monitored
+    while (limit->isActive() && isComingUp(state)) {
+        co_await nextSignal(this, &NetworkManagerWiFiClient::mayBeReady);
+        state = co_await readStateIfRunning();
+    }
+    limit->deleteLater();
+    co_return state;
 }
 
 void NetworkManagerWiFiClient::startMonitoringPowerEvents()
@@ -120,5 +162,5 @@ void NetworkManagerWiFiClient::startMonitoringPowerEvents()
 void NetworkManagerWiFiClient::stopMonitoringPowerEvents()
 {
     if (--m_monitors == 0)
-        m_powerWatch.reset();
+        m_powerWatch.release()->deleteLater(); // it may be what has woken the caller
 }

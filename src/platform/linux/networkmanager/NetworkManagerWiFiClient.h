@@ -18,15 +18,24 @@ public:
     ~NetworkManagerWiFiClient() override;
 
     [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> defaultInterface() override;
+    /// Also waits for NetworkManager.
+    [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> readyInterface() override;
     [[nodiscard]] QCoro::Task<std::optional<WiFiInterface>> interfaceWithName(QString name) override;
     /// Scans only if no password is needed for it; otherwise returns the networks that were seen lately.
     [[nodiscard]] QCoro::Task<QList<WiFiNetwork>> scanForNetworks(QString interfaceName) override;
     void startMonitoringPowerEvents() override;
     void stopMonitoringPowerEvents() override;
 
+Q_SIGNALS:
+    /// What readyInterface() waits for: a change, or the end of its time.
+    void mayBeReady();
+
 private:
+    using StateIfRunning = std::optional<NetworkManagerState>;
+
     [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
-    [[nodiscard]] QCoro::Task<NetworkManagerState> readStateOrNone();
+    [[nodiscard]] QCoro::Task<StateIfRunning> readStateIfRunning();
+    [[nodiscard]] QCoro::Task<StateIfRunning> readStateOnceReady();
     [[nodiscard]] QCoro::Task<ScanOutcome> scan(QString devicePath);
 
     SystemBus& m_bus;

@@ -22,6 +22,8 @@ struct ScanTiming {
     std::chrono::milliseconds lateResultsTime = std::chrono::seconds(6);
     /// How long each bus call may take.
     std::chrono::milliseconds callTimeout = busTimeout;
+    /// How long a radio, or NetworkManager, may take to come up.
+    std::chrono::milliseconds comingUpTime = std::chrono::seconds(10);
 };
 
 enum class ScanOutcome { NotPermitted, TimedOut, Ended };
