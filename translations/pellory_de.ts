@@ -476,6 +476,21 @@
     </message>
 </context>
 <context>
+    <name>NetworkManagerWiFiClient</name>
+    <message>
+        <source>The Wi-Fi interface %1 is no longer there.</source>
+        <translation>Die WLAN-Schnittstelle %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>NetworkManager is not running, and without it Pellory cannot see which networks are in range.</source>
+        <translation>NetworkManager läuft nicht, und ohne ihn kann Pellory nicht sehen, welche Netzwerke in Reichweite sind.</translation>
+    </message>
+    <message>
+        <source>NetworkManager did not complete the scan. It may have been stopped or restarted.</source>
+        <translation>NetworkManager hat die Suche nicht abgeschlossen. Vielleicht wurde er beendet oder neu gestartet.</translation>
+    </message>
+</context>
+<context>
     <name>PelloryApp</name>
     <message>
         <source>Cannot start Pellory Tracker</source>
@@ -981,13 +996,6 @@
     <message>
         <source>Next</source>
         <translation>Weiter</translation>
-    </message>
-</context>
-<context>
-    <name>WiFiClient</name>
-    <message>
-        <source>The Wi-Fi interface %1 is no longer there.</source>
-        <translation>Die WLAN-Schnittstelle %1 ist nicht mehr da.</translation>
     </message>
 </context>
 <context>

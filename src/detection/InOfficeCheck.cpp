@@ -9,15 +9,18 @@
 #include "Log.h"
 #include "Notifier.h"
 #include "SignalAwaiter.h"
+#include "WiFiClient.h"
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto problemTopic = "detection-problem"_L1;
 constexpr std::chrono::seconds shortestSleep = 1min;
 constexpr std::chrono::seconds longestTimer =
     std::chrono::floor<std::chrono::seconds>(std::chrono::milliseconds(std::numeric_limits<int>::max()));
@@ -61,8 +64,10 @@ QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
         co_return isMarked;
     } catch (const Abandoned&) {
         throw;
+    } catch (const WiFiServiceMissing& error) {
+        report(error.description(), Repeat::Never);
     } catch (const std::exception& error) {
-        report(error.what());
+        report(QString::fromUtf8(error.what()), Repeat::Daily);
     }
     co_return false;
 }
@@ -84,16 +89,32 @@ QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
     const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
     qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
     InOfficeModelUpdater updater(m_parts.container, m_parts.clock, m_parts.notifier);
-    co_return updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday);
+    const bool isMarked = updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday);
+    withdrawReport();
+    co_return isMarked;
 }
 
-void InOfficeCheck::report(const char* failure)
+void InOfficeCheck::report(const QString& problem, Repeat repeat)
 {
-    qCCritical(logDetection, "Error while checking if in office via Wi-Fi: %s", failure);
-    m_parts.notifier.post({tr("Pellory"),
-                           tr("There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n%1")
-                               .arg(QString::fromUtf8(failure)),
-                           u"detection-problem"_s});
+    qCCritical(logDetection, "Error while checking if in office via Wi-Fi: %s", qUtf8Printable(problem));
+    const QDate today = m_parts.clock.today();
+    const QDate last = std::exchange(m_reported[problem], today);
+    if (last == today || (last.isValid() && repeat == Repeat::Never)) {
+        if (problem != m_shownProblem)
+            withdrawReport();
+        return;
+    }
+    m_shownProblem = problem;
+    m_parts.notifier.post(
+        {tr("Pellory"),
+         tr("There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n%1").arg(problem),
+         problemTopic});
+}
+
+void InOfficeCheck::withdrawReport()
+{
+    if (!std::exchange(m_shownProblem, {}).isEmpty())
+        m_parts.notifier.withdraw(problemTopic);
 }
 
 QCoro::Task<> InOfficeCheck::sleepUntilNextCheck()

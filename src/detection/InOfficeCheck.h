@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QHash>
 #include <QProperty>
 
 #include <QCoroTask>
@@ -44,8 +45,8 @@ public:
     /// They end when the clock or the Wi-Fi client is destroyed. Must be called only once.
     void start() { run(); }
 
-    /// Runs one check and returns whether it marked today as in the office. A failure is logged and reported to the
-    /// person; only Abandoned is thrown.
+    /// Runs one check and returns whether it marked today as in the office. A failure is logged, and reported to the
+    /// person once a day; only Abandoned is thrown.
     QCoro::Task<bool> check(bool markPreviousWorkday);
 
     /// Starts one check without waiting for its result.
@@ -60,10 +61,17 @@ private:
     QCoro::Task<> run();
     QCoro::Task<> checkOnce(bool markPreviousWorkday);
     QCoro::Task<bool> detectAndUpdate(bool markPreviousWorkday);
-    void report(const char* failure);
+    enum class Repeat { Daily, Never };
+    /// Logs a failure, and tells the person unless this has been said today, or ever if it is not to be repeated.
+    void report(const QString& problem, Repeat repeat);
+    void withdrawReport();
     QCoro::Task<> sleepUntilNextCheck();
     QCoro::Task<bool> trySleep(std::chrono::seconds duration);
 
     CheckParts m_parts;
     bool m_lastSleepFailed = false;
+    /// When the person was last told of each problem.
+    QHash<QString, QDate> m_reported;
+    /// The problem of the notification that may still be on screen.
+    QString m_shownProblem;
 };

@@ -23,6 +23,8 @@ class Notifier : public QObject {
 public:
     /// Shows a notification with the default sound. Returns at once; failures are only logged.
     virtual void post(const Notification& notification) = 0;
+    /// Takes the last notification with this topic off the screen, if it is still there. Returns at once.
+    virtual void withdraw(const QString& topic) = 0;
 
 Q_SIGNALS:
     /// The person has clicked a notification about this day. The token lets a window come to the front; it may be

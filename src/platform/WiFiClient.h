@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "PlatformError.h"
+
 #include <QList>
 #include <QObject>
 
@@ -21,6 +23,12 @@ struct WiFiNetwork {
     std::optional<QString> ssid;
 };
 
+/// Nothing on this computer knows of its Wi-Fi: the service for that does not run.
+class WiFiServiceMissing : public PlatformError {
+public:
+    using PlatformError::PlatformError;
+};
+
 /// The Wi-Fi of this computer. Calls that are waiting when the client is destroyed throw Abandoned.
 class WiFiClient : public QObject {
     Q_OBJECT
@@ -28,7 +36,7 @@ class WiFiClient : public QObject {
 public:
     /// The radio in use; none if there is no radio, or no service that knows of one.
     [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> defaultInterface() = 0;
-    /// The same, for a scan: a radio that is just coming up gets some seconds for it.
+    /// The same, for a scan: a radio that is just coming up gets some seconds for it. Throws WiFiServiceMissing.
     [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> readyInterface() { return defaultInterface(); }
     [[nodiscard]] virtual QCoro::Task<std::optional<WiFiInterface>> interfaceWithName(QString name) = 0;
 

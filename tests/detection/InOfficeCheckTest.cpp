@@ -39,6 +39,7 @@ protected:
     {
         posted += QStringList{n.title, n.subtitle, n.topic, n.day.toString(Qt::ISODate)}.join(u'|');
     }
+    void withdraw(const QString& topic) override { posted += u'-' + topic; }
     bool checkNow(bool markPrevious = true)
     {
         auto task = check.check(markPrevious);
@@ -111,10 +112,13 @@ TEST_F(InOfficeCheckTest, reportsAFailureAndChecksAgain)
     const auto failsWith = [&](const QString& problem) {
         clock.advance(30min);
         EXPECT_EQ(logged.last(), u"critical: Error while checking if in office via Wi-Fi: "_s + problem);
-        EXPECT_EQ(posted.takeLast(), notice + problem + u"|detection-problem|"_s);
+        EXPECT_EQ(posted, QStringList(notice + problem + u"|detection-problem|"_s));
+        posted.clear();
     };
-    client.failure = u"b\u00fcsy %s"_s;
+    settings.wifiTrackingEnabled = false;
     check.start();
+    settings.wifiTrackingEnabled = true;
+    client.failure = u"b\u00fcsy %s"_s;
     failsWith(client.failure);
     client.failure.clear();
     for (int i = 0; i < 2; ++i)
@@ -127,7 +131,32 @@ TEST_F(InOfficeCheckTest, reportsAFailureAndChecksAgain)
     failsWith(u"Wi-Fi is turned off."_s);
     client.interface.reset();
     failsWith(u"Could not find the default Wi-Fi interface."_s);
-    EXPECT_EQ(client.scans.size(), 5); // none without power
+    EXPECT_EQ(logged.filter(u"find default"_s),
+              QStringList(u"critical: Could not find default interface for automatic in office detection"_s));
+    EXPECT_EQ(client.scans.size(), 4); // none without power
+}
+
+TEST_F(InOfficeCheckTest, reportsAProblemOnceADayAndWithdrawsItWhenItIsOver)
+{
+    client.networks = {};
+    // The failure, if any; the days that have passed; and what is posted.
+    for (const auto& [failure, days, expected] : {std::tuple("busy", 0, "busy|detection-problem|"),
+                                                  {"busy", 0, ""},
+                                                  {"gone", 0, "gone|detection-problem|"},
+                                                  {"busy", 0, "-detection-problem"},
+                                                  {"busy", 1, "busy|detection-problem|"},
+                                                  {"", 0, "-detection-problem"},
+                                                  {"", 0, ""},
+                                                  {"busy", 0, ""},
+                                                  {"missing", 0, "missing|detection-problem|"},
+                                                  {"missing", 1, ""}}) {
+        clock.beginDay(clock.today().addDays(days));
+        client.failure = QString::fromLatin1(failure);
+        client.isServiceMissing = client.failure == u"missing"_s;
+        posted.clear();
+        EXPECT_FALSE(checkNow(false));
+        EXPECT_EQ(posted.join(u' ').section(u'\n', -1), QLatin1StringView(expected)) << failure << days;
+    }
 }
 
 TEST_F(InOfficeCheckTest, runsAfterEachIntervalUnlessItIsTurnedOffAndAlsoWithABrokenClock)

@@ -57,7 +57,7 @@ class FaultsTest(DesktopTest):
         self.assertNotIn("so it counts as off", program.said())  # it still waits, and all of that was done meanwhile
         self.system.kill()
         eventually(lambda: self.shown("Wi-Fi or Location Off"))
-        self.press("Run In-Office Check", then=lambda: "Could not find the default Wi-Fi interface" in program.said())
+        self.press("Run In-Office Check", then=lambda: "NetworkManager is not running" in program.said())
         self.start_system()
         eventually(lambda: self.shown("Tracking On"))
         self.assert_handed_over(program)

@@ -17,9 +17,14 @@ protected:
     {
         server.tell("ClearCalls");
         notifier.post(notification);
+        return called("Notify");
+    }
+    /// The arguments with which a method is called.
+    QVariantList called(const char* method)
+    {
         QList<std::pair<quint64, QVariantList>> calls;
         EXPECT_TRUE(eventually([&] {
-            calls = qdbus_cast<decltype(calls)>(server.tell("GetMethodCalls", "Notify"));
+            calls = qdbus_cast<decltype(calls)>(server.tell("GetMethodCalls", method));
             return !calls.isEmpty();
         }));
         return calls.value(0).second;
@@ -58,6 +63,9 @@ TEST_F(FreedesktopNotifierTest, sendsWhatTheServerCanShowAndLeadsToItsDay)
                                                        {"ActionInvoked", 2U, "default"}})
             server.emitSignal(server.name, signal, "us", {number, QLatin1StringView(argument)});
         EXPECT_EQ(std::exchange(opened, {}), u"1. 2.token "_s);
+        notifier.withdraw(u"b"_s);
+        EXPECT_EQ(called("CloseNotification"), QVariantList{3U});
+        EXPECT_EQ(sent({{}, {}, u"b"_s}).at(1), 0);
         server.stop();
     }
 }

@@ -28,6 +28,8 @@ public:
     {
         scans.append(interfaceName);
         co_await defaultInterface(); // held as well
+        if (isServiceMissing)
+            throw WiFiServiceMissing(failure);
         if (!failure.isEmpty())
             throw PlatformError(failure);
         co_return std::as_const(networks); // which the task would take away otherwise
@@ -37,7 +39,7 @@ public:
 
     std::optional<WiFiInterface> interface = WiFiInterface{QStringLiteral("wlan0"), true};
     QList<WiFiNetwork> networks{{QStringLiteral("Office")}};
-    bool isHeld = false;
+    bool isHeld = false, isServiceMissing = false;
     QString failure;
     QStringList scans;
 

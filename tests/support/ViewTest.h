@@ -13,6 +13,7 @@
 class MockNotifier : public Notifier {
 public:
     MOCK_METHOD(void, post, (const Notification&), (override));
+    MOCK_METHOD(void, withdraw, (const QString&), (override));
 };
 
 class FakeLoginItem : public LoginItem {

@@ -43,19 +43,29 @@ FreedesktopNotifier::~FreedesktopNotifier() = default;
 
 void FreedesktopNotifier::post(const Notification& notification)
 {
-    m_queue.enqueue(notification);
-    if (!std::exchange(m_isPosting, true))
-        QMetaObject::invokeMethod(this, &FreedesktopNotifier::postAll, Qt::QueuedConnection);
+    enqueue([this, notification] { return postNow(notification); });
+}
+
+void FreedesktopNotifier::withdraw(const QString& topic)
+{
+    enqueue([this, topic] { return withdrawNow(topic); });
+}
+
+void FreedesktopNotifier::enqueue(const Job& job)
+{
+    m_queue.enqueue(job);
+    if (!std::exchange(m_isWorking, true))
+        QMetaObject::invokeMethod(this, &FreedesktopNotifier::work, Qt::QueuedConnection);
 }
 
 // One at a time: the next one of a topic needs the id of the last.
-QCoro::Task<> FreedesktopNotifier::postAll()
+QCoro::Task<> FreedesktopNotifier::work()
 {
     while (!m_queue.isEmpty()) {
-        const Notification next = m_queue.dequeue();
-        co_await postNow(next);
+        const Job next = m_queue.dequeue();
+        co_await next();
     }
-    m_isPosting = false;
+    m_isWorking = false;
 }
 
 QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
@@ -80,6 +90,19 @@ QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
             m_days.erase(m_days.begin());
     } catch (const BusError& error) {
         qCWarning(logNotifier, "Could not show a notification: %s", error.what());
+    }
+}
+
+QCoro::Task<> FreedesktopNotifier::withdrawNow(QString topic)
+{
+    if (!m_ids.contains(topic))
+        co_return;
+    auto call = methodCall(u"CloseNotification"_s);
+    call << m_ids.take(topic);
+    try {
+        co_await busCall(this, QDBusConnection::sessionBus(), call, m_timeout);
+    } catch (const BusError& error) {
+        qCDebug(logNotifier, "Could not withdraw a notification: %s", error.what());
     }
 }
 

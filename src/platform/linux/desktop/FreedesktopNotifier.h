@@ -11,6 +11,7 @@
 
 #include <QCoroTask>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -27,16 +28,21 @@ public:
     ~FreedesktopNotifier() override;
 
     void post(const Notification& notification) override;
+    void withdraw(const QString& topic) override;
 
 private:
-    QCoro::Task<> postAll();
+    using Job = std::function<QCoro::Task<>()>;
+
+    void enqueue(const Job& job);
+    QCoro::Task<> work();
     QCoro::Task<> postNow(Notification notification);
+    QCoro::Task<> withdrawNow(QString topic);
     QCoro::Task<QStringList> capabilities();
     void followServer();
 
     std::chrono::milliseconds m_timeout;
-    QQueue<Notification> m_queue;
-    bool m_isPosting = false;
+    QQueue<Job> m_queue;
+    bool m_isWorking = false;
     std::optional<QStringList> m_capabilities;
     /// The server's ids of the last notification of each topic.
     QHash<QString, quint32> m_ids;

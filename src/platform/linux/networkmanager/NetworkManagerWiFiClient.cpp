@@ -3,6 +3,7 @@
 
 #include "Delay.h"
 #include "KernelClock.h"
+#include "NetworkManagerNames.h"
 #include "PowerWatch.h"
 #include "SignalAwaiter.h"
 
@@ -35,7 +36,8 @@ const WirelessDevice& presentDevice(const NetworkManagerState& state, const QStr
 {
     const WirelessDevice* device = state.deviceWithInterface(interfaceName);
     if (device == nullptr)
-        throw PlatformError(WiFiClient::tr("The Wi-Fi interface %1 is no longer there.").arg(interfaceName));
+        throw PlatformError(
+            NetworkManagerWiFiClient::tr("The Wi-Fi interface %1 is no longer there.").arg(interfaceName));
     return *device;
 }
 
@@ -60,7 +62,10 @@ QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::defaultInter
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::readyInterface()
 {
     const auto state = co_await readStateOnceReady();
-    co_return state ? interfaceOf(*state, state->defaultDevice()) : std::nullopt;
+    if (!state)
+        throw WiFiServiceMissing(
+            tr("NetworkManager is not running, and without it Pellory cannot see which networks are in range."));
+    co_return interfaceOf(*state, state->defaultDevice());
 }
 
 QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWithName(QString name)
@@ -70,6 +75,19 @@ QCoro::Task<std::optional<WiFiInterface>> NetworkManagerWiFiClient::interfaceWit
 }
 
 QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::scanForNetworks(QString interfaceName)
+{
+    try {
+        const QList<WiFiNetwork> networks = co_await findNetworks(interfaceName);
+        co_return networks;
+    } catch (const BusError& error) {
+        qCWarning(logWiFi, "Cannot scan: %s", error.what());
+        if (error.name().startsWith(networkManagerService)) // which says what is wrong in a sentence
+            throw;
+    }
+    throw PlatformError(tr("NetworkManager did not complete the scan. It may have been stopped or restarted."));
+}
+
+QCoro::Task<QList<WiFiNetwork>> NetworkManagerWiFiClient::findNetworks(QString interfaceName)
 {
     const auto start = readKernelClock(CLOCK_BOOTTIME);
     // Callers have just asked for the interface, so it is usually known.

@@ -36,6 +36,7 @@ private:
     [[nodiscard]] QCoro::Task<NetworkManagerState> readState();
     [[nodiscard]] QCoro::Task<StateIfRunning> readStateIfRunning();
     [[nodiscard]] QCoro::Task<StateIfRunning> readStateOnceReady();
+    [[nodiscard]] QCoro::Task<QList<WiFiNetwork>> findNetworks(QString interfaceName);
     [[nodiscard]] QCoro::Task<ScanOutcome> scan(QString devicePath);
 
     SystemBus& m_bus;
