@@ -74,7 +74,7 @@ QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
 
 QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
 {
-    qCDebug(logDetection, "Checking if in office via Wi-Fi");
+    qCInfo(logDetection, "Checking if in office via Wi-Fi");
     const AppSettings& settings = m_parts.settings;
     if (!settings.wifiTrackingEnabled) {
         qCDebug(logDetection, "Skipping in office wifi checking, not enabled");

@@ -166,6 +166,7 @@ TEST_F(InOfficeCheckTest, runsAfterEachIntervalUnlessItIsTurnedOffAndAlsoWithABr
         EXPECT_FALSE(checkNow());
         *setting = !*setting;
     }
+    EXPECT_EQ(logged, QStringList(2, u"Checking if in office via Wi-Fi"_s));
     EXPECT_TRUE(client.scans.isEmpty() && context.fetchMonths().isEmpty());
     check.start();
     EXPECT_EQ(clock.sleeps.first(), 30min);
