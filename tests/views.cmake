@@ -20,7 +20,7 @@ pellory_test(app
 )
 pellory_test(platform
     SOURCES platform/BackgroundLifeTest.cpp platform/DesktopServicesTest.cpp platform/NetworkManagerTest.cpp
-        platform/PortalAppearanceTest.cpp platform/ProcessSetupTest.cpp
+        platform/PortalAppearanceTest.cpp platform/ProcessSetupTest.cpp platform/SystemClockTest.cpp
     LINKS Pellory::platform_linux Qt6::DBus Qt6::Test
     PRECOMPILES <QCoroTask> <QTest> <QtDBus>
 )

@@ -22,6 +22,6 @@ public:
     [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::seconds duration) = 0;
 
 Q_SIGNALS:
-    /// today() may have changed: midnight has passed, or the clock was set.
+    /// today() may have changed: midnight has passed, or the clock or the time zone was set.
     void dayChanged();
 };

@@ -28,15 +28,17 @@ std::chrono::seconds timeSuspended()
 
 } // namespace
 
-SystemClock::SystemClock()
+SystemClock::SystemClock(const char* timeZoneLink)
     : m_timer(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC))
+    , m_timeZone(timeZoneLink)
 {
     if (m_timer < 0) {
         qCWarning(logClock, "Cannot set a timer for midnight: %s", qUtf8Printable(qt_error_string()));
         return;
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::wakeUp);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::handleTimer);
+    connect(&m_timeZone, &LinkWatch::changed, this, &SystemClock::beginDay);
     sleepUntilMidnight();
 }
 
@@ -71,11 +73,16 @@ void SystemClock::sleepUntilMidnight()
     timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &until, nullptr);
 }
 
-void SystemClock::wakeUp()
+void SystemClock::handleTimer()
 {
     // The read fails with ECANCELED if the clock was set; either way the day may have changed.
     quint64 expirations = 0;
     [[maybe_unused]] const ssize_t size = read(m_timer, &expirations, sizeof expirations);
+    beginDay();
+}
+
+void SystemClock::beginDay()
+{
     sleepUntilMidnight();
     Q_EMIT dayChanged();
 }

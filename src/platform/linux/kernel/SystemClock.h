@@ -2,17 +2,19 @@
 #pragma once
 
 #include "Clock.h"
+#include "LinkWatch.h"
 
 #include <memory>
 
 class QSocketNotifier;
 
-/// The computer's clock. A kernel timer wakes it at local midnight and when the clock is set.
+/// The computer's clock. The kernel wakes it at local midnight, and when the clock or the time zone is set.
 class SystemClock : public Clock {
     Q_OBJECT
 
 public:
-    SystemClock();
+    /// The link names the local time zone.
+    explicit SystemClock(const char* timeZoneLink = "/etc/localtime");
     ~SystemClock() override;
 
     [[nodiscard]] QDateTime now() const override;
@@ -20,8 +22,10 @@ public:
 
 private:
     void sleepUntilMidnight();
-    void wakeUp();
+    void beginDay();
+    void handleTimer();
 
     int m_timer = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
+    LinkWatch m_timeZone;
 };
