@@ -8,6 +8,7 @@
 #include "Fonts.h"
 #include "Month.h"
 #include "RestingPointer.h"
+#include "StateGestures.h"
 #include "StatisticsTexts.h"
 #include "StatusPicker.h"
 #include "Theme.h"
@@ -17,7 +18,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QMenu>
 #include <QPainter>
 
 #include <algorithm>
@@ -110,17 +110,18 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
     cell->setFocusPolicy(Qt::ClickFocus);
     cell->setVisible(false);
     cell->installEventFilter(this);
-    connect(cell, &CommandClickableButton::menuRequested, this,
-            [this, index](const QPoint& position) { showPicker(index, position); });
+    connect(cell, &CommandClickableButton::menuRequested, this, [this, index] { showPicker(index); });
     return cell;
 }
 
-void CalendarView::showPicker(qsizetype index, const QPoint& position)
+void CalendarView::showPicker(qsizetype index)
 {
+    const auto& cell = *m_cells[static_cast<std::size_t>(index)];
+    auto* picker = new StatusPicker(m_month->days.value().at(index).state, this);
     // Marks the month that was clicked, even if another is shown by then.
-    QMenu* menu = makeStatusPicker(
-        this, [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
-    menu->popup(position);
+    connect(picker, &StatusPicker::chosen, this,
+            [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
+    picker->popUpBeside({cell.mapToGlobal(QPoint()), cell.size()});
 }
 
 void CalendarView::setMonth(const std::shared_ptr<Month>& month)
@@ -232,8 +233,12 @@ void CalendarView::keyPressEvent(QKeyEvent* event)
     case Qt::Key_End:
         return focusDay(m_month->daysInMonth);
     default:
-        QWidget::keyPressEvent(event);
+        break;
     }
+    if (const auto state = stateForKey(*event); state && focusedDay() > 0)
+        m_editor.setDayState(*m_month, *m_month->indexOf(focusedDay()), *state);
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void CalendarView::paintEvent(QPaintEvent* /*event*/)

@@ -48,7 +48,7 @@ private:
     void addWeekdays(QGridLayout& grid);
     void addCells(QGridLayout& grid);
     [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
-    void showPicker(qsizetype index, const QPoint& position);
+    void showPicker(qsizetype index);
     void refresh();
     void refreshCell(qsizetype index, QDate today);
     void moveFocus(int days);

@@ -115,9 +115,9 @@ QSize CommandClickableButton::sizeHint() const
     return faceSize().grownBy(cellMargins);
 }
 
-void CommandClickableButton::contextMenuEvent(QContextMenuEvent* event)
+void CommandClickableButton::contextMenuEvent(QContextMenuEvent* /*event*/)
 {
-    requestMenu(event->reason() == QContextMenuEvent::Keyboard ? menuCorner() : event->globalPos());
+    requestMenu();
 }
 
 void CommandClickableButton::enterEvent(QEnterEvent* event)
@@ -148,8 +148,12 @@ void CommandClickableButton::keyPressEvent(QKeyEvent* event)
 {
     // Qt sends a context menu event for the Menu key only.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-        requestMenu(menuCorner());
+        requestMenu();
         return;
+    }
+    if (stateForKey(*event)) {
+        m_focusVisible.show();
+        update();
     }
     // The grid handles all other keys.
     if (event->key() != Qt::Key_Space) {
@@ -232,15 +236,10 @@ void CommandClickableButton::run(Qt::KeyboardModifiers held)
     }
 }
 
-QPoint CommandClickableButton::menuCorner() const
-{
-    return mapToGlobal(face().bottomLeft());
-}
-
-void CommandClickableButton::requestMenu(const QPoint& globalPosition)
+void CommandClickableButton::requestMenu()
 {
     setHovered(false); // the menu takes the pointer
-    Q_EMIT menuRequested(globalPosition);
+    Q_EMIT menuRequested();
 }
 
 void CommandClickableButton::setHovered(bool inside)

@@ -49,7 +49,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted on a right click, the Menu key or Shift+F10.
-    void menuRequested(const QPoint& globalPosition);
+    void menuRequested();
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -69,9 +69,7 @@ private:
     [[nodiscard]] QRect numberArea() const;
     [[nodiscard]] QSize faceSize() const;
     void run(Qt::KeyboardModifiers held);
-    /// Where the menu opens if a key was pressed, in global coordinates.
-    [[nodiscard]] QPoint menuCorner() const;
-    void requestMenu(const QPoint& globalPosition);
+    void requestMenu();
     void setHovered(bool inside);
     void setShowTooltip(bool show);
     void updateLabel();

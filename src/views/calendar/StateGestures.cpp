@@ -2,7 +2,9 @@
 #include "StateGestures.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -53,4 +55,19 @@ QString keyName(ClickModifier modifier)
             return QCoreApplication::translate("StateGestures", name);
     }
     return {};
+}
+
+Qt::Key keyFor(DayState state)
+{
+    return static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(state));
+}
+
+std::optional<DayState> stateForKey(const QKeyEvent& event)
+{
+    // Shift is held for digits on some keyboards.
+    if ((event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier)
+        return {};
+    const auto* const found =
+        std::ranges::find_if(allDayStates, [&](DayState state) { return event.key() == keyFor(state); });
+    return found == allDayStates.end() ? std::nullopt : std::optional(*found);
 }

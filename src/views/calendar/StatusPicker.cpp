@@ -1,15 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StatusPicker.h"
 
+#include "Day.h"
 #include "Fonts.h"
 #include "KeyCap.h"
 #include "StateGestures.h"
+#include "StateMark.h"
+#include "Symbol.h"
+#include "Theme.h"
 
-#include <QMenu>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScreen>
+#include <QStyleOption>
 
 namespace {
+
+constexpr QSize tickSize(16, 16);
+constexpr QSize swatchSize(24, 18);
+constexpr int gap = 8;
+constexpr int cellGap = 2;
 
 // All keys are as wide as the widest, so that the texts line up.
 QSize keySize(const QFont& font)
@@ -20,51 +33,168 @@ QSize keySize(const QFont& font)
     return size;
 }
 
-QIcon keyIcon(ClickModifier modifier, const QWidget& widget)
+QSize iconSize(const QFont& font)
 {
-    if (modifier == ClickModifier::None)
-        return {};
-    const QFont font = fonts::caption(widget.font());
-    QPixmap pixmap(keySize(font) * widget.devicePixelRatioF());
-    pixmap.setDevicePixelRatio(widget.devicePixelRatioF());
+    const QSize key = keySize(font);
+    return {tickSize.width() + gap + swatchSize.width() + gap + key.width(), qMax(swatchSize.height(), key.height())};
+}
+
+// A tick for the current state, the colour and mark of a state, and the modifier key that sets it in one click.
+QPixmap drawIcon(DayState state, bool isCurrent, const QWidget& menu, const QPalette& colors)
+{
+    const QFont font = fonts::caption(menu.font());
+    const QRect whole({}, iconSize(font));
+    QPixmap pixmap(whole.size() * menu.devicePixelRatioF());
+    pixmap.setDevicePixelRatio(menu.devicePixelRatioF());
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setFont(font);
-    drawKeyCap(painter, {QPointF(), pixmap.deviceIndependentSize()}, keyName(modifier), widget.palette());
-    painter.end();
+    const auto place = [&](Qt::Alignment side, const QSize& size) {
+        return QStyle::alignedRect(menu.layoutDirection(), side | Qt::AlignVCenter, size, whole);
+    };
+    const QRect swatch = place(Qt::AlignLeft, {tickSize.width() + gap + swatchSize.width(), swatchSize.height()});
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isCurrent)
+        drawSymbol(painter, place(Qt::AlignLeft, tickSize), Symbol::Tick, themeFor(colors).text);
+    drawDaySwatch(painter, QStyle::alignedRect(menu.layoutDirection(), Qt::AlignRight, swatchSize, swatch),
+                  themeFor(menu.palette()), {1, state, true});
+    if (const QString key = keyName(modifierFor(state)); !key.isEmpty())
+        drawKeyCap(painter, place(Qt::AlignRight, keySize(font)), key, colors);
     return pixmap;
 }
 
-// Menus expect square icons, but key caps are wide.
-class KeyColumnStyle : public QProxyStyle {
+QIcon iconOf(DayState state, bool isCurrent, const QWidget& menu)
+{
+    QIcon icon;
+    icon.addPixmap(drawIcon(state, isCurrent, menu, menu.palette()), QIcon::Normal);
+    // The entry that is about to be chosen is white on blue in both schemes.
+    icon.addPixmap(drawIcon(state, isCurrent, menu, paletteFor(ColorScheme::Dark)), QIcon::Active);
+    return icon;
+}
+
+// The place of the letter that chooses an entry: one that no other has, at the start of a word if possible.
+qsizetype accessLetter(const QString& text, const QString& taken)
+{
+    for (const bool inWords : {false, true}) {
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const bool isAtStart = i == 0 || text.at(i - 1).isSpace();
+            if (text.at(i).isLetter() && (isAtStart || inWords) && !taken.contains(text.at(i), Qt::CaseInsensitive))
+                return i;
+        }
+    }
+    return -1;
+}
+
+// Menus expect square icons without a tick of their own. The frame makes the menu stand out from a dark card.
+class PickerStyle : public QProxyStyle {
 public:
-    explicit KeyColumnStyle(int keyWidth)
-        : m_keyWidth(keyWidth)
+    explicit PickerStyle(int iconWidth)
+        : m_iconWidth(iconWidth)
     {
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
-        return metric == PM_SmallIconSize ? m_keyWidth : QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_SmallIconSize ? m_iconWidth : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (element != CE_MenuItem || item == nullptr)
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionMenuItem unticked = *item;
+        unticked.checkType = QStyleOptionMenuItem::NotCheckable;
+        unticked.checked = false;
+        QProxyStyle::drawControl(element, &unticked, painter, widget);
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_PanelMenu)
+            return;
+        painter->setPen(themeFor(option->palette).fieldBorder);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     }
 
 private:
-    int m_keyWidth;
+    int m_iconWidth;
 };
 
 } // namespace
 
-QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& onChosen)
+StatusPicker::StatusPicker(DayState current, QWidget* parent)
+    : QMenu(parent)
+    , m_current(current)
 {
-    auto* menu = new QMenu(parent);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    auto* style = new KeyColumnStyle(keySize(fonts::caption(menu->font())).width());
-    style->setParent(menu);
-    menu->setStyle(style);
+    setAttribute(Qt::WA_DeleteOnClose);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, themeFor(colors).selected);
+    setPalette(colors);
+    auto* style = new PickerStyle(iconSize(fonts::caption(font())).width());
+    style->setParent(this);
+    setStyle(style);
+    QString taken;
     for (const DayState state : allDayStates) {
-        QAction* action = menu->addAction(keyIcon(modifierFor(state), *menu), description(state));
-        action->setIconVisibleInMenu(true);
-        QObject::connect(action, &QAction::triggered, menu, [onChosen, state] { onChosen(state); });
+        QString text = description(state);
+        if (const qsizetype letter = accessLetter(text, taken); letter >= 0) {
+            taken.append(text.at(letter));
+            text.insert(letter, u'&');
+        }
+        addState(state, text);
     }
-    return menu;
+}
+
+void StatusPicker::addState(DayState state, const QString& text)
+{
+    const bool isCurrent = state == m_current;
+    QAction* action = addAction(iconOf(state, isCurrent, *this), text);
+    action->setIconVisibleInMenu(true);
+    action->setCheckable(true);
+    action->setChecked(isCurrent);
+    action->setShortcut(keyFor(state));
+    action->setShortcutVisibleInContextMenu(true);
+    connect(action, &QAction::triggered, this, [this, state] { Q_EMIT chosen(state); });
+}
+
+void StatusPicker::popUpBeside(const QRect& cell)
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        m_pressedAt = QCursor::pos();
+    const QSize size = sizeHint();
+    const QRect room = parentWidget()->screen()->availableGeometry();
+    const int before = cell.left() - cellGap - size.width();
+    const int after = cell.right() + 1 + cellGap;
+    const bool fitsBefore = before >= room.left();
+    const bool fitsAfter = after + size.width() <= room.right() + 1;
+    const bool isAfter = isLeftToRight() ? fitsAfter || !fitsBefore : fitsAfter && !fitsBefore;
+    popup({isAfter ? after : before, qMax(room.top(), qMin(cell.top(), room.bottom() + 1 - size.height()))});
+}
+
+void StatusPicker::keyPressEvent(QKeyEvent* event)
+{
+    if (activeAction() == nullptr && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        setActiveAction(actions().at(static_cast<qsizetype>(m_current)));
+        return;
+    }
+    if (const auto state = stateForKey(*event)) {
+        close();
+        Q_EMIT chosen(*state);
+        return;
+    }
+    QMenu::keyPressEvent(event);
+}
+
+void StatusPicker::mouseReleaseEvent(QMouseEvent* event)
+{
+    // The press that opened the menu may slip a little. It chooses only if it is drawn onto an entry.
+    if (const auto pressedAt = std::exchange(m_pressedAt, {})) {
+        const int way = (event->globalPosition().toPoint() - *pressedAt).manhattanLength();
+        if (way < 2 * QApplication::startDragDistance() || actionAt(event->position().toPoint()) == nullptr)
+            return;
+    }
+    QMenu::mouseReleaseEvent(event);
 }

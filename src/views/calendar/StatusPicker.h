@@ -3,10 +3,32 @@
 
 #include "DayState.h"
 
-#include <functional>
+#include <QMenu>
 
-class QMenu;
-class QWidget;
+#include <optional>
 
-/// A menu of all states, each with the modifier key that sets it in one click. It deletes itself when it closes.
-[[nodiscard]] QMenu* makeStatusPicker(QWidget* parent, const std::function<void(DayState)>& onChosen);
+/// A menu of all states, each with the keys that set it. It deletes itself when it closes.
+class StatusPicker : public QMenu {
+    Q_OBJECT
+
+public:
+    /// `current` is checked.
+    StatusPicker(DayState current, QWidget* parent);
+
+    /// Opens the menu beside a cell, which is in global coordinates: after it, or before it if there is no room.
+    void popUpBeside(const QRect& cell);
+
+Q_SIGNALS:
+    void chosen(DayState state);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void addState(DayState state, const QString& text);
+
+    DayState m_current;
+    /// Where the button was pressed that opened the menu, until it is released.
+    std::optional<QPoint> m_pressedAt;
+};

@@ -48,6 +48,7 @@ void drawStateMark(QPainter& painter, const QRectF& area, DayState state, const 
 void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, const Day& day)
 {
     const QColor color = dayColor(theme, day);
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
@@ -55,4 +56,5 @@ void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, co
     QRectF mark({}, QSizeF(1, 1) * (swatchMark * area.height()));
     mark.moveCenter(area.center());
     drawStateMark(painter, mark, day.state, readableTextOn(color));
+    painter.restore();
 }

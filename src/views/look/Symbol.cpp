@@ -94,6 +94,16 @@ QPainterPath rightClick()
     return path;
 }
 
+QPainterPath keyboard()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(1.2, 3.6, 13.6, 8.8), 1.8, 1.8);
+    for (const qreal key : {4.0, 6.7, 9.3, 12.0})
+        path.addEllipse(QPointF(key, 6.5), 0.1, 0.1);
+    path.addPath(line({{5.2, 9.6}, {10.8, 9.6}}));
+    return path;
+}
+
 QPainterPath strokesOf(Symbol symbol)
 {
     switch (symbol) {
@@ -117,10 +127,14 @@ QPainterPath strokesOf(Symbol symbol)
         return circled(line({{5.8, 5.8}, {10.2, 10.2}, {8.0, 8.0}, {10.2, 5.8}, {5.8, 10.2}}));
     case Symbol::Check:
         return circled(line({{5.0, 8.2}, {7.2, 10.4}, {11.0, 5.8}}));
+    case Symbol::Tick:
+        return line({{3.0, 8.6}, {6.4, 12.0}, {13.0, 4.6}});
     case Symbol::Click:
         return click();
     case Symbol::RightClick:
         return rightClick();
+    case Symbol::Keyboard:
+        return keyboard();
     }
     Q_UNREACHABLE();
 }

@@ -17,8 +17,10 @@ enum class Symbol {
     Plus,
     Cross,
     Check,
+    Tick,
     Click,
     RightClick,
+    Keyboard,
 };
 
 /// Draws a symbol in a square area.

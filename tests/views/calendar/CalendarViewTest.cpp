@@ -24,27 +24,75 @@ TEST_F(CalendarViewTest, showsTheDaysOfTheMonthUnderTheirWeekdaysAndNothingElse)
 
 TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)
 {
-    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
     const std::function<void()> ways[]{
         [&] { click(dayButton(view, friday), {}, Qt::RightButton); },
         [&] { press(view, Qt::Key_F10, Qt::ShiftModifier); },
-        [&] { QApplication::sendEvent(view.windowHandle(), &menuKey); },
+        [&] {
+            QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+            QApplication::sendEvent(view.windowHandle(), &menuKey);
+        },
     };
+    // The first step lands on the current state, which is the one set last.
+    const QList<Qt::Key> choices[]{
+        {Qt::Key_1}, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}, {Qt::Key_O},
+        {Qt::Key_V}, {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return},
+    };
+    int current = 1;
     for (std::size_t place = 0; place < allDayStates.size(); ++place) {
         view.setMonth(november);
+        show(view);
         view.focusDay(friday);
         ways[std::min<std::size_t>(place, 2)]();
-        QStringList items;
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr) << place;
+        QString items;
         for (const QAction* item : QApplication::activePopupWidget()->actions())
-            items += item->icon().isNull() ? item->text() : item->text() + u'*';
-        EXPECT_EQ(items.join(u' '), u"Unknown* In the Office Out of Office Vacation Day* Will Be In Office*"_s);
+            items += item->text() + item->shortcut().toString() + (item->isChecked() ? u'*' : u' ');
+        QString expected = u"&Unknown1 &In the Office2 &Out of Office3 &Vacation Day4 &Will Be In Office5 "_s;
+        expected[expected.indexOf(QString::number(current)) + 1] = u'*';
+        EXPECT_EQ(items, expected);
         view.setMonth(month(2026, 8)); // the choice is for the day that was asked about
-        for (std::size_t step = 0; step <= place; ++step)
-            press(view, Qt::Key_Down);
-        press(view, Qt::Key_Return);
+        for (const Qt::Key key : choices[place])
+            press(view, key);
         EXPECT_EQ(dayOnDisk(friday).state, allDayStates.at(place));
+        current = int(place) + 1;
     }
     EXPECT_EQ(month(2026, 8)->days.value(), Month(2026, 8).days.value());
+}
+
+TEST_F(CalendarViewTest, thePickerOpensBesideTheDayAndTakesOnlyADeliberateRelease)
+{
+    auto& button = dayButton(view, friday);
+    for (const bool isAfter : {true, false}) {
+        view.setLayoutDirection(isAfter ? Qt::LeftToRight : Qt::RightToLeft);
+        view.move(isAfter ? 0 : 400, 100);
+        QApplication::processEvents();
+        const QRect cell(button.mapToGlobal(QPoint()), button.size());
+        const QPoint edge = isAfter ? cell.topRight() : cell.topLeft();
+        for (const auto& [way, after] : {std::pair(8, DayState::IN_OFFICE), {40, DayState::UNKNOWN}}) {
+            mark(*november, friday, DayState::IN_OFFICE);
+            show(view);
+            QCursor::setPos(edge);
+            QTest::mousePress(view.windowHandle(), Qt::RightButton, {}, view.mapFromGlobal(edge));
+            const QWidget* picker = QApplication::activePopupWidget();
+            ASSERT_NE(picker, nullptr);
+            EXPECT_FALSE(picker->geometry().intersects(cell));
+            const QPoint end = picker->mapFromGlobal(edge + QPoint(isAfter ? way : -way, 10));
+            moveTo(*picker, end);
+            QTest::mouseRelease(picker->windowHandle(), Qt::RightButton, {}, end);
+            EXPECT_EQ(dayOnDisk(friday).state, after) << isAfter << ' ' << way;
+            press(view, Qt::Key_Escape);
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        }
+    }
+}
+
+TEST_F(CalendarViewTest, numberKeysSetTheStateOfTheFocusedDay)
+{
+    view.focusDay(friday);
+    for (const DayState state : allDayStates) {
+        press(view, Qt::Key(Qt::Key_1 + int(state)));
+        EXPECT_EQ(dayOnDisk(friday).state, state);
+    }
 }
 
 TEST_F(CalendarViewTest, keysMoveBetweenTheDaysAndTabEntersWhereTheyLeft)
