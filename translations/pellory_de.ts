@@ -395,6 +395,10 @@
         <source>Show day status on hover</source>
         <translation>Tagesstatus beim Darüberfahren anzeigen</translation>
     </message>
+    <message>
+        <source>Set Status of Focused Day</source>
+        <translation>Status des ausgewählten Tages setzen</translation>
+    </message>
 </context>
 <context>
     <name>LocationAlert</name>

@@ -12,6 +12,7 @@
 #include "ViewSettings.h"
 
 #include <QGridLayout>
+#include <QKeySequence>
 #include <QPainter>
 
 namespace {
@@ -19,6 +20,7 @@ namespace {
 constexpr int swatchColumn = 0;
 constexpr int keyColumn = 1;
 constexpr int textColumn = 2;
+constexpr int numberColumn = 3;
 
 class Swatch : public QWidget {
 public:
@@ -39,6 +41,11 @@ private:
     Day m_day;
 };
 
+QString keyText(DayState state)
+{
+    return QKeySequence(keyFor(state)).toString();
+}
+
 } // namespace
 
 LegendView::LegendView(ViewSettings& settings, QWidget* parent)
@@ -56,6 +63,8 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"));
     // Ctrl with a click resets a day here, so the Menu key and the right button open the menu instead.
     addGesture(*grid, tr("Menu", "key"), Symbol::RightClick, tr(": Open Status Picker Menu "));
+    addGesture(*grid, keyText(allDayStates.front()) + u'\u2013' + keyText(allDayStates.back()), Symbol::Keyboard,
+               tr("Set Status of Focused Day"));
     auto* hoverSwitch = new Switch(tr("Show day status on hover"));
     bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);
     grid->setRowMinimumHeight(grid->rowCount(), 4);
@@ -70,6 +79,8 @@ void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& tex
     if (modifier != ClickModifier::None)
         grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
     grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);
+    if (day.isWorkday)
+        grid.addWidget(new KeyCap(keyText(day.state)), row, numberColumn);
 }
 
 void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text)

@@ -6,19 +6,24 @@
 
 class LegendViewTest : public CalendarTest {};
 
-TEST_F(LegendViewTest, showsTheColoursOfTheCalendarWithTheirNames)
+TEST_F(LegendViewTest, showsTheStatesOfTheCalendarWithTheirKeys)
 {
     LegendView legend(viewSettings);
     show(legend);
     const auto& grid = *qobject_cast<QGridLayout*>(legend.layout());
-    const auto expectRow = [&](int row, const QString& text, const Day& day) {
+    const auto key = [&](int row, int column) {
+        const auto* cap = grid.itemAtPosition(row, column);
+        return cap == nullptr ? QString() : cap->widget()->accessibleName();
+    };
+    const auto expectRow = [&](int row, const QString& text, const Day& day, const QString& keys) {
         EXPECT_EQ(grid.itemAtPosition(row, 2)->widget()->property("text"), text);
         const QImage swatch = grid.itemAtPosition(row, 0)->widget()->grab().toImage();
         EXPECT_EQ(swatch.pixelColor(3, 10), dayColor(themeFor(ColorScheme::Light), day));
         EXPECT_EQ(hasMark(swatch.copy(8, 4, 12, 13)), day.state != DayState::UNKNOWN);
+        EXPECT_EQ(key(row, 1) + key(row, 3), keys);
     };
-    int row = 0;
-    for (const DayState state : allDayStates)
-        expectRow(++row, description(state), {1, state, true});
-    expectRow(++row, u"Weekend Day"_s, {1});
+    const QStringList keys{u"Ctrl1"_s, u"2"_s, u"3"_s, u"Shift4"_s, u"Alt5"_s};
+    for (int i = 0; i < 5; ++i)
+        expectRow(i + 1, description(allDayStates.at(i)), {1, allDayStates.at(i), true}, keys.at(i));
+    expectRow(6, u"Weekend Day"_s, {1}, {});
 }
