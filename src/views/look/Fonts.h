@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QFontInfo>
 
 /// Text sizes in proportion to the desktop's font. There are few, because every size and weight that is shown adds
 /// about half a millisecond to start-up.
@@ -42,8 +43,8 @@ namespace fonts {
 /// A length in proportion to the desktop's font, but never less than in a font of the usual size.
 [[nodiscard]] inline int grown(int length, const QFont& base)
 {
-    constexpr double usualPointSize = 11.0;
-    return qRound(length * qMax(1.0, base.pointSizeF() / usualPointSize));
+    constexpr double usualPixelSize = 15.0;
+    return qRound(length * qMax(1.0, QFontInfo(base).pixelSize() / usualPixelSize));
 }
 
 } // namespace fonts

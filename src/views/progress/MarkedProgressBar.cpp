@@ -27,7 +27,9 @@ constexpr auto tooltipDelay = 300ms;
 constexpr qreal barRadius = 7.0 / 24;
 // How far captions extend past the ends of the bar: as wanted, and where there is little room.
 constexpr qreal captionOverhang = 40.0 / 24;
-constexpr qreal leastOverhang = 12.0 / 24;
+constexpr qreal leastOverhang = 10.0 / 24;
+// Captions do not touch the edge of the card.
+constexpr qreal edgeMargin = 6.0;
 // A line is too thin to be hit.
 constexpr qreal lineReach = 4.0;
 
@@ -115,7 +117,7 @@ QRect MarkedProgressBar::barRect() const
 
 QSize MarkedProgressBar::sizeHint() const
 {
-    return sizeWith(captionOverhang * m_contents.barHeight);
+    return sizeWith(captionOverhang * m_contents.barHeight + edgeMargin);
 }
 
 QSize MarkedProgressBar::minimumSizeHint() const
@@ -131,7 +133,7 @@ QSize MarkedProgressBar::sizeWith(qreal overhang) const
 ProgressBarGeometry MarkedProgressBar::barGeometry() const
 {
     const QFontMetricsF captions(m_contents.markerFont);
-    const qreal free = 0.5 * (width() - m_contents.barWidth);
+    const qreal free = 0.5 * (width() - m_contents.barWidth) - edgeMargin;
     ProgressBarMeasures measures{.width = static_cast<qreal>(m_contents.barWidth),
                                  .overhang = std::clamp(free, 0.0, captionOverhang * m_contents.barHeight),
                                  .barHeight = m_contents.barHeight,

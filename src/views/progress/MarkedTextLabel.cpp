@@ -119,8 +119,9 @@ void MarkedTextLabel::layOut()
 int MarkedTextLabel::breakLines(QTextLayout& layout, const MarkedText& text, qsizetype letters, qreal width) const
 {
     const QString whole = toPlainText(text);
+    // The layout decides where lines begin, and the language of the text in which order its words are.
     QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
-    option.setTextDirection(layoutDirection());
+    option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setText(letters < whole.size() ? whole.left(letters).trimmed() + u'\u2026' : whole);
     layout.setFont(font());

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "HoverLabel.h"
 #include "MarkedProgressBar.h"
+#include "MarkedTextLabel.h"
 #include "Testing.h"
 #include "Widgets.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QImage>
 #include <QPointer>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 
@@ -104,4 +108,42 @@ TEST(MarkedProgressBarTest, showsTheAverageAfterADelay)
     contents.label.reset();
     bar.setContents(contents);
     EXPECT_EQ(bar.tooltipText(), u"You've reached 0.40 average days in office per week"_s);
+}
+
+TEST(MarkedProgressBarTest, aMarkerSaysItsWholeTextOnHover)
+{
+    MarkedProgressBar bar;
+    MarkedProgressBar::Contents contents;
+    const QString name = u"more words than there is room for "_s.repeated(9);
+    contents.markers = {{0.5, name}, {1, u"a"_s}, {1, u"b"_s}};
+    bar.setContents(contents);
+    bar.resize(bar.sizeHint());
+    const QRect shown = bar.barRect();
+    for (const auto& [x, text] : {std::pair(shown.center().x(), name), {shown.right(), u"a, b"_s}}) {
+        const QPoint place(x, 30);
+        QHelpEvent hover(QEvent::ToolTip, place, bar.mapToGlobal(place));
+        QApplication::sendEvent(&bar, &hover);
+        EXPECT_EQ(QToolTip::text(), text);
+    }
+}
+
+TEST(MarkedTextLabelTest, elidesWhatIsTooLongAndBeginsWhereTheLayoutDoes)
+{
+    MarkedTextLabel label;
+    label.setLineCount(2);
+    label.setMarkedText({{u"8 days"_s, true}});
+    const QSize least = label.minimumSizeHint();
+    label.resize(300, least.height());
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        label.setLayoutDirection(direction);
+        const QImage left = label.grab({0, 0, 150, least.height()}).toImage();
+        QImage blank = left;
+        blank.fill(left.pixelColor(0, 0));
+        EXPECT_EQ(left == blank, direction == Qt::RightToLeft);
+    }
+    EXPECT_FALSE(label.isElided());
+    label.setMarkedText({{u"8 more days to reach a goal of many words "_s.repeated(9)}});
+    EXPECT_TRUE(label.isElided());
+    EXPECT_EQ(label.toolTip(), label.text());
+    EXPECT_EQ(label.minimumSizeHint(), least);
 }
