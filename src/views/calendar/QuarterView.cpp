@@ -11,9 +11,6 @@
 namespace {
 
 constexpr int monthsOfQuarter = 3;
-constexpr int margin = 24;
-constexpr int spacing = 16;
-constexpr int widthForRow = 3 * Card::contentWidth + 2 * spacing + 2 * margin;
 
 } // namespace
 
@@ -25,27 +22,34 @@ QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, con
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));
     m_stats = new QuarterStatsView(settings, viewSettings, clock, navigation);
     connectNavigation(*navigation);
-    contents().addWidget(m_stats, 0, Qt::AlignHCenter);
-    contents().addLayout(m_row);
-    m_row->setSpacing(spacing);
     for (int i = 0; i < monthsOfQuarter; ++i) {
         auto* card = new MonthCard(context, settings, viewSettings, clock);
-        m_row->addWidget(card, 0, Qt::AlignHCenter);
+        m_row->addWidget(card);
         connectCard(*card);
     }
+    m_row->setSpacing(contents().spacing());
+    contents().addWidget(m_stats, 0, Qt::AlignHCenter);
+    contents().addLayout(m_row);
+    contents().setAlignment(m_row, Qt::AlignHCenter);
     const QDate today = clock.today();
     showPeriod({today.year(), today.month()});
 }
 
 QSize QuarterView::minimumSizeHint() const
 {
-    return {Card::contentWidth + 2 * margin, QWidget::minimumSizeHint().height()};
+    const QMargins margins = layout()->contentsMargins();
+    return {Card::contentWidth(font()) + margins.left() + margins.right(), QWidget::minimumSizeHint().height()};
 }
 
 void QuarterView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_row->setDirection(width() >= widthForRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const int room = (layout()->contentsRect().width() - (monthsOfQuarter - 1) * m_row->spacing()) / monthsOfQuarter;
+    const bool isRow = room >= Card::leastContentWidth(font());
+    const int cardWidth = qMin(Card::contentWidth(font()), isRow ? room : Card::contentWidth(font()));
+    m_row->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (auto* card : findChildren<TrackerCard*>())
+        card->setFixedWidth(cardWidth);
 }
 
 void QuarterView::showQuarter(const QList<std::shared_ptr<Month>>& months)

@@ -15,7 +15,7 @@ TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSe
     , m_column(new QVBoxLayout(this))
     , m_tracker(new ProgressWidgetView(settings, viewSettings, period))
 {
-    setFixedWidth(contentWidth);
+    setFixedWidth(contentWidth(font()));
     m_column->setContentsMargins(0, 16, 0, 12);
     m_column->setSpacing(8);
     m_column->addWidget(m_tracker);

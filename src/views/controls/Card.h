@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Fonts.h"
+
 #include <QWidget>
 
 /// A rounded panel.
@@ -13,8 +15,9 @@ public:
     /// Returns a new card around the contents, with padding.
     [[nodiscard]] static Card* around(QWidget* contents);
 
-    /// The width of the cards that hold grids and trackers.
-    static constexpr int contentWidth = 470;
+    /// The width of the cards that hold grids and trackers, and the least that these need.
+    [[nodiscard]] static int contentWidth(const QFont& font) { return fonts::grown(470, font); }
+    [[nodiscard]] static int leastContentWidth(const QFont& font) { return fonts::grown(396, font); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "IconButton.h"
 
+#include "Fonts.h"
 #include "Labels.h"
 #include "Theme.h"
 
@@ -9,8 +10,14 @@
 
 namespace {
 
-constexpr QSize iconButtonSize(32, 32);
-constexpr QSize iconSymbolSize(20, 20);
+// In the usual font, with which they grow.
+constexpr int usualButtonSize = 32;
+constexpr int usualIconSize = 20;
+
+QSize grownSquare(int side, const QFont& font)
+{
+    return {fonts::grown(side, font), fonts::grown(side, font)};
+}
 
 } // namespace
 
@@ -41,7 +48,7 @@ void IconButton::setQuiet()
 
 QSize IconButton::sizeHint() const
 {
-    return iconButtonSize;
+    return grownSquare(usualButtonSize, font());
 }
 
 QColor IconButton::color() const
@@ -55,6 +62,7 @@ void IconButton::paintEvent(QPaintEvent* /*event*/)
     const Theme& theme = themeFor(palette());
     QPainter painter(this);
     paintFace(painter, theme.trough);
-    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, iconSymbolSize, rect()), m_symbol,
-               color());
+    drawSymbol(painter,
+               QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, grownSquare(usualIconSize, font()), rect()),
+               m_symbol, color());
 }

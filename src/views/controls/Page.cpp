@@ -2,8 +2,10 @@
 #include "Page.h"
 
 #include "Card.h"
+#include "ThinScrollBarStyle.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 Page::Page(QWidget* contents, QWidget* parent)
@@ -12,6 +14,12 @@ Page::Page(QWidget* contents, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setWidget(contents);
+    auto* barStyle = new ThinScrollBarStyle;
+    barStyle->setParent(this);
+    for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
+        bar->setStyle(barStyle);
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    }
     // The controls on the page take the focus, not the page.
     setFocusPolicy(Qt::NoFocus);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { scrollToFocused(now); });
@@ -21,6 +29,13 @@ Page::~Page()
 {
     // The focus changes while the contents are being destroyed, when this is only a QWidget any more.
     disconnect(qApp, nullptr, this, nullptr);
+}
+
+QSize Page::minimumSizeHint() const
+{
+    constexpr int leastHeight = 160;
+    const QSize least = widget()->minimumSizeHint();
+    return {least.width(), qMin(least.height(), leastHeight)};
 }
 
 void Page::scrollToFocused(QWidget* focused)

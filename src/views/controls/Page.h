@@ -3,7 +3,7 @@
 
 #include <QScrollArea>
 
-/// A scroll area that keeps the focused control in view.
+/// A scroll area that keeps the focused control in view. Its scroll bars take no room from the contents.
 class Page : public QScrollArea {
     Q_OBJECT
 
@@ -11,6 +11,9 @@ public:
     /// Takes ownership of the contents.
     explicit Page(QWidget* contents, QWidget* parent = nullptr);
     ~Page() override;
+
+    /// As wide as the contents need, so that a window of this width never scrolls sideways.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 private:
     void scrollToFocused(QWidget* focused);

@@ -30,7 +30,7 @@ LocationAlert::LocationAlert(TrackingStatus& status, AppSettings& settings, Loca
     auto* around = new QVBoxLayout(this);
     around->setContentsMargins(24, 20, 24, 0);
     around->addWidget(card, 0, Qt::AlignHCenter);
-    card->setFixedWidth(Card::contentWidth);
+    card->setFixedWidth(Card::contentWidth(font()));
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(20, 16, 20, 16);
     column->addWidget(labels::strong(accessibleName()));

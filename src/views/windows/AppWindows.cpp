@@ -6,6 +6,7 @@
 #include "AppSettings.h"
 #include "CalendarViewSettingsView.h"
 #include "ContentView.h"
+#include "Fonts.h"
 #include "HelpView.h"
 #include "InOfficeCheck.h"
 #include "LocationManager.h"
@@ -28,10 +29,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// In the usual font, with which they grow.
 constexpr QSize firstMainSize(534, 860);
 constexpr QSize firstSettingsSize(560, 660);
 // The size of a window's frame is not known before it is shown.
 constexpr QSize roomForFrame(16, 48);
+
+QSize grown(QSize size, const QFont& font)
+{
+    return {fonts::grown(size.width(), font), fonts::grown(size.height(), font)};
+}
 
 QString geometryKey(const QWidget& window)
 {
@@ -93,7 +100,7 @@ void AppWindows::openDay(QDate day, const QString& activationToken)
 void AppWindows::makeMain()
 {
     m_main = new ContentView(m_parts);
-    prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), firstMainSize);
+    prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // The icon can wait until the window is visible.
@@ -168,7 +175,7 @@ QWidget* AppWindows::makeSettings()
 {
     auto* window = new SettingsView(m_parts.settings, m_parts.wifiClient, m_parts.locationManager.defaultValue(),
                                     m_parts.check, m_parts.launchAtLogin);
-    prepare(*window, u"settings"_s, tr("Settings"), firstSettingsSize);
+    prepare(*window, u"settings"_s, tr("Settings"), grown(firstSettingsSize, window->font()));
     connect(window, &SettingsView::welcomeRequested, this, [this, window] {
         openWelcome();
         window->close();
@@ -184,8 +191,13 @@ void AppWindows::prepare(QWidget& window, const QString& name, const QString& ti
     window.setAttribute(Qt::WA_DeleteOnClose);
     window.installEventFilter(this);
     addShortcuts(window);
+    const QSize room = window.screen()->availableSize() - roomForFrame;
+    const QSize least = window.minimumSizeHint();
+    // A layout would see to it, and follow its contents, but would also insist on more than the screen has.
+    if (window.layout() == nullptr || least != least.boundedTo(room))
+        window.setMinimumSize(least.boundedTo(room));
     if (!window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window))))
-        window.resize(firstSize.boundedTo(window.screen()->availableSize() - roomForFrame));
+        window.resize(firstSize.boundedTo(room));
     m_open.append(&window);
     connect(&window, &QObject::destroyed, this, &AppWindows::forget);
 }

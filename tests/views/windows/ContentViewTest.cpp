@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ContentView.h"
 #include "CalendarView.h"
+#include "MonthCard.h"
 #include "MonthView.h"
 #include "QuarterView.h"
 #include "ViewTest.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 
@@ -59,16 +62,22 @@ TEST_F(ContentViewTest, theFocusedDayIsScrolledIntoSight)
     }
 }
 
-TEST_F(ContentViewTest, theMonthsStandSideBySideWhereThereIsRoom)
+TEST_F(ContentViewTest, theMonthsHaveEqualGapsAndNothingScrollsSideways)
 {
     viewSettings.selectedTab = 2;
     ContentView window(parts);
     show(window);
-    const auto months = window.findChildren<CalendarView*>();
-    const auto way = [&] { return inWindow(*months.last()) - inWindow(*months.first()); };
-    for (const int width : {600, 1600, 600}) {
-        window.resize(width, 800);
-        EXPECT_TRUE(eventually([&] { return (way().x() > 0) == (width == 1600) && (way().y() > 0) == (width == 600); }))
-            << width << ": " << way().x() << ", " << way().y();
+    const auto& scroll = *window.findChild<QScrollArea*>();
+    const auto months = window.findChildren<MonthCard*>();
+    for (const int width : {window.minimumSizeHint().width(), 1200, 1280, 1920}) {
+        window.resize(width, 640);
+        const auto isArranged = [&] {
+            const QPoint step = width < 1280 ? QPoint(0, months[0]->height() + 16) : QPoint(months[0]->width() + 16, 0);
+            return months[1]->pos() - months[0]->pos() == step && months[2]->pos() - months[1]->pos() == step &&
+                   months[2]->geometry().right() < width;
+        };
+        EXPECT_TRUE(eventually(isArranged)) << width;
+        EXPECT_EQ(scroll.viewport()->width(), width) << "the scroll bar takes no room";
+        EXPECT_EQ(scroll.horizontalScrollBar()->maximum(), 0);
     }
 }
