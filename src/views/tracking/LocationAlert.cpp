@@ -1,46 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LocationAlert.h"
 
-#include "Accessibility.h"
 #include "AppSettings.h"
 #include "Button.h"
-#include "ButtonRow.h"
-#include "Card.h"
-#include "Labels.h"
 #include "LocationManager.h"
 #include "TrackingStatus.h"
-
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 LocationAlert::LocationAlert(TrackingStatus& status, AppSettings& settings, LocationManager& manager, QWidget* parent)
-    : QWidget(parent)
+    : AlertCard(parent)
     , m_status(status)
     , m_manager(manager)
-    , m_access(new Button({}))
 {
-    m_access->setObjectName("giveAccess"_L1);
+    setTexts(tr("Location Permissions Needed"),
+             tr("You have automatic in office tracking enabled, but the app doesn't have access to your location."));
+    auto* disable = addButton(u"disableTracking"_s, tr("Disable Automatic Tracking"));
+    m_access = addButton(u"giveAccess"_s);
     m_access->setProminent(true);
-    auto* disable = new Button(tr("Disable Automatic Tracking"));
-    disable->setObjectName("disableTracking"_L1);
-    setAccessibleRole(*this, QAccessible::AlertMessage);
-    setAccessibleName(tr("Location Permissions Needed"));
-    auto* card = new Card;
-    auto* around = new QVBoxLayout(this);
-    around->setContentsMargins(24, 20, 24, 0);
-    around->addWidget(card, 0, Qt::AlignHCenter);
-    card->setFixedWidth(Card::contentWidth(font()));
-    auto* column = new QVBoxLayout(card);
-    column->setContentsMargins(20, 16, 20, 16);
-    column->addWidget(labels::strong(accessibleName()));
-    column->addWidget(labels::text(
-        tr("You have automatic in office tracking enabled, but the app doesn't have access to your location.")));
-    auto* buttons = new ButtonRow(Qt::AlignRight);
-    buttons->add(disable);
-    buttons->add(m_access);
-    column->addSpacing(4);
-    column->addWidget(buttons);
     connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::requestAccess);
     connect(disable, &QAbstractButton::clicked, this, [&settings] { settings.wifiTrackingEnabled = false; });
     connect(&status, &TrackingStatus::changed, this, &LocationAlert::refresh);

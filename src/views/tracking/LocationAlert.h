@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "AlertCard.h"
 
 class AppSettings;
-class Button;
 class LocationManager;
 class TrackingStatus;
 
 /// A card that is visible while tracking is on without permission to see network names, and offers what can be done.
-class LocationAlert : public QWidget {
+class LocationAlert : public AlertCard {
     Q_OBJECT
 
 public:
