@@ -44,6 +44,7 @@ void ModelContainer::open(const Schema& schema)
         migrateStore(*m_database, schema, version);
     m_context = std::make_unique<ModelContext>(*m_database);
     transaction.commit();
+    m_context->acceptFile();
     // The whole file has passed through the page cache, and little of it is needed soon.
     m_database->exec("PRAGMA shrink_memory");
     m_database->setBusyTimeout(saveLockTimeout);

@@ -4,7 +4,10 @@
 #include "Connection.h"
 #include "RecordFields.h"
 #include "RecordTable.h"
+#include "SaveProblem.h"
+#include "Schema.h"
 #include "StoreError.h"
+#include "StoreReplacement.h"
 
 #include <QLoggingCategory>
 
@@ -27,14 +30,17 @@ template <class Fetch> auto withStoreErrors(Fetch fetch)
     }
 }
 
-template <class Record> auto fetchAll(RecordTable<Record>& table)
+const char* textOf(SaveState::File file)
 {
-    return withStoreErrors([&] { return table.fetch({{}, {}, [](const auto&) { return true; }}); });
-}
-
-void logFailedSave(const QString& reason)
-{
-    qCCritical(logStore).noquote() << "Could not save:"_L1 << reason;
+    switch (file) {
+    case SaveState::File::Ours:
+        return "is there again";
+    case SaveState::File::Replaced:
+        return "was replaced or changed by another program";
+    case SaveState::File::Missing:
+        break;
+    }
+    return "was moved or deleted";
 }
 
 } // namespace
@@ -47,6 +53,8 @@ struct ModelContext::Tables {
 
 ModelContext::ModelContext(SQLite::Database& database)
     : m_database(database)
+    , m_watch(database.getFilename())
+    , m_retry([this] { save(); })
 {
     const auto changed = [this] { scheduleSave(); };
     m_tables.reset(new Tables{{database, monthFields(), changed},
@@ -63,25 +71,37 @@ ModelContext::~ModelContext()
 
 QList<std::shared_ptr<Month>> ModelContext::fetchMonths()
 {
-    return fetchAll(m_tables->months);
+    return fetch(m_tables->months, {});
 }
 
 QList<std::shared_ptr<Goal>> ModelContext::fetchGoals()
 {
-    return fetchAll(m_tables->goals);
+    return fetch(m_tables->goals, {});
 }
 
 QList<std::shared_ptr<AppSettings>> ModelContext::fetchSettings()
 {
-    return fetchAll(m_tables->settings);
+    return fetch(m_tables->settings, {});
 }
 
 QList<std::shared_ptr<Month>> ModelContext::fetchMonths(int year, int month)
 {
     const auto matches = [=](const Month& candidate) { return candidate.year == year && candidate.month == month; };
-    return withStoreErrors([&] {
-        return m_tables->months.fetch({" WHERE year = ? AND month = ?", {year, month}, matches});
-    });
+    return fetch(m_tables->months, {" WHERE year = ? AND month = ?", {year, month}, matches});
+}
+
+// What has been overwritten would be taken for other records.
+template <class Record>
+QList<std::shared_ptr<Record>> ModelContext::fetch(RecordTable<Record>& table,
+                                                   const typename RecordTable<Record>::Condition& condition)
+{
+    if (checkFile() || !m_watch.isSameFile())
+        return withStoreErrors([&] { return table.fetch(condition); });
+    auto known = table.inMemory();
+    known.removeIf([&](const auto& record) { return !condition.matches(*record); });
+    if (known.isEmpty())
+        throw StoreError(StoreError::tr("Another program has changed the data file."));
+    return known;
 }
 
 void ModelContext::insert(const std::shared_ptr<Month>& month)
@@ -109,18 +129,46 @@ void ModelContext::remove(const std::shared_ptr<AppSettings>& settings)
 bool ModelContext::save()
 {
     m_saveScheduled = false;
+    if (!checkFile())
+        return report(m_saveState.value().problem);
     if (!hasChanges())
-        return true;
+        return report({});
+    QString problem;
     try {
         reconnectIfReadOnly();
         writeChanges();
-        return true;
     } catch (const SQLite::Exception& error) {
-        logFailedSave(descriptionOf(error));
+        problem = saveProblem(error);
     } catch (const std::exception& error) {
-        logFailedSave(QString::fromUtf8(error.what()));
+        problem = QString::fromUtf8(error.what());
     }
-    return false;
+    m_watch.accept();
+    return report(problem);
+}
+
+bool ModelContext::report(const QString& problem)
+{
+    SaveState state = m_saveState;
+    // The timer tries again and again, which is logged once.
+    if (!problem.isEmpty() && problem != state.problem)
+        qCCritical(logStore).noquote() << "Could not save:"_L1 << problem;
+    state.isUnsaved = hasChanges() && (!problem.isEmpty() || state.file != SaveState::File::Ours);
+    state.problem = problem;
+    m_saveState = state;
+    m_retry.setNeeded(!state.isFine());
+    return !hasChanges();
+}
+
+bool ModelContext::checkFile()
+{
+    SaveState state = m_saveState;
+    if (const auto file = m_watch.look(); file != std::exchange(state.file, file)) {
+        qCWarning(logStore, "%s %s", m_watch.path().c_str(), textOf(file));
+        state.problem.clear();
+        m_saveState = state;
+        m_retry.setNeeded(!state.isFine());
+    }
+    return state.file == SaveState::File::Ours;
 }
 
 bool ModelContext::hasChanges() const
@@ -164,10 +212,15 @@ void ModelContext::reconnectIfReadOnly()
 {
     if (sqlite3_db_readonly(m_database.getHandle(), "main") == 0)
         return;
+    releaseConnection();
+    m_database = connectToStore(m_database.getFilename(), saveLockTimeout);
+}
+
+void ModelContext::releaseConnection()
+{
     m_tables->months.release();
     m_tables->goals.release();
     m_tables->settings.release();
-    m_database = connectToStore(m_database.getFilename(), saveLockTimeout);
 }
 
 void ModelContext::writeChanges()
@@ -182,4 +235,61 @@ void ModelContext::writeChanges()
     m_tables->goals.markSaved();
     m_tables->settings.markSaved();
     m_saveScheduled = false; // adding or deleting goals has scheduled another save
+}
+
+bool ModelContext::keepRecords()
+{
+    QString problem;
+    try {
+        replaceFile();
+        m_watch.accept();
+    } catch (const SQLite::Exception& error) {
+        problem = saveProblem(error);
+    } catch (const std::exception& error) {
+        problem = QString::fromUtf8(error.what());
+    }
+    checkFile();
+    return report(problem) && problem.isEmpty();
+}
+
+// Our connection still reads a file that was moved or deleted. It is kept until the new store is in place.
+void ModelContext::replaceFile()
+{
+    StoreReplacement replacement(filePath());
+    if (m_watch.isSameFile())
+        replacement.copyWhatLiesThere(pellorySchema());
+    else
+        replacement.copyFrom(m_database);
+    releaseConnection();
+    auto ours = std::exchange(m_database, connectToStore(replacement.draftName(), saveLockTimeout));
+    try {
+        writeAllRecords();
+        replacement.putInPlace();
+        m_database = connectToStore(m_watch.path(), saveLockTimeout);
+    } catch (...) {
+        releaseConnection();
+        m_database = std::move(ours);
+        throw;
+    }
+    m_tables->months.markAllSaved();
+    m_tables->goals.markAllSaved();
+    m_tables->settings.markAllSaved();
+}
+
+void ModelContext::writeAllRecords()
+{
+    matchGoalsToLists();
+    SQLite::Transaction transaction(m_database, SQLite::TransactionBehavior::IMMEDIATE);
+    m_database.exec("DELETE FROM goal; DELETE FROM app_settings");
+    SQLite::Statement same(m_database, "DELETE FROM month WHERE year = ? AND month = ?");
+    m_tables->months.forEach([&](const Month& month) {
+        same.reset();
+        same.bind(1, month.year.value());
+        same.bind(2, month.month.value());
+        same.exec();
+    });
+    m_tables->months.writeAll();
+    m_tables->goals.writeAll();
+    m_tables->settings.writeAll();
+    transaction.commit();
 }

@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Retry.h"
+#include "SaveState.h"
+#include "StoreFileWatch.h"
+
 #include <QList>
 #include <QObject>
+#include <QProperty>
 
 #include <memory>
 
 class AppSettings;
 class Goal;
 class Month;
+template <typename Record> class RecordTable; // with "class", lupdate takes it for one
 
 namespace SQLite {
 class Database;
@@ -16,7 +22,8 @@ class Database;
 
 /// The records of a store. However often a record is fetched, there is one object of it. Every change of a field of a
 /// fetched or inserted record reaches the store with the next save(), at the latest one at the end of the turn of the
-/// event loop. A change that could not be saved is tried again with the next save and in the destructor.
+/// event loop. A change that could not be saved is tried again by a timer, with the next save and in the destructor.
+/// Nothing is written while the file is not the one that was opened, or has been changed by another program.
 class ModelContext : public QObject {
 public:
     /// Reads the settings and their goals. Throws a StoreError if it cannot.
@@ -45,15 +52,36 @@ public:
     bool save();
     [[nodiscard]] bool hasChanges() const;
 
+    /// Accepts the file as it is now. To be called once it is open.
+    void acceptFile() { m_watch.accept(); }
+    /// Looks whether the file is still ours. Every fetch and save does that first.
+    bool checkFile();
+    [[nodiscard]] QString filePath() const { return QString::fromStdString(m_watch.path()); }
+    [[nodiscard]] const QProperty<SaveState>& saveState() const { return m_saveState; }
+    /// Puts a store with the records in memory where ours was. What lies there gets another name. Other records come
+    /// from the file that was opened or, if that has been overwritten, from what it contains now. False if it failed.
+    bool keepRecords();
+
 private:
     struct Tables;
 
+    template <class Record>
+    QList<std::shared_ptr<Record>> fetch(RecordTable<Record>& table,
+                                         const typename RecordTable<Record>::Condition& condition);
     void scheduleSave();
     void matchGoalsToLists();
     void writeChanges();
     void reconnectIfReadOnly();
+    void releaseConnection();
+    void requireReadableFile();
+    void replaceFile();
+    void writeAllRecords();
+    bool report(const QString& problem);
 
     SQLite::Database& m_database;
     std::unique_ptr<Tables> m_tables;
+    StoreFileWatch m_watch;
+    QProperty<SaveState> m_saveState;
+    Retry m_retry;
     bool m_saveScheduled = false;
 };

@@ -19,9 +19,9 @@ public:
 
     /// Which records to fetch: in the store, and among those that are not stored yet.
     struct Condition {
-        std::string where;
-        std::vector<std::int64_t> parameters;
-        std::function<bool(const Record&)> matches;
+        std::string where = {};
+        std::vector<std::int64_t> parameters = {};
+        std::function<bool(const Record&)> matches = [](const Record&) { return true; };
     };
 
     RecordTable(SQLite::Database& database, RecordFields<Record> fields, std::function<void()> changed)
@@ -107,6 +107,31 @@ public:
         }
     }
 
+    /// Also those that were removed.
+    void forEach(const std::function<void(const Record&)>& action) const
+    {
+        for (const auto& known : m_entries)
+            action(*known.second->record);
+    }
+
+    /// Writes every record in memory as a new row. Must be followed by markAllSaved() once the result is the store.
+    void writeAll()
+    {
+        for (const auto& known : m_entries) {
+            if (!known.second->removed)
+                insertRow(*known.second);
+        }
+    }
+
+    void markAllSaved()
+    {
+        m_byKey.clear();
+        m_dirty.clear();
+        for (const auto& known : m_entries)
+            m_dirty.push_back(known.second.get());
+        markSaved();
+    }
+
     /// Releases the connection, so that it can be replaced.
     void release() { m_update.reset(); }
 
@@ -157,17 +182,21 @@ private:
 
     void write(Entry& entry)
     {
-        const Row row = m_fields.row(*entry.record);
         if (entry.key) {
             if (!m_update)
                 m_update.emplace(m_database, m_layout.updateSql());
-            writeRow(*m_update, row, entry.key);
+            writeRow(*m_update, m_fields.row(*entry.record), entry.key);
             entry.writtenKey = *entry.key;
         } else {
-            SQLite::Statement insertion(m_database, m_layout.insertSql());
-            writeRow(insertion, row, {});
-            entry.writtenKey = m_database.getLastInsertRowid();
+            insertRow(entry);
         }
+    }
+
+    void insertRow(Entry& entry)
+    {
+        SQLite::Statement insertion(m_database, m_layout.insertSql());
+        writeRow(insertion, m_fields.row(*entry.record), {});
+        entry.writtenKey = m_database.getLastInsertRowid();
     }
 
     void erase(std::int64_t key)
