@@ -11,6 +11,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -19,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(logCalendar, "pellory.calendar", QtInfoMsg)
 
 constexpr QMargins pageMargins(24, 20, 24, 20);
 constexpr int cardSpacing = 16;
@@ -83,6 +86,7 @@ void CalendarPage::showPeriod(const YearMonth& month)
     m_month = month;
     const auto months = loadQuarter();
     const bool isLoaded = !months.isEmpty();
+    m_retry.setNeeded(!isLoaded);
     m_error->setVisible(!isLoaded);
     m_contents->setVisible(isLoaded);
     if (!isLoaded)
@@ -138,7 +142,9 @@ QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
 {
     try {
         return quarterMonths(m_context, m_month.quarter());
-    } catch (const StoreError&) {
+    } catch (const StoreError& error) {
+        if (m_error->isHidden()) // the first time
+            qCWarning(logCalendar, "Cannot load a month: %s", error.what());
         return {};
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Period.h"
+#include "Retry.h"
 
 #include <QDate>
 #include <QWidget>
@@ -69,6 +70,7 @@ private:
     YearMonth m_month;
     std::vector<MonthCard*> m_cards;
     NavigationRow* m_navigation = nullptr;
+    Retry m_retry{[this] { showPeriod(m_month); }};
     QLabel* m_error;
     QWidget* m_contents;
     QVBoxLayout* m_column;

@@ -158,7 +158,7 @@ TEST_F(PagesTest, showWhatIsSwitchedOn)
     EXPECT_THAT(shownTexts(quarterPage), testing::Contains(u"Q1 2027"_s));
 }
 
-TEST_F(PagesTest, aStoreThatCannotBeReadIsToldAndNothingIsMade)
+TEST_F(PagesTest, aStoreThatCannotBeReadIsReadAgainAndNothingIsMadeMeanwhile)
 {
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN EXCLUSIVE");
@@ -168,6 +168,5 @@ TEST_F(PagesTest, aStoreThatCannotBeReadIsToldAndNothingIsMade)
         EXPECT_EQ(shownTexts(*page), QStringList(u"Error loading month!"_s));
     EXPECT_FALSE(context.hasChanges());
     other.exec("ROLLBACK");
-    monthPage.showPeriod({2030, 2});
-    EXPECT_THAT(shownTexts(monthPage), testing::Contains(u"February 2030"_s));
+    EXPECT_TRUE(eventually([&] { return shownTexts(monthPage).contains(u"January 2030"_s); })) << "by itself";
 }
