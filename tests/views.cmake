@@ -6,6 +6,7 @@ pellory_test(views
         views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp
         views/windows/AppWindowsTest.cpp views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp
+        views/windows/SaveAlertTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
@@ -14,8 +15,8 @@ pellory_test(life
     LINKS Pellory::windows Pellory::platform_linux Qt6::Test
 )
 pellory_test(app
-    SOURCES support/WindowTestMain.cpp
-        app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp app/TranslationsTest.cpp
+    SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
+        app/BackgroundTest.cpp app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp app/TranslationsTest.cpp
     LINKS Pellory::app SQLiteCpp Qt6::Test
 )
 pellory_test(platform

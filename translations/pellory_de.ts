@@ -97,6 +97,22 @@
         <source>Pellory keeps checking in the background whether you are in the office. Start it again to open its window.</source>
         <translation>Pellory prüft im Hintergrund weiter, ob Sie im Büro sind. Ein erneuter Start öffnet das Fenster wieder.</translation>
     </message>
+    <message>
+        <source>Quit Without Saving?</source>
+        <translation>Ohne Speichern beenden?</translation>
+    </message>
+    <message>
+        <source>Quit Anyway</source>
+        <translation>Trotzdem beenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Your last changes could not be saved and are lost when Pellory ends. %1</source>
+        <translation>Die letzten Änderungen konnten nicht gespeichert werden und gehen verloren, wenn Pellory beendet wird. %1</translation>
+    </message>
 </context>
 <context>
     <name>CalendarPage</name>
@@ -582,6 +598,49 @@
     </message>
 </context>
 <context>
+    <name>SaveAlert</name>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Use File on Disk</source>
+        <translation>Datei verwenden</translation>
+    </message>
+    <message>
+        <source>Keep What Is Shown</source>
+        <translation>Angezeigtes behalten</translation>
+    </message>
+    <message>
+        <source>Changes Not Saved</source>
+        <translation>Änderungen nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Data File Missing</source>
+        <translation>Datendatei fehlt</translation>
+    </message>
+    <message>
+        <source>Data File Replaced</source>
+        <translation>Datendatei ersetzt</translation>
+    </message>
+    <message>
+        <source>%1 Pellory keeps trying. If it ends first, your last changes are lost.</source>
+        <translation>%1 Pellory versucht es weiter. Wird es vorher beendet, gehen die letzten Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>%1 has been moved or deleted. Put it back, or keep what is shown in a new file. Nothing is saved until then.</source>
+        <translation>%1 wurde verschoben oder gelöscht. Bitte zurücklegen oder das Angezeigte in einer neuen Datei behalten. Bis dahin wird nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Another program has replaced or changed %1. Nothing is saved until you choose. If you keep what is shown, the file on disk stays under another name.</source>
+        <translation>Ein anderes Programm hat %1 ersetzt oder geändert. Bis zur Entscheidung wird nichts gespeichert. Wird das Angezeigte behalten, bleibt die Datei unter anderem Namen erhalten.</translation>
+    </message>
+    <message>
+        <source>If you use the file on disk, your last changes are lost.</source>
+        <translation>Wird die Datei verwendet, gehen die letzten Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>Settings page</source>
@@ -828,6 +887,10 @@
     <message>
         <source>The file %1 cannot be renamed: %2</source>
         <translation>Die Datei %1 kann nicht umbenannt werden: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be renamed: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

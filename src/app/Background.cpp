@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Background.h"
 
+#include "Alerts.h"
 #include "AppSettings.h"
 #include "AppWindows.h"
 #include "InOfficeCheck.h"
+#include "ModelContext.h"
 #include "Notifier.h"
+#include "SaveAlert.h"
 #include "TrayHost.h"
 #include "TrayIcon.h"
 #include "ViewParts.h"
 
+#include <QGuiApplication>
 #include <QSettings>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -20,12 +26,14 @@ constexpr auto noticeWasGiven = "backgroundNoticeWasGiven"_L1;
 } // namespace
 
 Background::Background(const ViewParts& parts, AppWindows& windows, Notifier& notifier, TrayHost& trayHost,
-                       QSettings& settings)
+                       QSettings& settings, Alerts& alerts)
     : m_parts(parts)
     , m_windows(windows)
     , m_notifier(notifier)
     , m_settings(settings)
+    , m_alerts(alerts)
 {
+    connect(&windows, &AppWindows::quitRequested, this, &Background::requestQuit);
     connect(&windows, &AppWindows::lastClosed, this, &Background::handleLastClosed);
     connect(&notifier, &Notifier::activated, &windows, &AppWindows::openDay);
     connect(&trayHost, &TrayHost::appeared, this, &Background::showTrayIcon);
@@ -39,7 +47,7 @@ Background::~Background() = default;
 void Background::handleLastClosed()
 {
     if (!isTracking()) {
-        Q_EMIT quitRequested();
+        requestQuit();
         return;
     }
     if (!m_parts.settings.notificationsEnabled || m_settings.value(noticeWasGiven).toBool())
@@ -59,6 +67,56 @@ void Background::runCheck()
         m_windows.openMain();
 }
 
+void Background::requestQuit()
+{
+    if (isSaved() || qGuiApp->isSavingSession())
+        Q_EMIT quitRequested();
+    else // not here: a window may be in the middle of its end
+        QMetaObject::invokeMethod(this, &Background::askToQuit, Qt::QueuedConnection);
+}
+
+void Background::askToQuit()
+{
+    if (std::exchange(m_isAsking, true))
+        return;
+    const bool isQuitting = m_alerts.confirmWarning(tr("Quit Without Saving?"), SaveAlert::message(m_parts.context),
+                                                    tr("Quit Anyway"), tr("Cancel"));
+    m_isAsking = false;
+    if (m_isEnding) // which closed the question
+        return;
+    if (isQuitting)
+        Q_EMIT quitRequested();
+    else
+        m_windows.openMain();
+}
+
+void Background::prepareEnd()
+{
+    if (isSaved() || !m_parts.context.hasChanges())
+        return;
+    const QString message = tr("Your last changes could not be saved and are lost when Pellory ends. %1");
+    m_notifier.post({tr("Pellory"), message.arg(m_parts.context.saveState().value().problem).trimmed(), u"unsaved"_s});
+}
+
+void Background::end()
+{
+    if (!std::exchange(m_isEnding, true)) {
+        prepareEnd();
+        if (m_parts.context.hasChanges()) {
+            connect(&m_notifier, &Notifier::delivered, this, &Background::quitRequested);
+            QTimer::singleShot(1s, this, &Background::quitRequested);
+            return;
+        }
+    }
+    Q_EMIT quitRequested();
+}
+
+bool Background::isSaved()
+{
+    m_parts.context.save();
+    return m_parts.context.saveState().value().isFine();
+}
+
 // Nothing is checked before the welcome is completed.
 bool Background::isTracking() const
 {
@@ -70,5 +128,5 @@ void Background::showTrayIcon()
     m_trayIcon = std::make_unique<TrayIcon>(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
     connect(m_trayIcon.get(), &TrayIcon::openRequested, &m_windows, [this] { m_windows.openMain(); });
     connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, &Background::runCheck);
-    connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::quitRequested);
+    connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::requestQuit);
 }

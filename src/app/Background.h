@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class Alerts;
 class Notifier;
 class QSettings;
 class TrayHost;
@@ -18,18 +19,27 @@ class Background : public QObject {
     Q_OBJECT
 
 public:
-    Background(const ViewParts& parts, AppWindows& windows, Notifier& notifier, TrayHost& trayHost,
-               QSettings& settings);
+    Background(const ViewParts& parts, AppWindows& windows, Notifier& notifier, TrayHost& trayHost, QSettings& settings,
+               Alerts& alerts);
     ~Background() override;
 
     /// Runs a check, or opens the window if tracking is not set up.
     void runCheck();
+
+    /// Quits. If something is not saved, the person is asked first.
+    void requestQuit();
+    /// Saves before the session ends. If that fails, nobody is asked, but a notification says so.
+    void prepareEnd();
+    /// Quits without a question, because the session ends.
+    void end();
 
 Q_SIGNALS:
     void quitRequested();
 
 private:
     void handleLastClosed();
+    void askToQuit();
+    [[nodiscard]] bool isSaved();
     [[nodiscard]] bool isTracking() const;
     void showTrayIcon();
 
@@ -37,5 +47,8 @@ private:
     AppWindows& m_windows;
     Notifier& m_notifier;
     QSettings& m_settings;
+    Alerts& m_alerts;
+    bool m_isAsking = false;
+    bool m_isEnding = false;
     std::unique_ptr<TrayIcon> m_trayIcon;
 };

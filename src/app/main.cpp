@@ -89,6 +89,9 @@ struct PlatformServices {
     StatusNotifierHost trayHost;
 };
 
+// What the application returns when it is to start over with the file on disk.
+constexpr int reloads = 1000;
+
 // Not quit(), which first closes every window.
 void quit()
 {
@@ -123,20 +126,24 @@ int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, Sin
     ViewSettings viewSettings(settings);
     LocationManagerKey locationManager(platform.authorization, platform.systemSettings);
     LaunchAtLogin launchAtLogin(platform.loginItem);
-    ModelContext& context = pellory.container().mainContext();
-    const ViewParts parts{context,        pellory.settings(),  viewSettings,
-                          platform.clock, platform.wifiClient, locationManager,
-                          check,          launchAtLogin};
+    const ViewParts parts{pellory.container().mainContext(),
+                          pellory.settings(),
+                          viewSettings,
+                          platform.clock,
+                          platform.wifiClient,
+                          locationManager,
+                          check,
+                          launchAtLogin};
     AppWindows windows(parts);
-    Background background(parts, windows, platform.notifier, platform.trayHost, settings);
+    Background background(parts, windows, platform.notifier, platform.trayHost, settings, alerts);
     followColorScheme(platform.appearance, settings);
 
     QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openToday);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
-    QObject::connect(&platform.quitSignals, &QuitSignals::requested, &windows, quit);
+    QObject::connect(&platform.quitSignals, &QuitSignals::requested, &background, &Background::end);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
-    QObject::connect(&windows, &AppWindows::quitRequested, &windows, quit);
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &windows, [&context] { context.save(); });
+    QObject::connect(&windows, &AppWindows::reloadRequested, &windows, [] { QCoreApplication::exit(reloads); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &background, &Background::prepareEnd);
     QObject::connect(&platform.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
@@ -176,7 +183,7 @@ bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
 
 int run(SingleInstance& instance)
 {
-    const StartMode mode = readCommandLine(QApplication::arguments());
+    StartMode mode = readCommandLine(QApplication::arguments());
     // Only now: the constructor of the application removes variables from the environment, which a thread could read.
     std::jthread fonts = mode == StartMode::AtLogin ? std::jthread() : preloadFontConfig();
     installAccessibleRoles();
@@ -188,12 +195,17 @@ int run(SingleInstance& instance)
     if (!claimName(instance, mode, alerts))
         return EXIT_SUCCESS;
     logStage("name owned");
-    PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
-    logStage("store open");
-    if (fonts.joinable())
-        fonts.join();
-    logStage("fonts read");
-    return runApplication(pellory, settings, alerts, instance, mode);
+    for (;;) {
+        PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
+        logStage("store open");
+        if (fonts.joinable())
+            fonts.join();
+        logStage("fonts read");
+        const int result = runApplication(pellory, settings, alerts, instance, mode);
+        if (result != reloads)
+            return result;
+        mode = StartMode::Shown;
+    }
 }
 
 void setApplicationMetadata()

@@ -27,6 +27,8 @@ public:
     virtual void withdraw(const QString& topic) = 0;
 
 Q_SIGNALS:
+    /// The desktop has received what was posted, or it could not.
+    void delivered();
     /// The person has clicked a notification about this day. The token lets a window come to the front; it may be
     /// empty.
     void activated(QDate day, const QString& activationToken);

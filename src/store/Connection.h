@@ -12,7 +12,7 @@ class QString;
 class StoreError;
 
 /// How long a save waits for another program that holds the store, in milliseconds. It is short because a click waits
-/// for it; the save is tried again with the next one.
+/// for it; the save is tried again soon.
 inline constexpr int saveLockTimeout = 10;
 
 /// Makes SQLite allocate cached pages one by one instead of 20 at a time, more than most stores have: 140 kB less in a

@@ -102,6 +102,7 @@ void AppWindows::makeMain()
     m_main = new ContentView(m_parts);
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
+    connect(m_main, &ContentView::reloadRequested, this, &AppWindows::reloadRequested);
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // The icon can wait until the window is visible.
     connect(m_main, &ContentView::painted, this, [] { QApplication::setWindowIcon(appIcon()); });

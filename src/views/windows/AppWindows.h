@@ -36,6 +36,8 @@ Q_SIGNALS:
     /// The last window has been closed.
     void lastClosed();
     void quitRequested();
+    /// The file on disk is to be used instead of what is shown.
+    void reloadRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,13 +2,16 @@
 #include "ContentView.h"
 
 #include "Bar.h"
+#include "Follow.h"
 #include "IconButton.h"
 #include "LazyStack.h"
 #include "LocationAlert.h"
 #include "LocationManager.h"
+#include "ModelContext.h"
 #include "MonthView.h"
 #include "Page.h"
 #include "QuarterView.h"
+#include "SaveAlert.h"
 #include "SegmentedTabs.h"
 #include "TrackingIndicator.h"
 #include "TrackingPopover.h"
@@ -55,6 +58,7 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     // Querying the system can wait until the window is visible.
     connect(this, &ContentView::painted, m_status, &TrackingStatus::startMonitoring);
     connect(m_status, &TrackingStatus::changed, this, &ContentView::alertIfNeeded);
+    follow(parts.context.saveState(), this, [this] { alertIfUnsaved(); });
 
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
@@ -127,6 +131,15 @@ void ContentView::alertIfNeeded()
     m_column->insertWidget(1, m_alert);
 }
 
+void ContentView::alertIfUnsaved()
+{
+    if (m_saveAlert != nullptr || m_parts.context.saveState().value().isFine())
+        return;
+    m_saveAlert = new SaveAlert(m_parts.context, this);
+    connect(m_saveAlert, &SaveAlert::reloadRequested, this, &ContentView::reloadRequested);
+    m_column->insertWidget(1, m_saveAlert);
+}
+
 CalendarPage& ContentView::page() const
 {
     return *m_pages->currentWidget()->findChild<CalendarPage*>();
@@ -167,6 +180,9 @@ void ContentView::keyPressEvent(QKeyEvent* event)
 bool ContentView::event(QEvent* event)
 {
     const bool handled = QWidget::event(event);
+    // What was put in the place of the data file by hand is noticed on the way back.
+    if (event->type() == QEvent::WindowActivate)
+        m_parts.context.checkFile();
     if (event->type() == QEvent::Paint && !m_painted) {
         m_painted = true;
         // The children are drawn in the same turn of the event loop.

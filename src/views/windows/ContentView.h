@@ -10,11 +10,12 @@ class QDate;
 class QHBoxLayout;
 class QTabBar;
 class QVBoxLayout;
+class SaveAlert;
 class TrackingStatus;
 struct ViewParts;
 enum class WindowId;
 
-/// The contents of the main window: header, location alert, and the month or the quarter.
+/// The contents of the main window: header, alerts, and the month or the quarter.
 class ContentView : public QWidget {
     Q_OBJECT
 
@@ -28,6 +29,8 @@ public:
 Q_SIGNALS:
     /// A button of the toolbar was pressed.
     void windowRequested(WindowId id);
+    /// The file on disk is to be used instead of what is shown.
+    void reloadRequested();
     /// The contents have been drawn for the first time.
     void painted();
 
@@ -41,6 +44,7 @@ private:
     void addToolbar(QHBoxLayout& row);
     void addShortcuts();
     void alertIfNeeded();
+    void alertIfUnsaved();
     void showTab(int index);
     [[nodiscard]] CalendarPage& page() const;
 
@@ -48,6 +52,7 @@ private:
     TrackingStatus* m_status;
     QVBoxLayout* m_column;
     LocationAlert* m_alert = nullptr;
+    SaveAlert* m_saveAlert = nullptr;
     QTabBar* m_tabs;
     LazyStack* m_pages;
     bool m_painted = false;

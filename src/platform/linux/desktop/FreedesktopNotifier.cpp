@@ -66,6 +66,7 @@ QCoro::Task<> FreedesktopNotifier::work()
         co_await next();
     }
     m_isWorking = false;
+    Q_EMIT delivered();
 }
 
 QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
