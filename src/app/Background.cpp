@@ -92,17 +92,21 @@ void Background::askToQuit()
 
 void Background::prepareEnd()
 {
-    if (isSaved() || !m_parts.context.hasChanges())
+    if (isSaved())
         return;
-    const QString message = tr("Your last changes could not be saved and are lost when Pellory ends. %1");
-    m_notifier.post({tr("Pellory"), message.arg(m_parts.context.saveState().value().problem).trimmed(), u"unsaved"_s});
+    const SaveState& state = m_parts.context.saveState();
+    const QString message =
+        state.file == SaveState::File::Ours
+            ? tr("Your last changes could not be saved and are lost when Pellory ends. %1").arg(state.problem)
+            : SaveAlert::message(m_parts.context);
+    m_notifier.post({tr("Pellory"), message, u"unsaved"_s});
 }
 
 void Background::end()
 {
     if (!std::exchange(m_isEnding, true)) {
         prepareEnd();
-        if (m_parts.context.hasChanges()) {
+        if (!m_parts.context.saveState().value().isFine()) {
             connect(&m_notifier, &Notifier::delivered, this, &Background::quitRequested);
             QTimer::singleShot(1s, this, &Background::quitRequested);
             return;

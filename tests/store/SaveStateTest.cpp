@@ -2,7 +2,7 @@
 #include "SaveState.h"
 #include "StoreTest.h"
 
-#include <QDeadlineTimer>
+#include <QTimer>
 
 class SaveStateTest : public StoreTest {};
 
@@ -19,7 +19,10 @@ TEST_F(SaveStateTest, whatCouldNotBeSavedIsTriedAgainWithoutAnotherChange)
     EXPECT_EQ(context.saveState().value().problem,
               u"Another program is using the data file. Close it if this lasts."_s);
     other.reset();
-    for (const QDeadlineTimer limit(10'000); !context.saveState().value().isFine() && !limit.hasExpired();)
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(10'000);
+    while (limit.isActive() && !context.saveState().value().isFine())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     EXPECT_EQ(context.saveState().value(), SaveState());
     EXPECT_EQ(stored(), contents(context));
