@@ -14,9 +14,9 @@ TEST(WiFiMonitorTest, followsTheRadioAndSaysWhatItCannotMonitor)
     EXPECT_TRUE(monitor->isWiFiEnabled);
     Q_EMIT client.letGo();
     EXPECT_FALSE(monitor->isWiFiEnabled);
-    for (const auto& [name, isOn] : {std::pair(u"wlan0"_s, true), {u"wlan9"_s, false}, {u"wlan0"_s, true}}) {
-        Q_EMIT client.powerStateDidChange(name);
-        client.interface = {u"wlan0"_s, isOn}; // read when the answer comes, not when the event does
+    for (const bool isOn : {true, false, true}) {
+        Q_EMIT client.powerStateDidChange(isOn ? u"wlan0"_s : u"wlan9"_s); // of which the client knows nothing
+        client.interface = {u"wlan0"_s, true}; // read when the answer comes, not when the event does
         Q_EMIT client.letGo();
         EXPECT_EQ(monitor->isWiFiEnabled, isOn);
     }
