@@ -889,8 +889,24 @@
         <translation>Die Datei %1 kann nicht umbenannt werden: %2</translation>
     </message>
     <message>
-        <source>The file %1 cannot be renamed: %2</source>
-        <translation type="unfinished"></translation>
+        <source>Another program has changed the data file.</source>
+        <translation>Ein anderes Programm hat die Datendatei geändert.</translation>
+    </message>
+    <message>
+        <source>Another program is using the data file. Close it if this lasts.</source>
+        <translation>Ein anderes Programm verwendet die Datendatei. Bitte beenden, falls das andauert.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Delete files that you do not need any more.</source>
+        <translation>Der Datenträger ist voll. Bitte nicht mehr benötigte Dateien löschen.</translation>
+    </message>
+    <message>
+        <source>Pellory may not write its data file. Check the permissions of the file and its folder.</source>
+        <translation>Pellory darf seine Datendatei nicht schreiben. Bitte die Zugriffsrechte der Datei und ihres Ordners prüfen.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the data (%1). Check it, and make a copy of your data.</source>
+        <translation>Der Datenträger nimmt die Daten nicht an (%1). Bitte prüfen und eine Kopie der Daten anlegen.</translation>
     </message>
 </context>
 <context>
