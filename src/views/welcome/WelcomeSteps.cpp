@@ -13,7 +13,6 @@
 #include "Month.h"
 #include "Page.h"
 #include "ProgressWidgetView.h"
-#include "Rows.h"
 #include "SsidSettingsView.h"
 
 #include <QVBoxLayout>
@@ -72,7 +71,7 @@ QWidget* WelcomeSteps::makeIntroduction(ModelContext& context, const AppSettings
     tracker->setMonths({sample});
     column->addWidget(calendar, 0, Qt::AlignHCenter);
     column->addSpacing(8);
-    addCentred(*column, tracker);
+    column->addWidget(tracker);
     column->addStretch();
     return new Page(step);
 }
