@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarView.h"
 #include "MarkedProgressBar.h"
+#include "MonthCard.h"
 #include "MonthView.h"
 #include "QuarterView.h"
 #include "ViewTest.h"
@@ -106,10 +107,13 @@ TEST_F(PagesTest, noMarkNoGoalAndNoTurnMovesWhatIsClicked)
         return found;
     };
     const auto before = places();
+    const auto cards = monthPage.findChildren<TrackerCard*>();
+    EXPECT_LT(monthPage.findChild<MonthCard*>()->y(), cards.last()->y()) << "the quarter is below the grid";
     auto& goals = settings->daysPerWeekGoals;
     const QString longName = u"as many words as fit on no two lines "_s.repeated(9);
     const std::function<void()> changes[]{
         [&] { mark(*month(2026, 11), 20, DayState::IN_OFFICE); },
+        [&] { month(2026, 11)->name = longName; },
         [&] { goals.value().first()->desc = longName; },
         [&] { goals.value().last()->desc = longName; },
         [&] { mark(*month(2026, 11), 19, DayState::VACATION_DAY); },
