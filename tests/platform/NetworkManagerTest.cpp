@@ -195,6 +195,17 @@ TEST_F(NetworkManagerTest, whatIsGoneOrHangsIsAnErrorAndBlocksNothing)
     }
 }
 
+TEST_F(NetworkManagerTest, nonsenseIsTakenForNothing)
+{
+    for (const auto& [signature, code] :
+         {std::pair("", ""),
+          {"a(ss)", "ret = [('a', 'b')]"},
+          {"a{oa{sa{sv}}}", "ret = {'/a': {'org.freedesktop.NetworkManager.Device.Wireless': {'AccessPoints': 7}}}"}}) {
+        manager.answer(u"org.freedesktop.DBus.ObjectManager"_s, "GetManagedObjects", "", signature, code);
+        EXPECT_FALSE(resultOf(client.readyInterface())) << code;
+    }
+}
+
 TEST_F(NetworkManagerTest, reportsPowerChangesWhileMonitored)
 {
     PowerWatch watch(systemBus, 1h);
