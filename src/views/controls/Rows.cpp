@@ -5,6 +5,15 @@
 #include <QBoxLayout>
 #include <QLineEdit>
 
+void addCentred(QBoxLayout& column, QWidget* widget)
+{
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(widget);
+    row->addStretch();
+    column.addLayout(row);
+}
+
 QHBoxLayout* makeEntryRow(QLineEdit* field, QAbstractButton* button,
                           const std::function<bool(const QString& text)>& accept)
 {
