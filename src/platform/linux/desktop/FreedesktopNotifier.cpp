@@ -34,11 +34,7 @@ QVariantMap hints()
 
 } // namespace
 
-FreedesktopNotifier::FreedesktopNotifier(std::chrono::milliseconds timeout)
-    : m_timeout(timeout)
-{
-}
-
+FreedesktopNotifier::FreedesktopNotifier() = default;
 FreedesktopNotifier::~FreedesktopNotifier() = default;
 
 void FreedesktopNotifier::post(const Notification& notification)
@@ -82,7 +78,7 @@ QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
         auto call = methodCall(u"Notify"_s);
         call << u"Pellory"_s << m_ids.value(notification.topic) << applicationId << notification.title << body
              << actions << hints() << serverDefaultTimeout;
-        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call, m_timeout);
+        const QDBusMessage reply = co_await busCall(this, QDBusConnection::sessionBus(), call);
         const auto id = reply.arguments().value(0).toUInt();
         if (!notification.topic.isEmpty())
             m_ids.insert(notification.topic, id);
@@ -101,7 +97,7 @@ QCoro::Task<> FreedesktopNotifier::withdrawNow(QString topic)
     auto call = methodCall(u"CloseNotification"_s);
     call << m_ids.take(topic);
     try {
-        co_await busCall(this, QDBusConnection::sessionBus(), call, m_timeout);
+        co_await busCall(this, QDBusConnection::sessionBus(), call);
     } catch (const BusError& error) {
         qCDebug(logNotifier, "Could not withdraw a notification: %s", error.what());
     }
@@ -111,7 +107,7 @@ QCoro::Task<QStringList> FreedesktopNotifier::capabilities()
 {
     if (!m_capabilities) {
         const QDBusMessage reply =
-            co_await busCall(this, QDBusConnection::sessionBus(), methodCall(u"GetCapabilities"_s), m_timeout);
+            co_await busCall(this, QDBusConnection::sessionBus(), methodCall(u"GetCapabilities"_s));
         m_capabilities = reply.arguments().value(0).toStringList();
     }
     co_return std::as_const(*m_capabilities); // the task would move it out otherwise

@@ -23,8 +23,7 @@ class FreedesktopNotifier : public Notifier {
     Q_OBJECT
 
 public:
-    /// `timeout` is how long the server may take to answer a call.
-    explicit FreedesktopNotifier(std::chrono::milliseconds timeout = busTimeout);
+    FreedesktopNotifier();
     ~FreedesktopNotifier() override;
 
     void post(const Notification& notification) override;
@@ -40,7 +39,6 @@ private:
     QCoro::Task<QStringList> capabilities();
     void followServer();
 
-    std::chrono::milliseconds m_timeout;
     QQueue<Job> m_queue;
     bool m_isWorking = false;
     std::optional<QStringList> m_capabilities;
