@@ -146,7 +146,6 @@ TEST_F(InOfficeCheckTest, reportsAProblemOnceADayAndWithdrawsItWhenItIsOver)
                                                   {"busy", 0, "-detection-problem"},
                                                   {"busy", 1, "busy|detection-problem|"},
                                                   {"", 0, "-detection-problem"},
-                                                  {"", 0, ""},
                                                   {"busy", 0, ""},
                                                   {"missing", 0, "missing|detection-problem|"},
                                                   {"missing", 1, ""}}) {
