@@ -9,6 +9,10 @@
 
 class BackgroundTest : public ViewTest, public Alerts {
 protected:
+    std::shared_ptr<void> showNotice(const QString& /*message*/, const QString& /*informativeText*/) override
+    {
+        return {};
+    }
     void showCritical(const QString& /*message*/, const QString& /*informativeText*/) override {}
     [[nodiscard]] bool confirmWarning(const QString& /*message*/, const QString& /*informativeText*/,
                                       const QString& /*firstButton*/, const QString& /*secondButton*/) override
