@@ -18,7 +18,7 @@ SaveState::File StoreFileWatch::look() const
     const auto now = read();
     if (!now)
         return SaveState::File::Missing;
-    if (!isSameFile())
+    if (!isSame(*now))
         return SaveState::File::Replaced;
     const bool isChanged = now->size != m_accepted->size || now->modified.tv_sec != m_accepted->modified.tv_sec ||
                            now->modified.tv_nsec != m_accepted->modified.tv_nsec;
@@ -28,7 +28,12 @@ SaveState::File StoreFileWatch::look() const
 bool StoreFileWatch::isSameFile() const
 {
     const auto now = read();
-    return now && m_accepted && now->device == m_accepted->device && now->inode == m_accepted->inode;
+    return now && m_accepted && isSame(*now);
+}
+
+bool StoreFileWatch::isSame(const Stamp& now) const
+{
+    return now.device == m_accepted->device && now.inode == m_accepted->inode;
 }
 
 std::optional<StoreFileWatch::Stamp> StoreFileWatch::read() const

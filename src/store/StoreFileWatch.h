@@ -33,6 +33,7 @@ private:
     };
 
     [[nodiscard]] std::optional<Stamp> read() const;
+    [[nodiscard]] bool isSame(const Stamp& now) const;
 
     std::string m_path;
     std::optional<Stamp> m_accepted;
