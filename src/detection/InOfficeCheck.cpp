@@ -65,9 +65,13 @@ QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
     } catch (const Abandoned&) {
         throw;
     } catch (const WiFiServiceMissing& error) {
-        report(error.description(), Repeat::Never);
+        // This lasts as long as the system is as it is, so that it is said once.
+        logProblem(error.description());
+        if (!std::exchange(m_hasReportedMissingService, true))
+            notifyOf(error.description());
     } catch (const std::exception& error) {
-        report(QString::fromUtf8(error.what()), Repeat::Daily);
+        logProblem(QString::fromUtf8(error.what()));
+        notifyOf(QString::fromUtf8(error.what()));
     }
     co_return false;
 }
@@ -94,17 +98,14 @@ QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
     co_return isMarked;
 }
 
-void InOfficeCheck::report(const QString& problem, Repeat repeat)
+void InOfficeCheck::logProblem(const QString& problem)
 {
     qCCritical(logDetection, "Error while checking if in office via Wi-Fi: %s", qUtf8Printable(problem));
-    const QDate today = m_parts.clock.today();
-    const QDate last = std::exchange(m_reported[problem], today);
-    if (last == today || (last.isValid() && repeat == Repeat::Never)) {
-        if (problem != m_shownProblem)
-            withdrawReport();
-        return;
-    }
-    m_shownProblem = problem;
+}
+
+void InOfficeCheck::notifyOf(const QString& problem)
+{
+    m_isProblemShown = true;
     m_parts.notifier.post(
         {tr("Pellory"),
          tr("There was a problem using to Wi-Fi to detect if you're in the office or not.\n\n%1").arg(problem),
@@ -113,7 +114,7 @@ void InOfficeCheck::report(const QString& problem, Repeat repeat)
 
 void InOfficeCheck::withdrawReport()
 {
-    if (!std::exchange(m_shownProblem, {}).isEmpty())
+    if (std::exchange(m_isProblemShown, false))
         m_parts.notifier.withdraw(problemTopic);
 }
 

@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QHash>
 #include <QProperty>
 
 #include <QCoroTask>
@@ -61,17 +60,16 @@ private:
     QCoro::Task<> run();
     QCoro::Task<> checkOnce(bool markPreviousWorkday);
     QCoro::Task<bool> detectAndUpdate(bool markPreviousWorkday);
-    enum class Repeat { Daily, Never };
-    /// Logs a failure, and tells the person unless this has been said today, or ever if it is not to be repeated.
-    void report(const QString& problem, Repeat repeat);
+    void logProblem(const QString& problem);
+    /// Replaces what was said before.
+    void notifyOf(const QString& problem);
     void withdrawReport();
     QCoro::Task<> sleepUntilNextCheck();
     QCoro::Task<bool> trySleep(std::chrono::seconds duration);
 
     CheckParts m_parts;
     bool m_lastSleepFailed = false;
-    /// When the person was last told of each problem.
-    QHash<QString, QDate> m_reported;
-    /// The problem of the notification that may still be on screen.
-    QString m_shownProblem;
+    bool m_hasReportedMissingService = false;
+    /// The notification may still be on screen.
+    bool m_isProblemShown = false;
 };
