@@ -107,13 +107,13 @@ void monthChange(benchmark::State& state)
     QApplication::processEvents();
 
     auto& view = *window.findChild<MonthView*>();
-    YearMonth shown = view.period();
+    YearMonth shown = view.month();
     YearMonth other = *shown.next();
     PaintCounter counter;
     view.installEventFilter(&counter);
     while (state.KeepRunning()) {
         std::swap(shown, other);
-        view.showMonth(shown);
+        view.showPeriod(shown);
         QApplication::processEvents();
     }
     if (counter.paints < state.iterations())
