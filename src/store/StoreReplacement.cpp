@@ -11,9 +11,26 @@
 
 #include <filesystem>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace fs = std::filesystem;
+
+namespace {
+
+// A rename survives a power cut only once its folder is on disk.
+void synchroniseFolder(const fs::path& folder)
+{
+    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+} // namespace
 
 StoreReplacement::StoreReplacement(const QString& path)
     : m_path(path)
@@ -55,6 +72,7 @@ void StoreReplacement::putInPlace()
     if (error)
         throw StoreError(QString::fromStdString(error.message()));
     m_draft.setAutoRemove(false);
+    synchroniseFolder(fs::path(m_path.toStdString()).parent_path());
 }
 
 // A second name first, so that at every moment there is a store in its place.
