@@ -36,9 +36,9 @@ StoreReplacement::StoreReplacement(const QString& path)
     : m_path(path)
     , m_draft(path + ".new-XXXXXX"_L1)
 {
+    // Which has no name yet if this fails.
     if (!m_draft.open())
-        throw StoreError(
-            StoreError::tr("The file %1 cannot be created: %2").arg(m_draft.fileName(), m_draft.errorString()));
+        throw StoreError(StoreError::tr("The file %1 cannot be created: %2").arg(path, m_draft.errorString()));
 }
 
 void StoreReplacement::copyFrom(SQLite::Database& source)

@@ -4,6 +4,7 @@
 #include "Labels.h"
 
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
 
@@ -76,7 +77,11 @@ QSize MarkedTextLabel::sizeHint() const
 
 QSize MarkedTextLabel::minimumSizeHint() const
 {
-    return {0, m_lines * fontMetrics().height()};
+    // As a text layout has it, which does not round ascent and descent separately as QFontMetrics does.
+    QFont bold = font();
+    bold.setBold(true);
+    const auto lineHeight = [](const QFontMetricsF& metrics) { return qCeil(metrics.ascent() + metrics.descent()); };
+    return {0, m_lines * qMax(lineHeight(QFontMetricsF(font())), lineHeight(QFontMetricsF(bold)))};
 }
 
 void MarkedTextLabel::changeEvent(QEvent* event)
