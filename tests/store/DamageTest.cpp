@@ -79,7 +79,7 @@ TEST_F(DamageTest, isRecognisedAtRandom)
         return below(2) == 0 ? below(sound.size()) : below(sound.size() / pageSize) * pageSize + below(128);
     };
 
-    const int count = 10'000 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
+    const int count = 5'000 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
     int refused = 0;
     for (int number = 0; number < count && !HasFailure(); ++number) {
         SCOPED_TRACE(testing::Message() << "mutation " << number);
