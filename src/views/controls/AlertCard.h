@@ -7,7 +7,7 @@ class Button;
 class ButtonRow;
 class QLabel;
 
-/// A card at the top of a window that says what is wrong, and offers what can be done.
+/// A card in a window that says what is wrong, and offers what can be done.
 class AlertCard : public QWidget {
     Q_OBJECT
 

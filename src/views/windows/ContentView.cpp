@@ -137,7 +137,8 @@ void ContentView::alertIfUnsaved()
         return;
     m_saveAlert = new SaveAlert(m_parts.context, this);
     connect(m_saveAlert, &SaveAlert::reloadRequested, this, &ContentView::reloadRequested);
-    m_column->insertWidget(1, m_saveAlert);
+    // Below the page: a click brings it up, and the next one may be meant for the same day.
+    m_column->addWidget(m_saveAlert);
 }
 
 CalendarPage& ContentView::page() const

@@ -5,6 +5,8 @@
 #include "Follow.h"
 #include "ModelContext.h"
 
+#include <QLayout>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,6 +26,7 @@ SaveAlert::SaveAlert(ModelContext& context, QWidget* parent)
     , m_reload(addButton(u"useFile"_s, tr("Use File on Disk")))
     , m_keep(addButton(u"keepShown"_s, tr("Keep What Is Shown")))
 {
+    layout()->setContentsMargins(24, 12, 24, 20);
     m_retry->setProminent(true);
     m_keep->setProminent(true);
     connect(m_retry, &QAbstractButton::clicked, this, [this] { m_context.save(); });

@@ -24,11 +24,13 @@ TEST_F(SaveAlertTest, saysWhatIsNotOnDiskAndOffersWhatCanBeDone)
         return texts.join(u", "_s);
     };
     EXPECT_EQ(offered(), u""_s);
+    const QPoint place = inWindow(dayButton(window, 20));
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN IMMEDIATE");
     mark(*context.fetchMonths(2026, 11).first(), 20, DayState::IN_OFFICE);
     EXPECT_FALSE(context.save());
     EXPECT_EQ(offered(), u"Try Again"_s);
+    EXPECT_EQ(inWindow(dayButton(window, 20)), place) << "for the next click";
     EXPECT_THAT(shownTexts(window), testing::Contains(SaveAlert::message(context)));
     other.exec("ROLLBACK");
     click(named<Button>(window, "trySaving"));
