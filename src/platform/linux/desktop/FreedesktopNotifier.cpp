@@ -50,18 +50,18 @@ void FreedesktopNotifier::withdraw(const QString& topic)
 void FreedesktopNotifier::enqueue(const Job& job)
 {
     m_queue.enqueue(job);
-    if (!std::exchange(m_isWorking, true))
-        QMetaObject::invokeMethod(this, &FreedesktopNotifier::work, Qt::QueuedConnection);
+    if (!std::exchange(m_isRunning, true))
+        QMetaObject::invokeMethod(this, &FreedesktopNotifier::runJobs, Qt::QueuedConnection);
 }
 
 // One at a time: the next one of a topic needs the id of the last.
-QCoro::Task<> FreedesktopNotifier::work()
+QCoro::Task<> FreedesktopNotifier::runJobs()
 {
     while (!m_queue.isEmpty()) {
         const Job next = m_queue.dequeue();
         co_await next();
     }
-    m_isWorking = false;
+    m_isRunning = false;
     Q_EMIT delivered();
 }
 

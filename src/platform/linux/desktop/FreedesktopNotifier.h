@@ -33,14 +33,14 @@ private:
     using Job = std::function<QCoro::Task<>()>;
 
     void enqueue(const Job& job);
-    QCoro::Task<> work();
+    QCoro::Task<> runJobs();
     QCoro::Task<> postNow(Notification notification);
     QCoro::Task<> withdrawNow(QString topic);
     QCoro::Task<QStringList> capabilities();
     void followServer();
 
     QQueue<Job> m_queue;
-    bool m_isWorking = false;
+    bool m_isRunning = false;
     std::optional<QStringList> m_capabilities;
     /// The server's ids of the last notification of each topic.
     QHash<QString, quint32> m_ids;
