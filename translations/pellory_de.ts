@@ -198,6 +198,33 @@
     </message>
 </context>
 <context>
+    <name>CheckOutcome</name>
+    <message>
+        <source>Looking for networks...</source>
+        <translation>Netzwerke werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Today was marked as in the office.</source>
+        <translation>Heute wurde als „Im Büro“ erfasst.</translation>
+    </message>
+    <message>
+        <source>An office network is in range. Today is already marked.</source>
+        <translation>Ein Büronetzwerk ist in Reichweite. Der Tag ist bereits eingetragen.</translation>
+    </message>
+    <message>
+        <source>No office network is in range.</source>
+        <translation>Kein Büronetzwerk ist in Reichweite.</translation>
+    </message>
+    <message>
+        <source>Automatic tracking is off, so Pellory did not check.</source>
+        <translation>Die automatische Erfassung ist aus, daher hat Pellory nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Checks start when set-up is finished and automatic tracking is on.</source>
+        <translation>Geprüft wird, sobald die Einrichtung abgeschlossen und die automatische Erfassung an ist.</translation>
+    </message>
+</context>
+<context>
     <name>ContentView</name>
     <message>
         <source>View</source>
@@ -947,6 +974,14 @@
         <source>None</source>
         <comment>check</comment>
         <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>

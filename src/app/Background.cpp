@@ -62,7 +62,7 @@ void Background::handleLastClosed()
 void Background::runCheck()
 {
     if (isTracking())
-        m_parts.check.checkNow(true);
+        m_parts.check.checkNow();
     else
         m_windows.openMain();
 }

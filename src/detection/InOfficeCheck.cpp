@@ -21,6 +21,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto problemTopic = "detection-problem"_L1;
+constexpr auto answerTopic = "check-answer"_L1;
 constexpr std::chrono::seconds shortestSleep = 1min;
 constexpr std::chrono::seconds longestTimer =
     std::chrono::floor<std::chrono::seconds>(std::chrono::milliseconds(std::numeric_limits<int>::max()));
@@ -48,54 +49,91 @@ QCoro::Task<> InOfficeCheck::run()
     }
 }
 
-QCoro::Task<> InOfficeCheck::checkOnce(bool markPreviousWorkday)
+QCoro::Task<> InOfficeCheck::checkOnce(bool markPreviousWorkday, bool isAskedFor)
 {
+    // Whoever asks is told again.
+    if (isAskedFor)
+        m_hasReportedMissingService = false;
     try {
-        co_await check(markPreviousWorkday);
+        const CheckOutcome outcome = co_await checkIfSetUp(markPreviousWorkday);
+        if (isAskedFor)
+            answer(outcome);
     } catch (const Abandoned&) {
         // The program is ending.
     }
 }
 
-QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
+void InOfficeCheck::answer(const CheckOutcome& outcome)
 {
-    try {
-        const bool isMarked = co_await detectAndUpdate(markPreviousWorkday);
-        co_return isMarked;
-    } catch (const Abandoned&) {
-        throw;
-    } catch (const WiFiServiceMissing& error) {
-        // This lasts as long as the system is as it is, so that it is said once.
-        logProblem(error.description());
-        if (!std::exchange(m_hasReportedMissingService, true))
-            notifyOf(error.description());
-    } catch (const std::exception& error) {
-        logProblem(QString::fromUtf8(error.what()));
-        notifyOf(QString::fromUtf8(error.what()));
+    if (outcome.kind == CheckOutcome::NotSetUp) {
+        m_isPostponed = true;
+        Q_EMIT postponed();
+        return;
     }
-    co_return false;
+    // The others have a notification of their own.
+    const bool isNews = outcome.kind != CheckOutcome::Marked && outcome.kind != CheckOutcome::Failed;
+    if (isNews && m_parts.settings.notificationsEnabled)
+        m_parts.notifier.post({tr("Pellory"), outcome.text(), answerTopic});
 }
 
-QCoro::Task<bool> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
+QCoro::Task<bool> InOfficeCheck::check(bool markPreviousWorkday)
+{
+    const CheckOutcome outcome = co_await checkIfSetUp(markPreviousWorkday);
+    co_return outcome.kind == CheckOutcome::Marked;
+}
+
+QCoro::Task<CheckOutcome> InOfficeCheck::checkIfSetUp(bool markPreviousWorkday)
 {
     qCInfo(logDetection, "Checking if in office via Wi-Fi");
     const AppSettings& settings = m_parts.settings;
     if (!settings.wifiTrackingEnabled) {
         qCDebug(logDetection, "Skipping in office wifi checking, not enabled");
-        co_return false;
+        co_return CheckOutcome{settings.firstTime ? CheckOutcome::NotSetUp : CheckOutcome::TrackingOff};
     }
     if (settings.firstTime) {
         qCDebug(logDetection, "Skipping in office wifi checking, inside app first time setup");
-        co_return false;
+        co_return CheckOutcome{CheckOutcome::NotSetUp};
     }
     lastCheck = m_parts.clock.now();
+    lastOutcome = CheckOutcome{CheckOutcome::Running};
+    const CheckOutcome outcome = co_await detectAndUpdate(markPreviousWorkday);
+    lastOutcome = outcome;
+    co_return outcome;
+}
+
+QCoro::Task<CheckOutcome> InOfficeCheck::detectAndUpdate(bool markPreviousWorkday)
+{
+    QString problem;
+    try {
+        const CheckOutcome::Kind kind = co_await detectAndMark(markPreviousWorkday);
+        withdrawReport();
+        co_return CheckOutcome{kind};
+    } catch (const Abandoned&) {
+        throw;
+    } catch (const WiFiServiceMissing& error) {
+        problem = error.description();
+        logProblem(problem);
+        // This lasts as long as the system is as it is, so that it is said once.
+        if (!std::exchange(m_hasReportedMissingService, true))
+            notifyOf(problem);
+    } catch (const std::exception& error) {
+        problem = QString::fromUtf8(error.what());
+        logProblem(problem);
+        notifyOf(problem);
+    }
+    co_return CheckOutcome{CheckOutcome::Failed, problem};
+}
+
+QCoro::Task<CheckOutcome::Kind> InOfficeCheck::detectAndMark(bool markPreviousWorkday)
+{
+    const AppSettings& settings = m_parts.settings;
     InOfficeDetector detector(m_parts.wifiClient);
     const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
     qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
     InOfficeModelUpdater updater(m_parts.container, m_parts.clock, m_parts.notifier);
-    const bool isMarked = updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday);
-    withdrawReport();
-    co_return isMarked;
+    if (updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday))
+        co_return CheckOutcome::Marked;
+    co_return inOfficeNow ? CheckOutcome::MarkedBefore : CheckOutcome::NotInRange;
 }
 
 void InOfficeCheck::logProblem(const QString& problem)

@@ -14,6 +14,9 @@ public:
     explicit WiFiMonitor(WiFiClient& client);
     ~WiFiMonitor() override;
 
+    /// False if the system cannot be asked. Then Wi-Fi counts as on.
+    [[nodiscard]] bool isMonitoring() const { return m_isMonitoring; }
+
     /// True until it was read for the first time.
     QProperty<bool> isWiFiEnabled{true};
 

@@ -10,6 +10,8 @@
 #include "StoredMonths.h"
 #include "Testing.h"
 
+#include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -148,6 +150,47 @@ TEST_F(InOfficeCheckTest, reportsAProblemAtEachCheckAndWithdrawsItWhenItIsOver)
         posted.clear();
         EXPECT_FALSE(checkNow(false));
         EXPECT_EQ(posted.join(u' ').section(u'\n', -1), QLatin1StringView(expected)) << failure;
+    }
+}
+
+TEST_F(InOfficeCheckTest, tellsAPersonWhatCameOfTheCheckOnce)
+{
+    clock.beginDay({2026, 11, 22}); // a Sunday
+    const QString absent = u"No office network is in range."_s,
+                  off = u"Automatic tracking is off, so Pellory did not check."_s,
+                  before = u"An office network is in range. Today is already marked."_s,
+                  marked = u"Today was marked as in the office."_s;
+    // What is in range (or the failure), what the person is told, and what is known of the last check.
+    const std::tuple<QString, QString, QString> rows[]{
+        {u"Home"_s, absent, absent},
+        {u"Office"_s, u"You have been marked as in the office today"_s, marked},
+        {u"Office"_s, before, before},
+        {u"?missing"_s, u"missing"_s, u"missing"_s},
+        {u"?missing"_s, u"missing"_s, u"missing"_s}, // again, because it was asked for
+        {u"quiet"_s, {}, absent},
+        {u"off"_s, off, absent},
+        {u"not set up"_s, {}, absent},
+    };
+    const QSignalSpy postponed(&check, &InOfficeCheck::postponed);
+    for (const auto& [name, told, found] : rows) {
+        client.isServiceMissing = name.startsWith(u'?');
+        client.failure = client.isServiceMissing ? name.mid(1) : QString();
+        client.networks = {{name}};
+        settings.notificationsEnabled = name != u"quiet"_s;
+        settings.wifiTrackingEnabled = name != u"off"_s;
+        settings.firstTime = name == u"not set up"_s;
+        posted.clear();
+        check.checkNow();
+        const QString answer = posted.filter(QRegularExpression(u"^Pellory"_s)).join(u' ');
+        EXPECT_EQ(answer.section(u'|', 1, 1).section(u'\n', -1), told);
+        EXPECT_EQ(check.lastOutcome.value().text(), found);
+    }
+    EXPECT_EQ(postponed.size(), 1);
+    settings.firstTime = false;
+    for (const QString& answer : {absent, QString()}) { // of whoever asked before set-up was done
+        posted.clear();
+        check.checkAfterSetUp();
+        EXPECT_EQ(posted.join(u' ').section(u'|', 1, 1), answer);
     }
 }
 

@@ -139,7 +139,7 @@ void SsidSettingsView::addSelectedNetworks(QVBoxLayout& column)
     column.addSpacing(8);
     column.addLayout(headingRow(tr("In-Office Networks"), check));
     column.addWidget(m_selected);
-    connect(check, &QAbstractButton::clicked, this, [this] { m_check.checkNow(true); });
+    connect(check, &QAbstractButton::clicked, this, [this] { m_check.checkNow(); });
     connect(m_selected, &NetworkList::chosen, this, &SsidSettingsView::remove);
 }
 

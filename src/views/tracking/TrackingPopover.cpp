@@ -16,9 +16,21 @@
 
 namespace {
 
+// In the usual font, with which it grows.
+constexpr int resultWidth = 220;
+
 QLabel* addRow(QFormLayout& rows, const QString& name)
 {
     auto* value = labels::singleLine(labels::text({}));
+    rows.addRow(labels::singleLine(labels::dim(name)), value);
+    return value;
+}
+
+// It may be an error of any length.
+QLabel* addResult(QFormLayout& rows, const QString& name)
+{
+    auto* value = labels::text({});
+    value->setFixedWidth(fonts::grown(resultWidth, value->font()));
     rows.addRow(labels::singleLine(labels::dim(name)), value);
     return value;
 }
@@ -36,6 +48,7 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     , m_wifi(addRow(*m_rows, tr("Wi-Fi")))
     , m_location(addRow(*m_rows, tr("Location access")))
     , m_lastCheck(addRow(*m_rows, tr("Last check")))
+    , m_result(addResult(*m_rows, tr("Result")))
     , m_nextCheck(addRow(*m_rows, tr("Next check")))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -47,6 +60,7 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     column->addLayout(m_rows);
     connect(&status, &TrackingStatus::changed, this, &TrackingPopover::refresh);
     follow(check.lastCheck, this, [this] { refresh(); });
+    follow(check.lastOutcome, this, [this] { refresh(); });
     follow(check.nextCheck, this, [this] { refresh(); });
 }
 
@@ -66,13 +80,22 @@ void TrackingPopover::popUp()
 void TrackingPopover::refresh()
 {
     m_title->setText(m_status.text());
-    m_wifi->setText(m_status.isWiFiOn() ? tr("On") : tr("Off"));
+    m_wifi->setText(!m_status.isWiFiKnown() ? tr("Unknown") : m_status.isWiFiOn() ? tr("On") : tr("Off"));
     m_location->setText(isAccessGranted(m_status.permission()) ? tr("Allowed") : tr("Missing"));
     m_lastCheck->setText(timeText(m_check.lastCheck));
+    showResult();
     // The timer of the checks runs on while there is nothing to check.
     m_nextCheck->setText(timeText(m_status.isChecking() ? m_check.nextCheck.value() : QDateTime()));
     setAccessibleName(m_title->text());
     adjustSize();
+}
+
+void TrackingPopover::showResult()
+{
+    const CheckOutcome outcome = m_check.lastOutcome;
+    m_result->setText(outcome.text());
+    m_result->setForegroundRole(outcome.kind == CheckOutcome::Failed ? QPalette::BrightText : QPalette::WindowText);
+    m_rows->setRowVisible(m_result, outcome.kind != CheckOutcome::None);
 }
 
 QString TrackingPopover::timeText(const QDateTime& time) const

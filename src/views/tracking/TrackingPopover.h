@@ -23,6 +23,7 @@ protected:
 
 private:
     void refresh();
+    void showResult();
     [[nodiscard]] QString timeText(const QDateTime& time) const;
 
     TrackingStatus& m_status;
@@ -33,5 +34,6 @@ private:
     QLabel* m_wifi;
     QLabel* m_location;
     QLabel* m_lastCheck;
+    QLabel* m_result;
     QLabel* m_nextCheck;
 };

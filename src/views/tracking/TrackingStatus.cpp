@@ -43,6 +43,11 @@ bool TrackingStatus::isWiFiOn() const
     return !m_wifiMonitor || m_wifiMonitor->isWiFiEnabled;
 }
 
+bool TrackingStatus::isWiFiKnown() const
+{
+    return !m_wifiMonitor || m_wifiMonitor->isMonitoring();
+}
+
 AuthorizationStatus TrackingStatus::permission() const
 {
     if (!m_wifiMonitor)

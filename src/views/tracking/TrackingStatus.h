@@ -26,6 +26,8 @@ public:
 
     [[nodiscard]] bool isTracking() const;
     [[nodiscard]] bool isWiFiOn() const;
+    /// False if Wi-Fi only counts as on, because the system cannot be asked.
+    [[nodiscard]] bool isWiFiKnown() const;
     [[nodiscard]] AuthorizationStatus permission() const;
     /// Whether automatic checks are made: tracking is on and the first run is complete.
     [[nodiscard]] bool isChecking() const;

@@ -149,7 +149,7 @@ void AppWindows::makeWelcome()
     addShortcuts(*m_welcome);
     connect(m_welcome, &QDialog::accepted, this, [&parts] {
         parts.settings.firstTime = false;
-        parts.check.checkNow(false);
+        parts.check.checkAfterSetUp();
     });
 }
 

@@ -3,6 +3,7 @@
 #include "LocationAlert.h"
 #include "TrackingIndicator.h"
 #include "TrackingPopover.h"
+#include "TrackingStatus.h"
 #include "ViewTest.h"
 
 class TrackingTest : public ViewTest {};
@@ -25,6 +26,7 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     check.nextCheck = clock.now().addSecs(1800);
     const QString off = u"Tracking Off"_s, on = u"Tracking On"_s, lacking = u"Wi-Fi or Location Off"_s;
     // Whether it tracks and Wi-Fi is on, the permission; then what is shown.
+    check.lastOutcome = CheckOutcome{CheckOutcome::Failed, u"busy"_s};
     const std::tuple<bool, bool, int, Symbol, QString> rows[]{
         {true, true, 3, Symbol::Wifi, on},
         {true, false, 3, Symbol::WifiSlash, lacking},
@@ -40,13 +42,25 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
         EXPECT_THAT(shownTexts(*popover),
                     testing::ElementsAre(status, u"Wi-Fi"_s, isOn ? u"On"_s : u"Off"_s, u"Location access"_s,
                                          permission == 3 ? u"Allowed"_s : u"Missing"_s, u"Last check"_s,
-                                         u"19 Nov 2026 09:00:00"_s, u"Next check"_s,
+                                         u"19 Nov 2026 09:00:00"_s, u"Result"_s, u"busy"_s, u"Next check"_s,
                                          isTracking ? u"09:30:00"_s : u"None"_s));
     }
     check.nextCheck = clock.now().addSecs(3600);
     EXPECT_EQ(shownTexts(*popover).last(), u"10:00:00"_s);
     popover->close();
     EXPECT_TRUE(eventually([&] { return popover.isNull(); }));
+}
+
+TEST_F(TrackingTest, wiFiIsNotSaidToBeOnWhenTheSystemCannotBeAsked)
+{
+    EXPECT_CALL(wifiClient, startMonitoringPowerEvents).WillOnce(testing::Throw(PlatformError(u"no bus"_s)));
+    TrackingStatus status(*settings, wifiClient, locationManager);
+    status.startMonitoring();
+    QWidget anchor;
+    TrackingPopover popover(status, check, clock, &anchor);
+    popover.popUp();
+    EXPECT_EQ(shownTexts(popover).at(2), u"Unknown"_s);
+    EXPECT_FALSE(shownTexts(popover).contains(u"Result"_s)) << "of no check";
 }
 
 TEST_F(TrackingTest, theAlertIsVisibleWhileThePermissionIsMissing)
