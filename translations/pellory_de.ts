@@ -113,6 +113,10 @@
         <source>Your last changes could not be saved and are lost when Pellory ends. %1</source>
         <translation>Die letzten Änderungen konnten nicht gespeichert werden und gehen verloren, wenn Pellory beendet wird. %1</translation>
     </message>
+    <message>
+        <source>Set-up is not finished, so Pellory does not check whether you are in the office. Open Pellory to finish it.</source>
+        <translation>Die Einrichtung ist nicht abgeschlossen, daher prüft Pellory nicht, ob Sie im Büro sind. Öffnen Sie Pellory, um sie abzuschließen.</translation>
+    </message>
 </context>
 <context>
     <name>CalendarPage</name>
@@ -249,6 +253,18 @@
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Set-up Not Finished</source>
+        <translation>Einrichtung nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Pellory does not check whether you are in the office before its set-up is finished.</source>
+        <translation>Pellory prüft erst, ob Sie im Büro sind, wenn die Einrichtung abgeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>Finish Set-up</source>
+        <translation>Einrichtung abschließen</translation>
     </message>
 </context>
 <context>
@@ -983,6 +999,10 @@
         <source>Unknown</source>
         <translation>Unbekannt</translation>
     </message>
+    <message>
+        <source>Finish Set-up</source>
+        <translation>Einrichtung abschließen</translation>
+    </message>
 </context>
 <context>
     <name>TrackingStatus</name>
@@ -997,6 +1017,10 @@
     <message>
         <source>Wi-Fi or Location Off</source>
         <translation>WLAN oder Standort aus</translation>
+    </message>
+    <message>
+        <source>Set-up Not Finished</source>
+        <translation>Einrichtung nicht abgeschlossen</translation>
     </message>
 </context>
 <context>
@@ -1091,6 +1115,10 @@
     <message>
         <source>Pellory does not start at login</source>
         <translation>Pellory startet nicht bei der Anmeldung</translation>
+    </message>
+    <message>
+        <source>No office network is set, so no day is marked as in the office. Go back to add one.</source>
+        <translation>Es ist kein Büronetzwerk angegeben, daher wird kein Tag als „Im Büro“ erfasst. Mit „Zurück“ können Sie eines hinzufügen.</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,20 @@ void Background::handleLastClosed()
 
 void Background::runCheck()
 {
-    if (isTracking())
+    if (m_parts.settings.wifiTrackingEnabled)
         m_parts.check.checkNow();
     else
         m_windows.openMain();
+}
+
+void Background::remindOfSetUp()
+{
+    const AppSettings& settings = m_parts.settings;
+    if (settings.firstTime && settings.wifiTrackingEnabled && settings.notificationsEnabled)
+        m_notifier.post({tr("Pellory"),
+                         tr("Set-up is not finished, so Pellory does not check whether you are in the office. Open "
+                            "Pellory to finish it."),
+                         {}});
 }
 
 void Background::requestQuit()

@@ -23,8 +23,10 @@ public:
                Alerts& alerts);
     ~Background() override;
 
-    /// Runs a check, or opens the window if tracking is not set up.
+    /// Runs a check for a person, or opens the window if tracking is off.
     void runCheck();
+    /// Notifies the person if tracking is on but waits for the first run. For a start without a window.
+    void remindOfSetUp();
 
     /// Quits. If something is not saved, the person is asked first.
     void requestQuit();

@@ -98,7 +98,7 @@ void quit()
     QCoreApplication::exit();
 }
 
-void openFirstWindow(AppWindows& windows, PlatformServices& platform, StartMode mode)
+void openFirstWindow(AppWindows& windows, Background& background, PlatformServices& platform, StartMode mode)
 {
     // What is asked of the desktop can wait until there is something to see.
     const auto afterFirstPaint = [&windows](auto* context, auto start) {
@@ -108,6 +108,7 @@ void openFirstWindow(AppWindows& windows, PlatformServices& platform, StartMode 
     afterFirstPaint(&windows, [] { logStage("window painted"); });
     if (mode == StartMode::AtLogin) {
         platform.trayHost.start();
+        background.remindOfSetUp();
     } else {
         afterFirstPaint(&platform.trayHost, &TrayHost::start);
         windows.openMain();
@@ -147,7 +148,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, Sin
     QObject::connect(&platform.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
-    openFirstWindow(windows, platform, mode);
+    openFirstWindow(windows, background, platform, mode);
     return QApplication::exec();
 }
 

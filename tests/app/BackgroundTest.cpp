@@ -30,6 +30,18 @@ protected:
     bool isConfirmed = false;
 };
 
+TEST_F(BackgroundTest, leadsToTheSetUpThatTrackingWaitsFor)
+{
+    settings->wifiTrackingEnabled = true;
+    EXPECT_CALL(notifier, post);
+    background.remindOfSetUp();
+    background.runCheck();
+    const auto isWelcome = [](const QWidget* window) { return window->isVisible() && window->inherits("WelcomeView"); };
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), isWelcome));
+    settings->firstTime = false;
+    background.remindOfSetUp();
+}
+
 TEST_F(BackgroundTest, asksBeforeItQuitsUnsavedButNotAtTheEndOfTheSession)
 {
     const QSignalSpy quit(&background, &Background::quitRequested);

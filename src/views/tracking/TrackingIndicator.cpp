@@ -21,7 +21,7 @@ void TrackingIndicator::refresh()
 QColor TrackingIndicator::color() const
 {
     const Theme& theme = themeFor(palette());
-    if (!m_status.isTracking())
+    if (!m_status.isChecking())
         return theme.dimText;
     return m_status.isWiFiUsable() ? theme.progressText : theme.outOfOffice;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingPopover.h"
 
+#include "Button.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "InOfficeCheck.h"
@@ -13,6 +14,8 @@
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -50,14 +53,23 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     , m_lastCheck(addRow(*m_rows, tr("Last check")))
     , m_result(addResult(*m_rows, tr("Result")))
     , m_nextCheck(addRow(*m_rows, tr("Next check")))
+    , m_setUp(new Button(tr("Finish Set-up")))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_rows->setHorizontalSpacing(24);
+    m_rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 16);
     column->setSpacing(12);
     column->addWidget(m_title);
     column->addLayout(m_rows);
+    column->addWidget(m_setUp, 0, Qt::AlignRight);
+    m_setUp->setObjectName("finishSetUp"_L1);
+    m_setUp->setProminent(true);
+    connect(m_setUp, &QAbstractButton::clicked, this, [this] {
+        close();
+        Q_EMIT setUpRequested();
+    });
     connect(&status, &TrackingStatus::changed, this, &TrackingPopover::refresh);
     follow(check.lastCheck, this, [this] { refresh(); });
     follow(check.lastOutcome, this, [this] { refresh(); });
@@ -86,7 +98,9 @@ void TrackingPopover::refresh()
     showResult();
     // The timer of the checks runs on while there is nothing to check.
     m_nextCheck->setText(timeText(m_status.isChecking() ? m_check.nextCheck.value() : QDateTime()));
+    m_setUp->setVisible(!m_status.isSetUp());
     setAccessibleName(m_title->text());
+    layout()->activate(); // or the rows would have the heights of their last texts
     adjustSize();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class Button;
 class Clock;
 class InOfficeCheck;
 class QFormLayout;
@@ -17,6 +18,9 @@ public:
     TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock, QWidget* anchor);
 
     void popUp();
+
+Q_SIGNALS:
+    void setUpRequested();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -36,4 +40,5 @@ private:
     QLabel* m_lastCheck;
     QLabel* m_result;
     QLabel* m_nextCheck;
+    Button* m_setUp;
 };

@@ -13,7 +13,8 @@ TrackingStatus::TrackingStatus(const AppSettings& settings, WiFiClient& wifiClie
     , m_wifiClient(wifiClient)
     , m_locationManager(locationManager)
 {
-    follow(settings.wifiTrackingEnabled, this, [this] { Q_EMIT changed(); });
+    for (const QProperty<bool>* setting : {&settings.wifiTrackingEnabled, &settings.firstTime})
+        follow(*setting, this, [this] { Q_EMIT changed(); });
 }
 
 TrackingStatus::~TrackingStatus() = default;
@@ -33,9 +34,9 @@ bool TrackingStatus::isTracking() const
     return m_settings.wifiTrackingEnabled;
 }
 
-bool TrackingStatus::isChecking() const
+bool TrackingStatus::isSetUp() const
 {
-    return isTracking() && !m_settings.firstTime;
+    return !m_settings.firstTime;
 }
 
 bool TrackingStatus::isWiFiOn() const
@@ -59,5 +60,7 @@ QString TrackingStatus::text() const
 {
     if (!isTracking())
         return tr("Tracking Off");
+    if (!isSetUp())
+        return tr("Set-up Not Finished");
     return isWiFiUsable() ? tr("Tracking On") : tr("Wi-Fi or Location Off");
 }

@@ -29,8 +29,9 @@ public:
     /// False if Wi-Fi only counts as on, because the system cannot be asked.
     [[nodiscard]] bool isWiFiKnown() const;
     [[nodiscard]] AuthorizationStatus permission() const;
-    /// Whether automatic checks are made: tracking is on and the first run is complete.
-    [[nodiscard]] bool isChecking() const;
+    /// Whether the first run is complete. No automatic checks are made before.
+    [[nodiscard]] bool isSetUp() const;
+    [[nodiscard]] bool isChecking() const { return isTracking() && isSetUp(); }
     /// Whether Wi-Fi is on and its networks may be seen.
     [[nodiscard]] bool isWiFiUsable() const { return isWiFiOn() && isAccessGranted(permission()); }
     /// The status in a few words, such as "Tracking On".

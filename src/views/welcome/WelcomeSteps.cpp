@@ -125,7 +125,11 @@ QWidget* WelcomeSteps::makeSummary(const AppSettings& settings, const LaunchAtLo
         goals.append(goal->wantedDaysPerWeek);
     add(goals.isEmpty() ? tr("No goals") : tr("Goals: %1 days per week").arg(goals.join(", "_L1)));
     add(settings.wifiTrackingEnabled ? tr("Automatic tracking is on") : tr("Automatic tracking is off"));
-    add(tr("Office networks: %1").arg(settings.inOfficeSsids.value().size()));
+    const auto networks = settings.inOfficeSsids.value().size();
+    add(tr("Office networks: %1").arg(networks));
+    if (settings.wifiTrackingEnabled && networks == 0)
+        lines->addWidget(
+            labels::error(tr("No office network is set, so no day is marked as in the office. Go back to add one.")));
     add(settings.notificationsEnabled ? tr("Notifications are on") : tr("Notifications are off"));
     add(launchAtLogin.isEnabled() ? tr("Pellory starts at login") : tr("Pellory does not start at login"));
     addCard(*column, list);

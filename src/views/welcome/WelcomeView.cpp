@@ -3,6 +3,7 @@
 
 #include "Bar.h"
 #include "Button.h"
+#include "Labels.h"
 #include "StepDots.h"
 
 #include <QGridLayout>
@@ -21,6 +22,7 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     : QDialog(parent)
     , m_steps(new LazyStack(std::move(steps)))
     , m_lastStep(m_steps->pageCount() - 1)
+    , m_message(labels::text({}))
     , m_dots(new StepDots(m_steps->pageCount()))
     , m_skip(new Button(tr("Skip")))
     , m_back(new Button(tr("Back")))
@@ -33,7 +35,10 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     column->setContentsMargins({});
     column->setSpacing(0);
     column->addWidget(m_steps);
+    column->addWidget(m_message);
     column->addWidget(makeFooter());
+    m_message->setObjectName("message"_L1);
+    m_message->setContentsMargins(32, 10, 32, 10);
     resize(firstSize.boundedTo(screen()->availableSize()));
     showStep(0);
 }
@@ -69,6 +74,7 @@ void WelcomeView::showStep(int step)
     if (isLast)
         m_steps->discardPage(step);
     m_steps->showPage(step);
+    m_message->hide();
     m_dots->setCurrent(step);
     m_back->setEnabled(step > 0);
     m_skip->setEnabled(!isLast);
@@ -82,4 +88,18 @@ void WelcomeView::advance()
         showStep(m_step + 1);
     else
         accept();
+}
+
+void WelcomeView::showMessage(const QString& message)
+{
+    m_message->setText(message);
+    m_message->show();
+}
+
+void WelcomeView::reject()
+{
+    if (m_step == m_lastStep)
+        accept();
+    else
+        QDialog::reject();
 }

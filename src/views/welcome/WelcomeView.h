@@ -6,6 +6,7 @@
 #include <QDialog>
 
 class Button;
+class QLabel;
 class StepDots;
 
 /// Leads a new person through the first run, step by step. What is set in a step is stored at once.
@@ -15,6 +16,12 @@ class WelcomeView : public QDialog {
 public:
     explicit WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* parent = nullptr);
 
+    /// Shows a line below the current step.
+    void showMessage(const QString& message);
+
+    /// Completes the first run if all its steps have been seen.
+    void reject() override;
+
 private:
     [[nodiscard]] QWidget* makeFooter();
     void showStep(int step);
@@ -23,6 +30,7 @@ private:
     LazyStack* m_steps;
     int m_lastStep;
     int m_step = 0;
+    QLabel* m_message;
     StepDots* m_dots;
     Button* m_skip;
     Button* m_back;

@@ -61,6 +61,7 @@ void raise(QWidget& window, const QString& activationToken)
 AppWindows::AppWindows(const ViewParts& parts)
     : m_parts(parts)
 {
+    connect(&parts.check, &InOfficeCheck::postponed, this, &AppWindows::explainPostponedCheck);
 }
 
 AppWindows::~AppWindows()
@@ -68,6 +69,9 @@ AppWindows::~AppWindows()
     // A field takes what is being typed when it loses the focus.
     if (QWidget* focused = QApplication::focusWidget())
         focused->clearFocus();
+    // This may complete the first run.
+    if (m_welcome)
+        m_welcome->close();
     for (QWidget* window : std::exchange(m_open, {})) {
         m_parts.viewSettings.setGeometry(geometryKey(*window), window->saveGeometry());
         window->disconnect(this);
@@ -102,6 +106,7 @@ void AppWindows::makeMain()
     m_main = new ContentView(m_parts);
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
+    connect(m_main, &ContentView::setUpRequested, this, &AppWindows::openWelcome);
     connect(m_main, &ContentView::reloadRequested, this, &AppWindows::reloadRequested);
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // The icon can wait until the window is visible.
@@ -147,10 +152,17 @@ void AppWindows::makeWelcome()
         },
         m_main);
     addShortcuts(*m_welcome);
+    connect(m_welcome, &QDialog::rejected, m_main, &ContentView::offerSetUp);
     connect(m_welcome, &QDialog::accepted, this, [&parts] {
         parts.settings.firstTime = false;
         parts.check.checkAfterSetUp();
     });
+}
+
+void AppWindows::explainPostponedCheck()
+{
+    openWelcome();
+    m_welcome->showMessage(CheckOutcome{CheckOutcome::NotSetUp}.text());
 }
 
 QWidget* AppWindows::makeWindow(WindowId id)

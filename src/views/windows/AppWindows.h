@@ -45,6 +45,7 @@ protected:
 private:
     void makeMain();
     void makeWelcome();
+    void explainPostponedCheck();
     [[nodiscard]] QWidget* makeWindow(WindowId id);
     [[nodiscard]] QWidget* makeSettings();
     void prepare(QWidget& window, const QString& name, const QString& title, QSize firstSize);

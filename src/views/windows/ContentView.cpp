@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ContentView.h"
 
+#include "AppSettings.h"
 #include "Bar.h"
+#include "Button.h"
 #include "Follow.h"
 #include "IconButton.h"
 #include "LazyStack.h"
@@ -88,8 +90,11 @@ QWidget* ContentView::makeHeader()
 QWidget* ContentView::makeIndicator()
 {
     auto* indicator = new TrackingIndicator(*m_status);
-    connect(indicator, &QAbstractButton::clicked, this,
-            [this, indicator] { (new TrackingPopover(*m_status, m_parts.check, m_parts.clock, indicator))->popUp(); });
+    connect(indicator, &QAbstractButton::clicked, this, [this, indicator] {
+        auto* popover = new TrackingPopover(*m_status, m_parts.check, m_parts.clock, indicator);
+        connect(popover, &TrackingPopover::setUpRequested, this, &ContentView::setUpRequested);
+        popover->popUp();
+    });
     return indicator;
 }
 
@@ -139,6 +144,22 @@ void ContentView::alertIfUnsaved()
     connect(m_saveAlert, &SaveAlert::reloadRequested, this, &ContentView::reloadRequested);
     // Below the page: a click brings it up, and the next one may be meant for the same day.
     m_column->addWidget(m_saveAlert);
+}
+
+void ContentView::offerSetUp()
+{
+    const auto& firstTime = m_parts.settings.firstTime;
+    if (m_setUpAlert != nullptr || !firstTime)
+        return;
+    auto* alert = m_setUpAlert = new AlertCard(this);
+    alert->layout()->setContentsMargins(24, 12, 24, 20);
+    alert->setTexts(tr("Set-up Not Finished"),
+                    tr("Pellory does not check whether you are in the office before its set-up is finished."));
+    auto* finish = alert->addButton(u"finishSetUp"_s, tr("Finish Set-up"));
+    finish->setProminent(true);
+    connect(finish, &QAbstractButton::clicked, this, &ContentView::setUpRequested);
+    follow(firstTime, alert, [alert, &firstTime] { alert->setVisible(firstTime); });
+    m_column->addWidget(alert);
 }
 
 CalendarPage& ContentView::page() const

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class AlertCard;
 class CalendarPage;
 class LazyStack;
 class LocationAlert;
@@ -25,10 +26,14 @@ public:
     /// Turns the current tab to a day and gives it the focus.
     void showDay(QDate date);
     void showToday();
+    /// Shows a card that offers to finish the first run, until it is complete.
+    void offerSetUp();
 
 Q_SIGNALS:
     /// A button of the toolbar was pressed.
     void windowRequested(WindowId id);
+    /// The first run is to be finished.
+    void setUpRequested();
     /// The file on disk is to be used instead of what is shown.
     void reloadRequested();
     /// The contents have been drawn for the first time.
@@ -53,6 +58,7 @@ private:
     QVBoxLayout* m_column;
     LocationAlert* m_alert = nullptr;
     SaveAlert* m_saveAlert = nullptr;
+    AlertCard* m_setUpAlert = nullptr;
     QTabBar* m_tabs;
     LazyStack* m_pages;
     bool m_painted = false;

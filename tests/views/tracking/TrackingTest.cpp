@@ -6,6 +6,8 @@
 #include "TrackingStatus.h"
 #include "ViewTest.h"
 
+#include <QSignalSpy>
+
 class TrackingTest : public ViewTest {};
 
 TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
@@ -21,6 +23,8 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     const QPointer popover = window.findChild<TrackingPopover*>();
     EXPECT_GT(popover->y(), indicator.mapToGlobal(indicator.rect().bottomLeft()).y());
     EXPECT_TRUE(popover->screen()->availableGeometry().contains(popover->geometry()));
+    settings->wifiTrackingEnabled = true;
+    EXPECT_EQ(indicator.toolTip(), u"Set-up Not Finished"_s);
     settings->firstTime = false;
     check.lastCheck = clock.now().addDays(-1);
     check.nextCheck = clock.now().addSecs(1800);
@@ -47,7 +51,10 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     }
     check.nextCheck = clock.now().addSecs(3600);
     EXPECT_EQ(shownTexts(*popover).last(), u"10:00:00"_s);
-    popover->close();
+    const QSignalSpy setUp(&window, &ContentView::setUpRequested);
+    settings->firstTime = true;
+    click(named<QAbstractButton>(*popover, "finishSetUp"));
+    EXPECT_EQ(setUp.size(), 1);
     EXPECT_TRUE(eventually([&] { return popover.isNull(); }));
 }
 
@@ -61,6 +68,9 @@ TEST_F(TrackingTest, wiFiIsNotSaidToBeOnWhenTheSystemCannotBeAsked)
     popover.popUp();
     EXPECT_EQ(shownTexts(popover).at(2), u"Unknown"_s);
     EXPECT_FALSE(shownTexts(popover).contains(u"Result"_s)) << "of no check";
+    for (const QString& problem : {u"short"_s, u"takes several lines "_s.repeated(9)})
+        check.lastOutcome = CheckOutcome{CheckOutcome::Failed, problem};
+    EXPECT_EQ(popover.height(), popover.heightForWidth(popover.width()));
 }
 
 TEST_F(TrackingTest, theAlertIsVisibleWhileThePermissionIsMissing)
