@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutView</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A calendar of your days in the office</source>
+        <translation>Ein Kalender Ihrer Tage im Büro</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder später. Ohne jede Gewährleistung.</translation>
+    </message>
+</context>
+<context>
     <name>AppSettings</name>
     <message>
         <source>not fired</source>
@@ -30,6 +45,10 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>About Pellory</source>
+        <translation>Über Pellory</translation>
     </message>
 </context>
 <context>
@@ -94,10 +113,6 @@
         <translation>Pellory</translation>
     </message>
     <message>
-        <source>Pellory keeps checking in the background whether you are in the office. Start it again to open its window.</source>
-        <translation>Pellory prüft im Hintergrund weiter, ob Sie im Büro sind. Ein erneuter Start öffnet das Fenster wieder.</translation>
-    </message>
-    <message>
         <source>Quit Without Saving?</source>
         <translation>Ohne Speichern beenden?</translation>
     </message>
@@ -116,6 +131,10 @@
     <message>
         <source>Set-up is not finished, so Pellory does not check whether you are in the office. Open Pellory to finish it.</source>
         <translation>Die Einrichtung ist nicht abgeschlossen, daher prüft Pellory nicht, ob Sie im Büro sind. Öffnen Sie Pellory, um sie abzuschließen.</translation>
+    </message>
+    <message>
+        <source>Pellory keeps checking in the background whether you are in the office. Start it again to open its window. To end it, choose Quit in the menu of the window.</source>
+        <translation>Pellory prüft im Hintergrund weiter, ob Sie im Büro sind. Ein erneuter Start öffnet das Fenster wieder. Mit „Beenden“ im Menü des Fensters beenden Sie es.</translation>
     </message>
 </context>
 <context>
@@ -265,6 +284,18 @@
     <message>
         <source>Finish Set-up</source>
         <translation>Einrichtung abschließen</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>About Pellory</source>
+        <translation>Über Pellory</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
     </message>
 </context>
 <context>
@@ -1036,6 +1067,10 @@
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Pellory: %1</source>
+        <translation>Pellory: %1</translation>
     </message>
 </context>
 <context>

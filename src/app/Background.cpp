@@ -55,7 +55,7 @@ void Background::handleLastClosed()
     m_settings.setValue(noticeWasGiven, true);
     m_notifier.post({tr("Pellory"),
                      tr("Pellory keeps checking in the background whether you are in the office. Start it again to "
-                        "open its window."),
+                        "open its window. To end it, choose Quit in the menu of the window."),
                      {}});
 }
 

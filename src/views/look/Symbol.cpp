@@ -104,6 +104,14 @@ QPainterPath keyboard()
     return path;
 }
 
+QPainterPath menu()
+{
+    QPainterPath path;
+    for (const qreal y : {4.0, 8.0, 12.0})
+        path.addPath(line({{2.4, y}, {13.6, y}}));
+    return path;
+}
+
 QPainterPath strokesOf(Symbol symbol)
 {
     switch (symbol) {
@@ -135,6 +143,8 @@ QPainterPath strokesOf(Symbol symbol)
         return rightClick();
     case Symbol::Keyboard:
         return keyboard();
+    case Symbol::Menu:
+        return menu();
     }
     Q_UNREACHABLE();
 }

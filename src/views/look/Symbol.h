@@ -21,6 +21,7 @@ enum class Symbol {
     Click,
     RightClick,
     Keyboard,
+    Menu,
 };
 
 /// Draws a symbol in a square area.

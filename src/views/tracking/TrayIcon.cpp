@@ -58,7 +58,7 @@ TrayIcon::TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, Location
         if (reason == QSystemTrayIcon::Trigger)
             Q_EMIT openRequested();
     });
-    const auto refresh = [this] { m_icon->setToolTip(m_status->text()); };
+    const auto refresh = [this] { m_icon->setToolTip(tr("Pellory: %1").arg(m_status->text())); };
     connect(m_status.get(), &TrackingStatus::changed, this, refresh);
     m_status->startMonitoring();
     refresh();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
+#include "AboutView.h"
 #include "Accessibility.h"
 #include "AppIcon.h"
 #include "AppSettings.h"
@@ -32,6 +33,7 @@ namespace {
 // In the usual font, with which they grow.
 constexpr QSize firstMainSize(534, 860);
 constexpr QSize firstSettingsSize(560, 660);
+constexpr QSize firstAboutSize(420, 210);
 // The size of a window's frame is not known before it is shown.
 constexpr QSize roomForFrame(16, 48);
 
@@ -107,6 +109,7 @@ void AppWindows::makeMain()
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
     connect(m_main, &ContentView::setUpRequested, this, &AppWindows::openWelcome);
+    connect(m_main, &ContentView::quitRequested, this, &AppWindows::quitRequested);
     connect(m_main, &ContentView::reloadRequested, this, &AppWindows::reloadRequested);
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // The icon can wait until the window is visible.
@@ -176,6 +179,11 @@ QWidget* AppWindows::makeWindow(WindowId id)
     case WindowId::help: {
         auto* window = makeCardPage(new HelpView(m_parts.viewSettings));
         prepare(*window, u"help"_s, tr("Help"), window->widget()->sizeHint());
+        return window;
+    }
+    case WindowId::about: {
+        auto* window = makeCardPage(new AboutView);
+        prepare(*window, u"about"_s, tr("About Pellory"), grown(firstAboutSize, window->font()));
         return window;
     }
     case WindowId::settings:

@@ -25,6 +25,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -105,10 +106,34 @@ void ContentView::addToolbar(QHBoxLayout& row)
         connect(button, &QAbstractButton::clicked, this, [this, id] { Q_EMIT windowRequested(id); });
         row.addWidget(button);
     };
-    row.setSpacing(8);
+    row.setSpacing(2); // more would push the tabs off the middle of a narrow window
     add(Symbol::DocumentGear, tr("Calendar View Settings"), WindowId::calendarViewSettings);
     add(Symbol::Gear, tr("Settings"), WindowId::settings);
     add(Symbol::Question, tr("Help"), WindowId::help);
+    auto* menu = new IconButton(Symbol::Menu, tr("Menu"));
+    menu->setObjectName("menu"_L1);
+    connect(menu, &QAbstractButton::clicked, this, [this, menu] { popUpMenu(*menu); });
+    row.addWidget(menu);
+}
+
+void ContentView::popUpMenu(const QWidget& button)
+{
+    auto* menu = new QMenu(this);
+    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    const auto add = [&](const QString& text, const QKeySequence& keys, auto signal, auto... arguments) {
+        QAction* action = menu->addAction(text);
+        // The keys themselves are those of the window.
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, [=, this] { Q_EMIT(this->*signal)(arguments...); });
+    };
+    add(tr("Help"), Qt::Key_F1, &ContentView::windowRequested, WindowId::help);
+    add(tr("About Pellory"), {}, &ContentView::windowRequested, WindowId::about);
+    menu->addSeparator();
+    add(tr("Quit"), Qt::CTRL | Qt::Key_Q, &ContentView::quitRequested);
+    const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
+    menu->popup(button.mapToGlobal(isLeftToRight ? button.rect().bottomRight() - QPoint(menu->sizeHint().width(), 0)
+                                                 : button.rect().bottomLeft()));
 }
 
 void ContentView::addShortcuts()

@@ -34,6 +34,7 @@ Q_SIGNALS:
     void windowRequested(WindowId id);
     /// The first run is to be finished.
     void setUpRequested();
+    void quitRequested();
     /// The file on disk is to be used instead of what is shown.
     void reloadRequested();
     /// The contents have been drawn for the first time.
@@ -47,6 +48,7 @@ private:
     [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QWidget* makeIndicator();
     void addToolbar(QHBoxLayout& row);
+    void popUpMenu(const QWidget& button);
     void addShortcuts();
     void alertIfNeeded();
     void alertIfUnsaved();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
+#include "AboutView.h"
 #include "CalendarView.h"
 #include "CalendarViewSettingsView.h"
 #include "ContentView.h"
@@ -51,6 +52,13 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
         press(*main, Qt::Key_F1);
     }
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible), 3);
+    const QSignalSpy quit(windows.get(), &AppWindows::quitRequested);
+    for (const auto& keys : {QList{Qt::Key_Up, Qt::Key_Return}, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}}) {
+        click(named<QWidget>(*shown<ContentView>(), "menu"));
+        for (const Qt::Key key : keys)
+            press(*QApplication::activePopupWidget(), key);
+    }
+    press(*shown<AboutView>()->window(), Qt::Key_Escape);
     press(*shown<SettingsView>(), Qt::Key_Escape);
     press(*shown<HelpView>()->window(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(shown<SettingsView>(), nullptr);
@@ -74,9 +82,8 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     days->setFocus();
     days->selectAll();
     QTest::keyClicks(days, u"5"_s);
-    const QSignalSpy quit(windows.get(), &AppWindows::quitRequested);
     press(*days->window(), Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_EQ(quit.size(), 1);
+    EXPECT_EQ(quit.size(), 2);
     windows.reset();
     EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek.value(), u"5.00"_s);
 }
@@ -205,7 +212,7 @@ TEST_F(AppWindowsTest, clipNoTextAndTranslateAll)
     LongerTexts longer;
     QCoreApplication::installTranslator(&longer);
     windows->openWelcome();
-    for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::calendarViewSettings})
+    for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::about, WindowId::calendarViewSettings})
         windows->open(id);
     auto* tabs = shown<SettingsView>()->findChild<QTabBar*>();
     QStringList untranslated;

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AboutView.h"
+
+#include "AppIcon.h"
+#include "Labels.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+
+AboutView::AboutView(QWidget* parent)
+    : QWidget(parent)
+{
+    constexpr int iconSize = 32;
+    auto* icon = new QLabel;
+    icon->setPixmap(appIcon().pixmap(iconSize));
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setHorizontalSpacing(16);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(icon, 0, 0, 2, 1, Qt::AlignTop);
+    const auto add = [grid](QLabel* line) { grid->addWidget(line, grid->count() - 1, 1); };
+    add(labels::heading(QCoreApplication::applicationName()));
+    add(labels::dim(tr("Version %1").arg(QCoreApplication::applicationVersion())));
+    add(labels::text(tr("A calendar of your days in the office")));
+    add(labels::text(tr("Free software under the GNU General Public License, version 3 or later. It comes without any "
+                        "warranty.")));
+}
