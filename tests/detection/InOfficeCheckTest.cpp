@@ -10,7 +10,6 @@
 #include "StoredMonths.h"
 #include "Testing.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -135,63 +134,50 @@ TEST_F(InOfficeCheckTest, reportsAFailureAndChecksAgain)
     EXPECT_EQ(client.scans.size(), 5); // none without power
 }
 
-TEST_F(InOfficeCheckTest, reportsAProblemAtEachCheckAndWithdrawsItWhenItIsOver)
+TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
 {
     client.networks = {};
-    // The failure, if any, and what is posted.
-    for (const auto& [failure, expected] : {std::pair("busy", "busy|detection-problem|"),
-                                            {"busy", "busy|detection-problem|"},
-                                            {"", "-detection-problem"},
-                                            {"", ""},
-                                            {"missing", "missing|detection-problem|"},
-                                            {"missing", ""}}) {
-        client.failure = QString::fromLatin1(failure);
-        client.isServiceMissing = client.failure == u"missing"_s;
-        posted.clear();
-        EXPECT_FALSE(checkNow(false));
-        EXPECT_EQ(posted.join(u' ').section(u'\n', -1), QLatin1StringView(expected)) << failure;
-    }
-}
-
-TEST_F(InOfficeCheckTest, tellsAPersonWhatCameOfTheCheckOnce)
-{
-    clock.beginDay({2026, 11, 22}); // a Sunday
-    const QString absent = u"No office network is in range."_s,
-                  off = u"Automatic tracking is off, so Pellory did not check."_s,
+    checkNow(); // marks the day before
+    const QString busy = u"busy|detection-problem|"_s, missing = u"missing|detection-problem|"_s,
+                  absent = u"No office network is in range."_s, marked = u"Today was marked as in the office."_s,
                   before = u"An office network is in range. Today is already marked."_s,
-                  marked = u"Today was marked as in the office."_s;
-    // What is in range (or the failure), what the person is told, and what is known of the last check.
-    const std::tuple<QString, QString, QString> rows[]{
-        {u"Home"_s, absent, absent},
-        {u"Office"_s, u"You have been marked as in the office today"_s, marked},
-        {u"Office"_s, before, before},
-        {u"?missing"_s, u"missing"_s, u"missing"_s},
-        {u"?missing"_s, u"missing"_s, u"missing"_s}, // again, because it was asked for
-        {u"quiet"_s, {}, absent},
-        {u"off"_s, off, absent},
-        {u"not set up"_s, {}, absent},
+                  off = u"Automatic tracking is off, so Pellory did not check."_s;
+    const auto answer = [](const QString& text) { return u"Pellory|"_s + text + u"|check-answer|"_s; };
+    // What is in range or the matter, whether a person asks, what is posted, and what is kept.
+    const std::tuple<QString, bool, QString, QString> rows[]{
+        {u"busy"_s, false, busy, u"busy"_s},
+        {u"busy"_s, false, busy, u"busy"_s},
+        {u"Home"_s, false, u"-detection-problem"_s, absent},
+        {u"Home"_s, false, {}, absent},
+        {u"missing"_s, false, missing, u"missing"_s},
+        {u"missing"_s, false, {}, u"missing"_s},
+        {u"missing"_s, true, missing, u"missing"_s},
+        {u"Home"_s, true, u"-detection-problem "_s + answer(absent), absent},
+        {u"quiet"_s, true, {}, absent},
+        {u"Office"_s, true, u"Pellory|You have been marked as in the office today||2026-11-20"_s, marked},
+        {u"Office"_s, true, answer(before), before},
+        {u"off"_s, true, answer(off), before},
+        {u"not set up"_s, true, {}, before},
+        {u"first"_s, true, answer(absent), absent}, // for whoever asked before it could be made
+        {u"first"_s, true, {}, absent},
     };
     const QSignalSpy postponed(&check, &InOfficeCheck::postponed);
-    for (const auto& [name, told, found] : rows) {
-        client.isServiceMissing = name.startsWith(u'?');
-        client.failure = client.isServiceMissing ? name.mid(1) : QString();
-        client.networks = {{name}};
-        settings.notificationsEnabled = name != u"quiet"_s;
-        settings.wifiTrackingEnabled = name != u"off"_s;
-        settings.firstTime = name == u"not set up"_s;
+    for (const auto& [matter, isAsked, expected, kept] : rows) {
+        client.isServiceMissing = matter == u"missing"_s;
+        client.failure = client.isServiceMissing || matter == u"busy"_s ? matter : QString();
+        client.networks = {{matter}};
+        settings.notificationsEnabled = matter != u"quiet"_s;
+        settings.wifiTrackingEnabled = matter != u"off"_s;
+        settings.firstTime = matter == u"not set up"_s;
         posted.clear();
-        check.checkNow();
-        const QString answer = posted.filter(QRegularExpression(u"^Pellory"_s)).join(u' ');
-        EXPECT_EQ(answer.section(u'|', 1, 1).section(u'\n', -1), told);
-        EXPECT_EQ(check.lastOutcome.value().text(), found);
+        if (isAsked)
+            matter == u"first"_s ? check.checkAfterSetUp() : check.checkNow();
+        else
+            EXPECT_FALSE(checkNow());
+        EXPECT_EQ(posted.join(u' ').section(u'\n', -1), expected) << qPrintable(matter);
+        EXPECT_EQ(check.lastOutcome.value().text(), kept) << qPrintable(matter);
     }
     EXPECT_EQ(postponed.size(), 1);
-    settings.firstTime = false;
-    for (const QString& answer : {absent, QString()}) { // of whoever asked before set-up was done
-        posted.clear();
-        check.checkAfterSetUp();
-        EXPECT_EQ(posted.join(u' ').section(u'|', 1, 1), answer);
-    }
 }
 
 TEST_F(InOfficeCheckTest, runsAfterEachIntervalUnlessItIsTurnedOffAndAlsoWithABrokenClock)

@@ -133,7 +133,6 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
     EXPECT_THAT(shownTexts(*welcome), testing::Contains(u"Automatic tracking is on"_s));
     push(*welcome, "back");
     push(*welcome, "grant");
-    EXPECT_FALSE(named<QWidget>(*welcome, "message").isVisible());
     push(*welcome, "runCheck");
     EXPECT_TRUE(named<QWidget>(*welcome, "message").isVisible());
     push(*welcome, "skip");
@@ -152,9 +151,7 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
     settings->firstTime = true;
     settings->inOfficeSsids = QStringList();
     push(*shown<WelcomeView>(), "skip");
-    EXPECT_THAT(
-        shownTexts(*shown<WelcomeView>()),
-        testing::Contains(u"No office network is set, so no day is marked as in the office. Go back to add one."_s));
+    EXPECT_EQ(shownTexts(*shown<WelcomeView>()).filter(u"No office network is set"_s).size(), 1);
     windows.reset(); // as when the program is quit
     EXPECT_FALSE(settings->firstTime);
 }
