@@ -34,7 +34,9 @@ QLabel* addResult(QFormLayout& rows, const QString& name)
 {
     auto* value = labels::text({});
     value->setFixedWidth(fonts::grown(resultWidth, value->font()));
-    rows.addRow(labels::singleLine(labels::dim(name)), value);
+    auto* label = labels::singleLine(labels::dim(name));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    rows.addRow(label, value);
     return value;
 }
 
@@ -57,7 +59,6 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_rows->setHorizontalSpacing(24);
-    m_rows->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 16);
     column->setSpacing(12);
