@@ -13,7 +13,7 @@ NavigationRow::NavigationRow(const QString& previousText, const QString& nextTex
     : QWidget(parent)
     , m_previous(new LinkButton(previousText, Symbol::LessThan, LinkButton::SymbolSide::Leading))
     , m_next(new LinkButton(nextText, Symbol::GreaterThan, LinkButton::SymbolSide::Trailing))
-    , m_today(new LinkButton(tr("Today")))
+    , m_today(new LinkButton(tr("Today"), this))
 {
     m_previous->setObjectName("previous"_L1);
     m_next->setObjectName("next"_L1);
@@ -27,7 +27,6 @@ NavigationRow::NavigationRow(const QString& previousText, const QString& nextTex
     QSizePolicy policy = m_today->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // or the layout would leave out a gap
     m_today->setSizePolicy(policy);
-    m_today->setParent(this); // after the others, whom it follows in the tab order
     connect(m_previous, &QAbstractButton::clicked, this, &NavigationRow::previousRequested);
     connect(m_next, &QAbstractButton::clicked, this, &NavigationRow::nextRequested);
     connect(m_today, &QAbstractButton::clicked, this, &NavigationRow::todayRequested);

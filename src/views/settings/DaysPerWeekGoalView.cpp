@@ -25,7 +25,6 @@ DaysPerWeekGoalView::DaysPerWeekGoalView(AppSettings& settings, bool headerEnabl
     : QWidget(parent)
     , m_settings(settings)
     , m_table(new QGridLayout)
-    , m_lastHeading(labels::dim(tr("Description")))
     , m_empty(labels::dim(tr("No \"days in office per week\" goals")))
     , m_stringValue(new TextField(tr("New goal")))
     , m_error(labels::error(tr("Input must be a number between 0.0 and 7.0")))
@@ -51,7 +50,7 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     m_table->setVerticalSpacing(6);
     m_table->setColumnStretch(1, 1);
     m_table->addWidget(labels::singleLine(labels::dim(tr("Days Per Week Goal"))), 0, 0);
-    m_table->addWidget(m_lastHeading, 0, 1);
+    m_table->addWidget(labels::dim(tr("Description")), 0, 1);
     column->addLayout(m_table);
     column->addWidget(m_empty);
     column->addWidget(m_daysPerWeekGoalChangeError);
@@ -73,17 +72,12 @@ void DaysPerWeekGoalView::showGoals()
     if (isSame && !goals.isEmpty())
         return;
     QList<Row> gone = std::exchange(m_rows, {});
-    QWidget* before = m_lastHeading;
     for (const auto& goal : goals) {
         const auto kept = std::ranges::find(gone, goal, &Row::goal);
         m_rows.append(kept == gone.end() ? makeRow(goal) : *kept);
         if (kept != gone.end())
             gone.erase(kept);
         place(m_rows.last(), firstGoalRow + static_cast<int>(m_rows.size()) - 1);
-        for (QWidget* control : m_rows.last().controls()) {
-            setTabOrder(before, control);
-            before = control;
-        }
     }
     for (const Row& row : gone) {
         for (QWidget* control : row.controls()) {

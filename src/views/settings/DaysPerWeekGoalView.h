@@ -40,7 +40,6 @@ private:
 
     AppSettings& m_settings;
     QGridLayout* m_table;
-    QLabel* m_lastHeading;
     QLabel* m_empty;
     QLineEdit* m_stringValue;
     QLabel* m_error;

@@ -54,12 +54,8 @@ void NetworkList::setNetworks(const QStringList& networks, const QString& emptyT
         last.whole->hide();
         last.whole->deleteLater();
     }
-    QWidget* before = m_empty;
-    for (qsizetype i = 0; i < networks.size(); ++i) {
+    for (qsizetype i = 0; i < networks.size(); ++i)
         showNetwork(m_rows.at(i), networks.at(i));
-        setTabOrder(before, m_rows.at(i).button);
-        before = m_rows.at(i).button;
-    }
 }
 
 void NetworkList::leave(QWidget* button, QWidget* next)

@@ -3,6 +3,7 @@
 
 #include "Bar.h"
 #include "DaysPerWeekGoalView.h"
+#include "FocusOrder.h"
 #include "Follow.h"
 #include "GeneralSettingsView.h"
 #include "Labels.h"
@@ -34,6 +35,11 @@ SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, Locati
     addLocationLine(*column, locationManager);
     column->addWidget(pages);
     pages->showPage(0);
+}
+
+bool SettingsView::focusNextPrevChild(bool next)
+{
+    return moveFocus(*this, next);
 }
 
 QWidget* SettingsView::makeHeader(LazyStack* pages)

@@ -22,6 +22,9 @@ public:
 Q_SIGNALS:
     void welcomeRequested();
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     [[nodiscard]] QWidget* makeHeader(LazyStack* pages);
     void addLocationLine(QVBoxLayout& column, LocationManager& manager);

@@ -15,9 +15,9 @@ LocationAlert::LocationAlert(TrackingStatus& status, AppSettings& settings, Loca
 {
     setTexts(tr("Location Permissions Needed"),
              tr("You have automatic in office tracking enabled, but the app doesn't have access to your location."));
-    auto* disable = addButton(u"disableTracking"_s, tr("Disable Automatic Tracking"));
     m_access = addButton(u"giveAccess"_s);
     m_access->setProminent(true);
+    auto* disable = addButton(u"disableTracking"_s, tr("Disable Automatic Tracking"));
     connect(m_access, &QAbstractButton::clicked, this, &LocationAlert::requestAccess);
     connect(disable, &QAbstractButton::clicked, this, [&settings] { settings.wifiTrackingEnabled = false; });
     connect(&status, &TrackingStatus::changed, this, &LocationAlert::refresh);

@@ -3,6 +3,7 @@
 
 #include "Bar.h"
 #include "Button.h"
+#include "FocusOrder.h"
 #include "Labels.h"
 #include "StepDots.h"
 
@@ -41,6 +42,11 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     m_message->setContentsMargins(32, 10, 32, 10);
     resize(firstSize.boundedTo(screen()->availableSize()));
     showStep(0);
+}
+
+bool WelcomeView::focusNextPrevChild(bool next)
+{
+    return moveFocus(*this, next);
 }
 
 QWidget* WelcomeView::makeFooter()

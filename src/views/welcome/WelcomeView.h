@@ -22,6 +22,9 @@ public:
     /// Completes the first run if all its steps have been seen.
     void reject() override;
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     [[nodiscard]] QWidget* makeFooter();
     void showStep(int step);

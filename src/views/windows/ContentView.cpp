@@ -4,6 +4,7 @@
 #include "AppSettings.h"
 #include "Bar.h"
 #include "Button.h"
+#include "FocusOrder.h"
 #include "Follow.h"
 #include "IconButton.h"
 #include "LazyStack.h"
@@ -209,6 +210,11 @@ void ContentView::showTab(int index)
     if (m_pages->isAncestorOf(focusWidget()))
         m_tabs->setFocus(Qt::OtherFocusReason);
     m_pages->showPage(index);
+}
+
+bool ContentView::focusNextPrevChild(bool next)
+{
+    return moveFocus(*this, next);
 }
 
 void ContentView::keyPressEvent(QKeyEvent* event)

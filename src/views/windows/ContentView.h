@@ -42,6 +42,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -16,6 +16,7 @@
 
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTranslator>
@@ -35,6 +36,33 @@ protected:
             }
         }
         return nullptr;
+    }
+    /// Walks through a window with Tab, and expects to reach everything in the order on the screen.
+    static void walk(QWidget& window)
+    {
+        show(window);
+        auto stops = window.findChildren<QWidget*>();
+        stops.removeIf([](const QWidget* each) {
+            return !each->isVisible() || !each->isEnabled() || (each->focusPolicy() & Qt::TabFocus) == 0;
+        });
+        QList<QWidget*> walked;
+        window.setFocus();
+        for (qsizetype i = 0; i < stops.size(); ++i) {
+            press(window, Qt::Key_Tab);
+            walked.append(window.focusWidget());
+        }
+        EXPECT_THAT(walked, testing::UnorderedElementsAreArray(stops));
+        for (auto* bar : window.findChildren<QScrollBar*>())
+            bar->setValue(0);
+        const auto place = [&](const QWidget* stop) { return QRect(stop->mapTo(&window, QPoint()), stop->size()); };
+        const auto wrong = std::ranges::adjacent_find(walked, [&](const QWidget* from, const QWidget* to) {
+            const QRect before = place(from), after = place(to);
+            const bool isSameRow = before.top() < after.center().y() && after.top() < before.center().y();
+            return isSameRow ? after.left() <= before.left() : after.top() <= before.top();
+        });
+        EXPECT_EQ(wrong, walked.end()) << qPrintable((*wrong)->accessibleName());
+        press(window, Qt::Key_Backtab);
+        EXPECT_EQ(window.focusWidget(), walked.at(std::max<qsizetype>(walked.size() - 2, 0)));
     }
     static void push(const QWidget& view, const char* name) { click(named<QAbstractButton>(view, name)); }
 
@@ -154,6 +182,38 @@ TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
     EXPECT_EQ(shownTexts(*shown<WelcomeView>()).filter(u"No office network is set"_s).size(), 1);
     windows.reset(); // as when the program is quit
     EXPECT_FALSE(settings->firstTime);
+}
+
+TEST_F(AppWindowsTest, tabFollowsTheScreenInEveryWindow)
+{
+    settings->wifiTrackingEnabled = true;
+    settings->inOfficeSsids = {u"Home"_s};
+    wifiClient.networks = {{u"Office"_s}, {u"Guest"_s}};
+    setRadio(true, 2); // which also brings the alert
+    windows->openMain();
+    for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::calendarViewSettings})
+        windows->open(id);
+    auto& main = *shown<ContentView>();
+    auto& all = *shown<SettingsView>();
+    EXPECT_TRUE(eventually([&] { return shown<LocationAlert>() != nullptr; }));
+    press(main, Qt::Key_PageUp); // or there would be no link to today
+    for (int page = 0; page < 3; ++page) {
+        main.findChild<QTabBar*>()->setCurrentIndex(page % 2);
+        walk(main);
+        all.findChild<QTabBar*>()->setCurrentIndex(page);
+        EXPECT_TRUE(eventually([&] { return !shownTexts(all).contains(u"Scanning for networks..."_s); }));
+        setRadio(true, 3); // so that the scan has its button
+        EXPECT_EQ(settings->addGoal(u"3"_s), true);
+        settings->inOfficeSsids = settings->inOfficeSsids.value() + QStringList(u"Later"_s);
+        walk(all);
+    }
+    walk(*shown<HelpView>()->window());
+    walk(*shown<CalendarViewSettingsView>()->window());
+    windows->openWelcome();
+    for (int step = 1; step < 5; ++step) {
+        walk(*shown<WelcomeView>());
+        push(*shown<WelcomeView>(), "next");
+    }
 }
 
 // Every text a third longer, as another language may have it.
