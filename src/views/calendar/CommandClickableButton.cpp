@@ -3,6 +3,7 @@
 
 #include "Fonts.h"
 #include "HoverLabel.h"
+#include "ReturnKey.h"
 #include "StateMark.h"
 #include "Theme.h"
 #include "ViewSettings.h"
@@ -156,7 +157,7 @@ void CommandClickableButton::keyPressEvent(QKeyEvent* event)
         update();
     }
     // The grid handles all other keys.
-    if (event->key() != Qt::Key_Space) {
+    if (!isPress(*event)) {
         event->ignore();
         return;
     }
@@ -169,7 +170,7 @@ void CommandClickableButton::keyPressEvent(QKeyEvent* event)
 
 void CommandClickableButton::keyReleaseEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !isDown()) {
+    if (!isPress(*event) || event->isAutoRepeat() || !isDown()) {
         event->ignore();
         return;
     }
@@ -234,6 +235,12 @@ void CommandClickableButton::run(Qt::KeyboardModifiers held)
     case ClickModifier::None:
         return m_actions.action();
     }
+}
+
+bool CommandClickableButton::isPress(const QKeyEvent& event) const
+{
+    // After a click, Return is for the default button of the dialog.
+    return event.key() == Qt::Key_Space || (isReturn(event) && m_focusVisible);
 }
 
 void CommandClickableButton::requestMenu()

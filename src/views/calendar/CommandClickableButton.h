@@ -14,7 +14,7 @@ class HoverLabel;
 class ViewSettings;
 
 /// A small coloured button that runs one of four actions, depending on the modifier key held, and can show a label on
-/// hover. Space does the same as a click.
+/// hover. Space and Return do the same as a click.
 class CommandClickableButton : public QAbstractButton {
     Q_OBJECT
 
@@ -69,6 +69,7 @@ private:
     [[nodiscard]] QRect numberArea() const;
     [[nodiscard]] QSize faceSize() const;
     void run(Qt::KeyboardModifiers held);
+    [[nodiscard]] bool isPress(const QKeyEvent& event) const;
     void requestMenu();
     void setHovered(bool inside);
     void setShowTooltip(bool show);

@@ -2,6 +2,7 @@
 #include "Button.h"
 
 #include "Fonts.h"
+#include "ReturnKey.h"
 #include "Theme.h"
 
 #include <QKeyEvent>
@@ -45,10 +46,7 @@ void Button::focusInEvent(QFocusEvent* event)
 void Button::keyPressEvent(QKeyEvent* event)
 {
     m_focusVisible.show();
-    // In a dialog, Qt would press the default button instead.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (!clickByReturn(*this, *event))
         QPushButton::keyPressEvent(event);
 }
 

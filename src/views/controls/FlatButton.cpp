@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FlatButton.h"
 
+#include "ReturnKey.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -17,6 +18,13 @@ void FlatButton::focusInEvent(QFocusEvent* event)
 {
     m_focusVisible.update(event->reason());
     QAbstractButton::focusInEvent(event);
+}
+
+void FlatButton::keyPressEvent(QKeyEvent* event)
+{
+    m_focusVisible.show();
+    if (!clickByReturn(*this, *event))
+        QAbstractButton::keyPressEvent(event);
 }
 
 void FlatButton::paintFace(QPainter& painter, const QColor& hovered) const

@@ -14,6 +14,7 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     /// Draws the background and the focus ring.
     void paintFace(QPainter& painter, const QColor& hovered) const;
 

@@ -3,6 +3,7 @@
 
 #include "Follow.h"
 #include "Fonts.h"
+#include "ReturnKey.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -46,7 +47,8 @@ void Switch::focusInEvent(QFocusEvent* event)
 void Switch::keyPressEvent(QKeyEvent* event)
 {
     m_focusVisible.show();
-    QCheckBox::keyPressEvent(event);
+    if (!clickByReturn(*this, *event))
+        QCheckBox::keyPressEvent(event);
 }
 
 void Switch::paintEvent(QPaintEvent* /*event*/)

@@ -2,6 +2,7 @@
 #include "TextField.h"
 
 #include "Fonts.h"
+#include "ReturnKey.h"
 #include "Theme.h"
 
 #include <QKeyEvent>
@@ -31,7 +32,7 @@ TextField::TextField(const QString& prompt, QWidget* parent)
 void TextField::keyPressEvent(QKeyEvent* event)
 {
     QLineEdit::keyPressEvent(event);
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isReturn(*event))
         event->accept();
 }
 

@@ -88,7 +88,7 @@ TEST_F(SettingsTest, aGoalIsEditedInItsPlaceAndRemoved)
     }
     auto& removal = called<IconButton>(u"Remove the goal 7.00"_s);
     removal.setFocus();
-    QTest::keyClick(&removal, Qt::Key_Space);
+    QTest::keyClick(&removal, Qt::Key_Return);
     EXPECT_EQ(goals(), QStringList(u"4.00|all of it"_s));
     EXPECT_EQ(view.focusWidget()->accessibleName(), u"Remove the goal 4.00"_s);
 }
@@ -126,7 +126,7 @@ TEST_F(SettingsTest, networksComeFromAScanAndByName)
     wifiClient.failure = u"busy"_s;
     wifiClient.isHeld = true;
     scan.setFocus();
-    QTest::keyClick(&scan, Qt::Key_Space);
+    QTest::keyClick(&scan, Qt::Key_Return);
     EXPECT_EQ(view.focusWidget(), view.findChild<SsidSettingsView*>()) << "no button that a second key would press";
     wifiClient.isHeld = false;
     Q_EMIT wifiClient.letGo();
@@ -169,8 +169,10 @@ TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
     open(generalPage);
     auto& login = named<Switch>(view, "launchAtLogin");
     const auto switches = login.parentWidget()->findChildren<Switch*>();
-    for (Switch* each : switches)
-        click(*each);
+    for (Switch* each : switches) {
+        each->setFocus();
+        press(view, Qt::Key_Return);
+    }
     EXPECT_TRUE(loginItem.enabled);
     EXPECT_FALSE(settings->notificationsEnabled);
     EXPECT_TRUE(settings->vacationDaysCountAsInOffice);
