@@ -42,6 +42,7 @@ CommandClickableButton::CommandClickableButton(Actions actions, const ViewSettin
 {
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     setFont(fonts::body(font()));
+    setMouseTracking(true);
     // Only assistive technology emits this; mouse and keys have modifiers and call run() themselves.
     connect(this, &QAbstractButton::clicked, this, [this] { run(Qt::NoModifier); });
 }
@@ -121,12 +122,6 @@ void CommandClickableButton::contextMenuEvent(QContextMenuEvent* /*event*/)
     requestMenu();
 }
 
-void CommandClickableButton::enterEvent(QEnterEvent* event)
-{
-    QAbstractButton::enterEvent(event);
-    setHovered(true);
-}
-
 void CommandClickableButton::leaveEvent(QEvent* event)
 {
     QAbstractButton::leaveEvent(event);
@@ -190,8 +185,13 @@ void CommandClickableButton::mousePressEvent(QMouseEvent* event)
 void CommandClickableButton::mouseMoveEvent(QMouseEvent* event)
 {
     // Leaving the cell cancels the click, even if the pointer comes back.
-    if (isDown() && !hitButton(event->position().toPoint()))
+    const bool isInside = hitButton(event->position().toPoint());
+    if (isDown() && !isInside)
         setDown(false);
+    // Not when the pointer enters: under Wayland that is also said of a pointer that was there before a menu opened,
+    // and nothing says that it has gone.
+    if (isInside)
+        setHovered(true);
 }
 
 void CommandClickableButton::mouseReleaseEvent(QMouseEvent* event)
