@@ -18,6 +18,8 @@ public:
     [[nodiscard]] bool isEnabled() const { return m_item.isEnabled(); }
     /// A failure is only logged; isEnabled() returns what the system has made of it.
     void setEnabled(bool isEnabled);
+    /// Calls this after the state may have changed, as long as the owner exists.
+    void watch(QObject& owner, const std::function<void()>& changed) { m_item.watch(owner, changed); }
 
 Q_SIGNALS:
     void willChange();

@@ -39,6 +39,27 @@ TEST(LaunchAtLoginTest, isReadFromTheFileAsTheDesktopReadsIt)
     EXPECT_THROW(nowhere.registerItem(), PlatformError);
 }
 
+TEST(LaunchAtLoginTest, whatOthersDoToTheFileIsNoticedEvenIfThereIsNoFolderYet)
+{
+    const QTemporaryDir folder;
+    AutostartEntry entry(folder.filePath(u"new"_s), {u"pellory"_s});
+    QFile file(folder.filePath(u"new/autostart/io.github.pellory.Pellory.desktop"_s));
+    QObject owner;
+    bool isNoticed = false;
+    entry.watch(owner, [&] { isNoticed = true; });
+    const std::function<void()> changes[]{
+        [&] { entry.registerItem(); },
+        [&] { EXPECT_TRUE(file.open(QFile::Append) && file.write("Hidden=true\n") > 0), file.close(); },
+        [&] { EXPECT_TRUE(file.rename(folder.filePath(u"elsewhere"_s))); },
+        [&] { EXPECT_TRUE(QDir(folder.filePath(u"new"_s)).removeRecursively()); },
+        [&] { entry.registerItem(); },
+    };
+    for (const auto& change : changes) {
+        change();
+        EXPECT_TRUE(eventually([&] { return std::exchange(isNoticed, false); })) << &change - changes;
+    }
+}
+
 TEST(SingleInstanceTest, handsOverToTheFirstOneUnlessItIsDead)
 {
     qputenv("XDG_ACTIVATION_TOKEN", "token");

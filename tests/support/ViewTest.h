@@ -19,6 +19,7 @@ public:
 class FakeLoginItem : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override { return enabled; }
+    void watch(QObject& /*owner*/, const std::function<void()>& whenChanged) override { changed = whenChanged; }
     void registerItem() override { enabled = true; }
     void unregisterItem() override
     {
@@ -27,6 +28,7 @@ public:
         enabled = false;
     }
 
+    std::function<void()> changed;
     bool enabled = false;
     bool isBroken = false;
 };

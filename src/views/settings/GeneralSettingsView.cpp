@@ -27,11 +27,11 @@ Switch* addSwitch(QVBoxLayout& column, const QString& text, const QString& help 
 
 void bindLaunchAtLogin(Switch* toggle, LaunchAtLogin& launchAtLogin)
 {
-    toggle->setChecked(launchAtLogin.isEnabled());
+    const auto refresh = [&launchAtLogin, toggle] { toggle->setChecked(launchAtLogin.isEnabled()); };
+    refresh();
+    launchAtLogin.watch(*toggle, refresh);
     // A change is announced before it is made, and can fail. The switch shows what the system says afterwards.
-    QObject::connect(
-        &launchAtLogin, &LaunchAtLogin::willChange, toggle,
-        [&launchAtLogin, toggle] { toggle->setChecked(launchAtLogin.isEnabled()); }, Qt::QueuedConnection);
+    QObject::connect(&launchAtLogin, &LaunchAtLogin::willChange, toggle, refresh, Qt::QueuedConnection);
     QObject::connect(toggle, &QAbstractButton::toggled, &launchAtLogin, [&launchAtLogin](bool on) {
         if (on != launchAtLogin.isEnabled())
             launchAtLogin.setEnabled(on);

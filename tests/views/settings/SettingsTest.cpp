@@ -180,3 +180,6 @@ TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
     click(login);
     EXPECT_TRUE(eventually([&] { return login.isChecked(); })) << "it shows what is, not what was asked for";
 }
+    loginItem.enabled = false; // by another program
+    loginItem.changed();
+    EXPECT_FALSE(login.isChecked());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AutostartEntry.h"
 
+#include "PathWatch.h"
 #include "PlatformError.h"
 
 #include <QCoreApplication>
@@ -58,6 +59,12 @@ bool AutostartEntry::isEnabled() const
         hasGroup = hasGroup || isInGroup;
     }
     return hasGroup;
+}
+
+void AutostartEntry::watch(QObject& owner, const std::function<void()>& changed)
+{
+    auto* watch = new PathWatch(QFile::encodeName(m_folder), &owner);
+    QObject::connect(watch, &PathWatch::changed, &owner, changed);
 }
 
 void AutostartEntry::registerItem()

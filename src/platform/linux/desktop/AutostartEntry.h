@@ -22,6 +22,7 @@ public:
 
     /// Also false if a desktop has disabled the entry, which leaves the file in place.
     [[nodiscard]] bool isEnabled() const override;
+    void watch(QObject& owner, const std::function<void()>& changed) override;
     void registerItem() override;
     void unregisterItem() override;
 

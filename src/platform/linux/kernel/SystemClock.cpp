@@ -38,7 +38,7 @@ SystemClock::SystemClock(const char* timeZoneLink)
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &SystemClock::handleTimer);
-    connect(&m_timeZone, &LinkWatch::changed, this, &SystemClock::beginDay);
+    connect(&m_timeZone, &PathWatch::changed, this, &SystemClock::beginDay);
     sleepUntilMidnight();
 }
 

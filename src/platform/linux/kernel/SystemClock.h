@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Clock.h"
-#include "LinkWatch.h"
+#include "PathWatch.h"
 
 #include <memory>
 
@@ -27,5 +27,5 @@ private:
 
     int m_timer = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    LinkWatch m_timeZone;
+    PathWatch m_timeZone;
 };
