@@ -837,6 +837,10 @@
         <source>Wi-Fi disabled. Turn on Wi-Fi in MacOS to allow scanning.</source>
         <translation>Das WLAN ist aus. Für die Suche bitte das WLAN einschalten.</translation>
     </message>
+    <message>
+        <source>Minutes must be a whole number between %L1 and %L2</source>
+        <translation>Die Minuten müssen eine ganze Zahl zwischen %L1 und %L2 sein</translation>
+    </message>
 </context>
 <context>
     <name>StateGestures</name>

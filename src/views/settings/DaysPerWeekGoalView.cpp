@@ -32,7 +32,6 @@ DaysPerWeekGoalView::DaysPerWeekGoalView(AppSettings& settings, bool headerEnabl
 {
     build(headerEnabled);
     m_error->hide();
-    m_daysPerWeekGoalChangeError->hide();
     follow(settings.daysPerWeekGoals, this, [this] { showGoals(); });
 }
 
@@ -49,6 +48,8 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     m_table->setHorizontalSpacing(8);
     m_table->setVerticalSpacing(6);
     m_table->setColumnStretch(1, 1);
+    // Without goals too, or the headings would move with the first.
+    m_table->setColumnMinimumWidth(0, m_stringValue->sizeHint().width());
     m_table->addWidget(labels::singleLine(labels::dim(tr("Days Per Week Goal"))), 0, 0);
     m_table->addWidget(labels::dim(tr("Description")), 0, 1);
     column->addLayout(m_table);
@@ -63,6 +64,7 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     column->addSpacing(6);
     column->addLayout(entry);
     column->addWidget(m_error);
+    connect(m_stringValue, &QLineEdit::textChanged, m_error, &QWidget::hide);
 }
 
 void DaysPerWeekGoalView::showGoals()
@@ -86,11 +88,17 @@ void DaysPerWeekGoalView::showGoals()
         }
     }
     m_empty->setVisible(goals.isEmpty());
+    showRefusal();
 }
 
 std::array<QWidget*, 3> DaysPerWeekGoalView::Row::controls() const
 {
     return {daysPerWeek, description, remove};
+}
+
+bool DaysPerWeekGoalView::Row::isRefused() const
+{
+    return daysPerWeek->isModified() && !Goal::acceptedText(daysPerWeek->text());
 }
 
 DaysPerWeekGoalView::Row DaysPerWeekGoalView::makeRow(const std::shared_ptr<Goal>& goal)
@@ -124,17 +132,22 @@ void DaysPerWeekGoalView::bind(const Row& row)
         if (row.description->text() != row.goal->desc)
             row.description->setText(row.goal->desc);
     });
-    connect(days, &QLineEdit::textEdited, this,
-            [this](const QString& text) { m_daysPerWeekGoalChangeError->setVisible(!Goal::acceptedText(text)); });
-    // Not while typing: "75" begins with a number that would be accepted.
+    connect(days, &QLineEdit::textChanged, this, &DaysPerWeekGoalView::showRefusal);
+    // Not while typing: "75" begins with a number that would be accepted. What is refused stays, with the message.
     connect(days, &QLineEdit::editingFinished, days, [row] {
-        const auto accepted = Goal::acceptedText(row.daysPerWeek->text());
-        if (accepted && row.daysPerWeek->isModified())
-            row.goal->wantedDaysPerWeek = *accepted;
+        if (row.isRefused())
+            return;
+        if (row.daysPerWeek->isModified())
+            row.goal->wantedDaysPerWeek = *Goal::acceptedText(row.daysPerWeek->text());
         row.daysPerWeek->setText(row.goal->wantedDaysPerWeek);
     });
     connect(description, &QLineEdit::textEdited, this, [row](const QString& text) { row.goal->desc = text; });
     connect(remove, &QAbstractButton::clicked, this, [this, row] { this->remove(*row.goal); });
+}
+
+void DaysPerWeekGoalView::showRefusal()
+{
+    m_daysPerWeekGoalChangeError->setVisible(std::ranges::any_of(m_rows, &Row::isRefused));
 }
 
 void DaysPerWeekGoalView::remove(const Goal& goal)
@@ -143,7 +156,6 @@ void DaysPerWeekGoalView::remove(const Goal& goal)
     const auto place = row - m_rows.begin();
     const bool hadFocus = std::ranges::any_of(row->controls(), &QWidget::hasFocus);
     m_settings.removeGoal(goal);
-    m_daysPerWeekGoalChangeError->hide();
     // For people who use the keyboard.
     if (hadFocus && m_rows.isEmpty())
         m_stringValue->setFocus(Qt::TabFocusReason);

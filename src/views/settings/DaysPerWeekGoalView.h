@@ -28,6 +28,8 @@ private:
         IconButton* remove;
 
         [[nodiscard]] std::array<QWidget*, 3> controls() const;
+        /// Whether the text is one that was typed and is not accepted.
+        [[nodiscard]] bool isRefused() const;
     };
 
     void build(bool headerEnabled);
@@ -35,6 +37,7 @@ private:
     [[nodiscard]] Row makeRow(const std::shared_ptr<Goal>& goal);
     void place(const Row& row, int place);
     void bind(const Row& row);
+    void showRefusal();
     void remove(const Goal& goal);
     bool addGoal(const QString& text);
 

@@ -36,6 +36,14 @@ QHBoxLayout* headingRow(const QString& text, QWidget* button)
     return row;
 }
 
+std::optional<qint64> acceptedMinutes(const QString& text)
+{
+    bool isNumber = false;
+    const qint64 minutes = QLocale().toLongLong(text, &isNumber);
+    return isNumber && minutes >= shortestInterval && minutes <= longestInterval ? std::optional(minutes)
+                                                                                 : std::nullopt;
+}
+
 QStringList sortedNames(const QList<WiFiNetwork>& networks)
 {
     QStringList names;
@@ -113,11 +121,18 @@ void SsidSettingsView::addInterval(QVBoxLayout& column)
         if (!field->hasFocus())
             field->setText(QLocale().toString(minutes.value()));
     });
+    auto* refusal = labels::error(
+        tr("Minutes must be a whole number between %L1 and %L2").arg(shortestInterval).arg(longestInterval));
+    refusal->hide();
+    connect(field, &QLineEdit::textChanged, refusal, [field, refusal](const QString& text) {
+        refusal->setVisible(field->isModified() && !acceptedMinutes(text));
+    });
+    // What is refused stays, with the message.
     connect(field, &QLineEdit::editingFinished, field, [field, &minutes] {
-        bool isNumber = false;
-        const qint64 number = QLocale().toLongLong(field->text(), &isNumber);
-        if (isNumber && number >= shortestInterval && number <= longestInterval)
-            minutes = number;
+        const auto accepted = acceptedMinutes(field->text());
+        if (!accepted)
+            return;
+        minutes = *accepted;
         field->setText(QLocale().toString(minutes.value()));
     });
 
@@ -128,6 +143,7 @@ void SsidSettingsView::addInterval(QVBoxLayout& column)
     row->addWidget(labels::singleLine(labels::text(tr("minutes"))));
     row->addStretch();
     column.addLayout(row);
+    column.addWidget(refusal);
     column.addWidget(labels::dim(tr("If any of these networks are in range, you will be counted as in-office.")));
 }
 

@@ -65,8 +65,15 @@ TEST_F(SettingsTest, aGoalIsAddedByReturnAndByTheButton)
         EXPECT_EQ(goals(), expected) << qPrintable(typed);
         EXPECT_EQ(entry.text(), isReturn && !isRefused ? QString() : typed);
         EXPECT_EQ(isShown(u"Input must be a number between 0.0 and 7.0"_s), isRefused) << qPrintable(typed);
+        type(entry, u"0"_s); // which is not refused yet
+        EXPECT_FALSE(isShown(u"Input must be a number between 0.0 and 7.0"_s));
     }
+    const auto labels = view.findChildren<QLabel*>();
+    const QLabel& heading = **std::ranges::find(labels, u"Description"_s, &QLabel::text);
+    const QPoint place = heading.mapTo(&view, QPoint());
     settings->daysPerWeekGoals = AppSettings::Goals();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heading.mapTo(&view, QPoint()).x(), place.x());
     EXPECT_TRUE(isShown(u"No \"days in office per week\" goals"_s));
 }
 
@@ -78,18 +85,22 @@ TEST_F(SettingsTest, aGoalIsEditedInItsPlaceAndRemoved)
     // What is typed, whether it is refused, and what stands there when the field is left. Only an addition sorts.
     const std::tuple<QString, bool, QString> rows[]{
         {u"1.5"_s, false, u"1.50"_s}, {u"9"_s, true, u"1.50"_s}, {u"7"_s, false, u"7.00"_s}};
+    const auto isRefusalShown = [&] { return isShown(u"Days Per Week must be a number between 0.0 and 7.0"_s); };
     for (const auto& [typed, isRefused, kept] : rows) {
         type(days, typed);
         EXPECT_EQ(days.text(), typed);
-        EXPECT_EQ(isShown(u"Days Per Week must be a number between 0.0 and 7.0"_s), isRefused);
+        EXPECT_EQ(isRefusalShown(), isRefused);
         type(description, u"all of it"_s);
-        EXPECT_EQ(days.text(), kept);
+        EXPECT_EQ(days.text(), isRefused ? typed : kept);
+        EXPECT_EQ(isRefusalShown(), isRefused);
         EXPECT_EQ(goals(), (QStringList{kept + u"|not fired"_s, u"4.00|all of it"_s}));
     }
+    type(days, u"8"_s);
     auto& removal = called<IconButton>(u"Remove the goal 7.00"_s);
     removal.setFocus();
     QTest::keyClick(&removal, Qt::Key_Return);
     EXPECT_EQ(goals(), QStringList(u"4.00|all of it"_s));
+    EXPECT_FALSE(isRefusalShown()) << "its field has gone";
     EXPECT_EQ(view.focusWidget()->accessibleName(), u"Remove the goal 4.00"_s);
 }
 
@@ -149,11 +160,13 @@ TEST_F(SettingsTest, whatTrackingLacksIsSaid)
     EXPECT_CALL(systemSettings, openLocationSettings);
     Q_EMIT named<QLabel>(view, "location").linkActivated({});
     auto& minutes = called<QLineEdit>(u"Check Every (mins)"_s);
-    for (const auto& [typed, kept] : {std::pair(u"1440"_s, 1440), {u"1441"_s, 1440}, {u"0"_s, 1440}, {u"1"_s, 1}}) {
+    for (const auto& [typed, kept] : {std::pair(u"1440"_s, 1440), {u"1441"_s, 1440}, {u"0"_s, 1440}, {u"01"_s, 1}}) {
         type(minutes, typed);
         view.findChild<Switch*>()->setFocus();
         EXPECT_EQ(settings->checkEveryInMinutes, kept) << qPrintable(typed);
-        EXPECT_EQ(minutes.text(), QString::number(kept));
+        const bool isRefused = typed.toInt() != kept;
+        EXPECT_EQ(minutes.text(), isRefused ? typed : QString::number(kept));
+        EXPECT_EQ(isShown(u"Minutes must be a whole number between 1 and 1440"_s), isRefused);
     }
 }
 
@@ -179,7 +192,7 @@ TEST_F(SettingsTest, generalSwitchesAreTheRecordsAndTheSystems)
     loginItem.isBroken = true;
     click(login);
     EXPECT_TRUE(eventually([&] { return login.isChecked(); })) << "it shows what is, not what was asked for";
-}
     loginItem.enabled = false; // by another program
     loginItem.changed();
     EXPECT_FALSE(login.isChecked());
+}
