@@ -7,12 +7,15 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
 constexpr QMargins buttonPadding(16, 7, 16, 7);
 constexpr qreal buttonRadius = 8.0;
 constexpr int buttonRingMargin = 3;
+constexpr int usualButtonSymbolSize = 14;
+constexpr int buttonSymbolGap = 6;
 
 } // namespace
 
@@ -32,9 +35,22 @@ void Button::setProminent(bool prominent)
     update();
 }
 
+void Button::setSymbol(std::optional<Symbol> symbol)
+{
+    m_symbol = symbol;
+    updateGeometry();
+    update();
+}
+
+int Button::symbolRoom() const
+{
+    return m_symbol ? fonts::grown(usualButtonSymbolSize, font()) + buttonSymbolGap : 0;
+}
+
 QSize Button::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextShowMnemonic, text()).grownBy(buttonPadding + buttonRingMargin);
+    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
+    return words.grownBy(buttonPadding + buttonRingMargin).grownBy({symbolRoom(), 0, 0, 0});
 }
 
 void Button::focusInEvent(QFocusEvent* event)
@@ -64,6 +80,19 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     painter.setBrush(face);
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), buttonRadius, buttonRadius);
     painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.dimText);
-    painter.drawText(area, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    paintLabel(painter, area.toRect());
     m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius + 2);
+}
+
+void Button::paintLabel(QPainter& painter, const QRect& area) const
+{
+    const int room = symbolRoom();
+    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
+    const QRect whole = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, words.grownBy({room, 0, 0, 0}), area);
+    painter.drawText(QStyle::visualRect(layoutDirection(), whole, whole.adjusted(room, 0, 0, 0)),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    const QSize symbol(room - buttonSymbolGap, room - buttonSymbolGap);
+    if (m_symbol)
+        drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, whole),
+                   *m_symbol, painter.pen().color());
 }

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "FocusVisible.h"
+#include "Symbol.h"
 
 #include <QPushButton>
+
+#include <optional>
 
 /// A push button in the program's look. Default and prominent buttons are filled.
 class Button : public QPushButton {
@@ -13,6 +16,8 @@ public:
     explicit Button(const QString& text, QWidget* parent = nullptr);
 
     void setProminent(bool prominent);
+    /// Draws a symbol before the text, or none.
+    void setSymbol(std::optional<Symbol> symbol);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -23,6 +28,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintLabel(QPainter& painter, const QRect& area) const;
+    /// The width of the symbol and its distance from the text.
+    [[nodiscard]] int symbolRoom() const;
+
+    std::optional<Symbol> m_symbol;
     bool m_prominent = false;
     FocusVisible m_focusVisible;
 };

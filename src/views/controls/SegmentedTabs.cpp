@@ -5,12 +5,15 @@
 #include "Theme.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <QWheelEvent>
 
 namespace {
 
 constexpr qreal segmentRadius = 7.0;
 constexpr int segmentGap = 3;
+constexpr int usualTabSymbolSize = 16;
+constexpr int tabSymbolGap = 6;
 
 QFont selectedFont(const QWidget& tabs)
 {
@@ -32,12 +35,24 @@ SegmentedTabs::SegmentedTabs(QWidget* parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+void SegmentedTabs::addTab(Symbol symbol, const QString& text)
+{
+    const int index = addTab(QString());
+    setTabData(index, static_cast<int>(symbol));
+    setTabText(index, text); // which also measures the tab
+}
+
+int SegmentedTabs::symbolRoom(int index) const
+{
+    return tabData(index).isValid() ? fonts::grown(usualTabSymbolSize, font()) + tabSymbolGap : 0;
+}
+
 QSize SegmentedTabs::tabSizeHint(int /*index*/) const
 {
     QSize widest;
     const QFontMetrics metrics(selectedFont(*this));
     for (int i = 0; i < count(); ++i)
-        widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)));
+        widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)).grownBy({symbolRoom(i), 0, 0, 0}));
     return widest.grownBy({22, 8, 22, 8});
 }
 
@@ -72,8 +87,22 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
         painter.setFont(isCurrent ? selectedFont(*this) : font());
-        painter.drawText(segment, Qt::AlignCenter | Qt::TextShowMnemonic, tabText(i));
+        paintTab(painter, i, segment.toRect());
     }
+}
+
+void SegmentedTabs::paintTab(QPainter& painter, int index, const QRect& segment) const
+{
+    const int room = symbolRoom(index);
+    const QSize text = painter.fontMetrics().size(Qt::TextShowMnemonic, tabText(index));
+    const QRect whole = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, text.grownBy({room, 0, 0, 0}), segment);
+    painter.drawText(QStyle::visualRect(layoutDirection(), whole, whole.adjusted(room, 0, 0, 0)),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, tabText(index));
+    if (room == 0)
+        return;
+    const QSize symbol(room - tabSymbolGap, room - tabSymbolGap);
+    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, whole),
+               Symbol(tabData(index).toInt()), painter.pen().color());
 }
 
 void SegmentedTabs::wheelEvent(QWheelEvent* event)

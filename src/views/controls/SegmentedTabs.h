@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FocusVisible.h"
+#include "Symbol.h"
 
 #include <QTabBar>
 
@@ -12,6 +13,10 @@ class SegmentedTabs : public QTabBar {
 public:
     explicit SegmentedTabs(QWidget* parent = nullptr);
 
+    using QTabBar::addTab;
+    /// Adds a tab with a symbol before the text.
+    void addTab(Symbol symbol, const QString& text);
+
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
     void focusInEvent(QFocusEvent* event) override;
@@ -21,5 +26,9 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void paintTab(QPainter& painter, int index, const QRect& segment) const;
+    /// The width of the symbol of a tab and its distance from the text.
+    [[nodiscard]] int symbolRoom(int index) const;
+
     FocusVisible m_focusVisible;
 };

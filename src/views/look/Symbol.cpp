@@ -74,6 +74,26 @@ QPainterPath questionMark()
     return path;
 }
 
+QPainterPath calendar()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(2.0, 3.2, 12.0, 10.8), 2.0, 2.0);
+    path.addPath(line({{2.0, 6.8}, {14.0, 6.8}}));
+    path.addPath(line({{5.2, 1.6}, {5.2, 4.4}}));
+    path.addPath(line({{10.8, 1.6}, {10.8, 4.4}}));
+    return path;
+}
+
+QPainterPath arrowClockwise()
+{
+    constexpr QRectF circle(2.7, 2.7, 10.6, 10.6);
+    QPainterPath path;
+    path.arcMoveTo(circle, 30.0);
+    path.arcTo(circle, 30.0, 300.0);
+    path.addPath(line({{12.6, 1.8}, {12.6, 5.4}, {9.0, 5.4}}));
+    return path;
+}
+
 // An arrow pointer with rays at its tip.
 QPainterPath click()
 {
@@ -137,6 +157,10 @@ QPainterPath strokesOf(Symbol symbol)
         return circled(line({{5.0, 8.2}, {7.2, 10.4}, {11.0, 5.8}}));
     case Symbol::Tick:
         return line({{3.0, 8.6}, {6.4, 12.0}, {13.0, 4.6}});
+    case Symbol::Calendar:
+        return calendar();
+    case Symbol::ArrowClockwise:
+        return arrowClockwise();
     case Symbol::Click:
         return click();
     case Symbol::RightClick:

@@ -18,6 +18,8 @@ enum class Symbol {
     Cross,
     Check,
     Tick,
+    Calendar,
+    ArrowClockwise,
     Click,
     RightClick,
     Keyboard,

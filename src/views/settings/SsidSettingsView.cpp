@@ -195,6 +195,7 @@ void SsidSettingsView::refresh()
     m_selected->setNetworks(m_settings.inOfficeSsids, tr("No networks selected"));
     m_inRange->setNetworks(m_isScanning ? QStringList() : m_wifiNetworks, emptyListText());
     m_scan->setText(m_isScanning ? tr("Scanning...") : tr("Scan"));
+    m_scan->setSymbol(m_isScanning ? std::nullopt : std::optional(Symbol::ArrowClockwise));
     enableScan(!m_isScanning && isGranted);
 }
 

@@ -73,8 +73,8 @@ QWidget* ContentView::makeHeader()
 {
     m_tabs->setObjectName("tabs"_L1);
     m_tabs->setAccessibleName(tr("View"));
-    m_tabs->addTab(tr("Month"));
-    m_tabs->addTab(tr("Quarter"));
+    m_tabs->addTab(Symbol::Calendar, tr("Month"));
+    m_tabs->addTab(Symbol::Calendar, tr("Quarter"));
     auto* header = new Bar(Qt::BottomEdge);
     auto* toolbar = new QHBoxLayout;
     auto* row = new QGridLayout(header);

@@ -9,9 +9,9 @@ class LazyStack;
 class LocationAlert;
 class QDate;
 class QHBoxLayout;
-class QTabBar;
 class QVBoxLayout;
 class SaveAlert;
+class SegmentedTabs;
 class TrackingStatus;
 struct ViewParts;
 enum class WindowId;
@@ -63,6 +63,8 @@ private:
     SaveAlert* m_saveAlert = nullptr;
     AlertCard* m_setUpAlert = nullptr;
     QTabBar* m_tabs;
+
+    SegmentedTabs* m_tabs;
     LazyStack* m_pages;
     bool m_painted = false;
 };
