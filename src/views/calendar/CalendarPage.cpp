@@ -61,7 +61,7 @@ void CalendarPage::connectNavigation(NavigationRow& navigation)
     connect(m_navigation, &NavigationRow::nextRequested, this, [this] { next(Qt::MouseFocusReason); });
     connect(m_navigation, &NavigationRow::todayRequested, this, [this] {
         // The link is about to be hidden.
-        showToday(m_navigation->todayLink()->hasFocus() ? Qt::TabFocusReason : Qt::MouseFocusReason);
+        showToday(m_navigation->todayLink()->hasFocus() ? Qt::TabFocusReason : Qt::OtherFocusReason);
     });
 }
 
@@ -106,14 +106,22 @@ void CalendarPage::showDay(QDate date, Qt::FocusReason reason)
         showPeriod({date.year(), date.month()});
     if (m_contents->isHidden())
         return;
-    m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)
-        ->calendar()
-        .focusDay(date.day(), reason);
+    calendarOf(date).focusDay(date.day(), reason);
 }
 
 void CalendarPage::showToday(Qt::FocusReason reason)
 {
     showDay(m_today, reason);
+}
+
+void CalendarPage::focusCurrentDay(Qt::FocusReason reason)
+{
+    if (m_contents->isHidden())
+        return;
+    const auto last = std::ranges::find_if(m_cards, [this](auto* card) { return card->isAncestorOf(focusWidget()); });
+    const QDate day = isShown(m_today) ? m_today : QDate(m_month.year, m_month.month, 1);
+    CalendarView& calendar = last == m_cards.end() ? calendarOf(day) : (*last)->calendar();
+    calendar.focusCurrentDay(reason);
 }
 
 void CalendarPage::keyPressEvent(QKeyEvent* event)
@@ -153,6 +161,11 @@ bool CalendarPage::isShown(QDate date) const
 {
     const YearMonth month{date.year(), date.month()};
     return isQuarter() ? month.quarter() == m_month.quarter() : month == m_month;
+}
+
+CalendarView& CalendarPage::calendarOf(QDate date) const
+{
+    return m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)->calendar();
 }
 
 CalendarView* CalendarPage::focusedCalendar() const

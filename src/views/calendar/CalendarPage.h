@@ -37,6 +37,8 @@ public:
     /// Turns to a day and gives it the focus. A day outside the calendar is ignored.
     void showDay(QDate date, Qt::FocusReason reason = Qt::TabFocusReason);
     void showToday(Qt::FocusReason reason);
+    /// Gives the focus to the day that had it last, or to today, or else to the first. Without days nothing gets it.
+    void focusCurrentDay(Qt::FocusReason reason);
 
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
@@ -60,6 +62,8 @@ private:
     [[nodiscard]] std::optional<YearMonth> monthAfter() const;
     [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
     [[nodiscard]] bool isShown(QDate date) const;
+    /// The grid of a day that is shown.
+    [[nodiscard]] CalendarView& calendarOf(QDate date) const;
     [[nodiscard]] CalendarView* focusedCalendar() const;
     void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
     void followToday();

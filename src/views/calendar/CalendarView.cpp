@@ -144,6 +144,11 @@ void CalendarView::focusDay(int dayOfMonth, Qt::FocusReason reason)
     m_cells[static_cast<std::size_t>(*index)]->setFocus(reason);
 }
 
+void CalendarView::focusCurrentDay(Qt::FocusReason reason)
+{
+    m_tabStop->setFocus(reason);
+}
+
 QString CalendarView::title(QDate today) const
 {
     if (m_month->year == today.year())

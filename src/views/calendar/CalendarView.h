@@ -28,6 +28,8 @@ public:
     [[nodiscard]] Month* month() const { return m_month.get(); }
     /// Gives a day the keyboard focus. Past the end of the month this is the last day.
     void focusDay(int dayOfMonth, Qt::FocusReason reason = Qt::TabFocusReason);
+    /// Gives the focus to the day that Tab would reach: the one that had it last, at first today.
+    void focusCurrentDay(Qt::FocusReason reason);
     /// The day that has the keyboard focus, 0 if none has.
     [[nodiscard]] int focusedDay() const;
 

@@ -5,6 +5,7 @@
 #include "ThinScrollBarStyle.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -22,13 +23,13 @@ Page::Page(QWidget* contents, QWidget* parent)
     }
     // The controls on the page take the focus, not the page.
     setFocusPolicy(Qt::NoFocus);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) { scrollToFocused(now); });
+    qApp->installEventFilter(this);
 }
 
 Page::~Page()
 {
     // The focus changes while the contents are being destroyed, when this is only a QWidget any more.
-    disconnect(qApp, nullptr, this, nullptr);
+    qApp->removeEventFilter(this);
 }
 
 QSize Page::minimumSizeHint() const
@@ -38,11 +39,15 @@ QSize Page::minimumSizeHint() const
     return {least.width(), qMin(least.height(), leastHeight)};
 }
 
-void Page::scrollToFocused(QWidget* focused)
+bool Page::eventFilter(QObject* watched, QEvent* event)
 {
-    // Scrolling under a pressed mouse button would turn the click into a drag.
-    if (isAncestorOf(focused) && QApplication::mouseButtons() == Qt::NoButton)
-        ensureWidgetVisible(focused);
+    if (event->type() == QEvent::FocusIn && watched->isWidgetType()) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        // For people who use the mouse, nothing moves. A window that becomes active stays as it was left.
+        if (reason != Qt::MouseFocusReason && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            ensureWidgetVisible(static_cast<QWidget*>(watched));
+    }
+    return QScrollArea::eventFilter(watched, event);
 }
 
 Page* makeCardPage(QWidget* contents)

@@ -3,7 +3,7 @@
 
 #include <QScrollArea>
 
-/// A scroll area that keeps the focused control in view. Its scroll bars take no room from the contents.
+/// A scroll area that keeps in view what the keyboard reaches. Its scroll bars take no room from the contents.
 class Page : public QScrollArea {
     Q_OBJECT
 
@@ -15,8 +15,8 @@ public:
     /// As wide as the contents need, so that a window of this width never scrolls sideways.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
-private:
-    void scrollToFocused(QWidget* focused);
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 /// A page with the contents on a card.

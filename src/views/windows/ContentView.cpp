@@ -67,6 +67,8 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
     connect(m_tabs, &QTabBar::currentChanged, this, &ContentView::showTab);
+    // So that the first key finds a day.
+    page().focusCurrentDay(Qt::OtherFocusReason);
 }
 
 QWidget* ContentView::makeHeader()
@@ -141,7 +143,7 @@ void ContentView::addShortcuts()
 {
     for (int tab = 0; tab < m_tabs->count(); ++tab) {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + tab)), this);
-        connect(shortcut, &QShortcut::activated, m_tabs, [this, tab] { m_tabs->setCurrentIndex(tab); });
+        connect(shortcut, &QShortcut::activated, this, [this, tab] { focusTab(tab); });
     }
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
     const auto add = [this](QKeyCombination keys, void (CalendarPage::*turn)(Qt::FocusReason)) {
@@ -196,20 +198,46 @@ CalendarPage& ContentView::page() const
 void ContentView::showDay(QDate date)
 {
     page().showDay(date);
+    scrollToFocus();
 }
 
 void ContentView::showToday()
 {
     page().showToday(Qt::OtherFocusReason);
+    scrollToFocus();
+}
+
+void ContentView::scrollToFocus()
+{
+    // A page notices the focus by itself, but only in an active window, and before its first layout does not know where
+    // the focus is.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (focusWidget() != nullptr)
+                static_cast<Page*>(m_pages->currentWidget())->ensureWidgetVisible(focusWidget());
+        },
+        Qt::QueuedConnection);
 }
 
 void ContentView::showTab(int index)
 {
     m_parts.viewSettings.selectedTab = index + firstTab;
     // A hidden page would pass the focus, and with it a ring, to the first control of the other.
-    if (m_pages->isAncestorOf(focusWidget()))
-        m_tabs->setFocus(Qt::OtherFocusReason);
+    const bool hadFocus = m_pages->isAncestorOf(focusWidget());
+    if (hadFocus)
+        m_pages->setFocus(Qt::OtherFocusReason);
     m_pages->showPage(index);
+    if (hadFocus)
+        page().focusCurrentDay(Qt::MouseFocusReason);
+}
+
+void ContentView::focusTab(int index)
+{
+    m_pages->setFocus(Qt::OtherFocusReason); // or a day that has the focus already would show no ring
+    m_tabs->setCurrentIndex(index);
+    page().focusCurrentDay(Qt::ShortcutFocusReason);
+    scrollToFocus();
 }
 
 bool ContentView::focusNextPrevChild(bool next)

@@ -54,6 +54,8 @@ private:
     void alertIfNeeded();
     void alertIfUnsaved();
     void showTab(int index);
+    void focusTab(int index);
+    void scrollToFocus();
     [[nodiscard]] CalendarPage& page() const;
 
     const ViewParts& m_parts;

@@ -20,12 +20,14 @@ TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
         viewSettings.selectedTab = before;
         ContentView window(parts);
         const QSignalSpy painted(&window, &ContentView::painted);
+        window.resize(540, 2400);
         show(window);
         EXPECT_TRUE(eventually([&] { return painted.size() == 1; }));
         EXPECT_EQ(window.findChildren<CalendarPage*>().size(), 1); // the other is built when it is shown
-        dayButton(window, 15).setFocus();
+        const auto today = u"Friday 20 November 2026, Unknown"_s;
+        EXPECT_EQ(window.focusWidget()->accessibleName(), today);
         press(window, isQuarter ? Qt::Key_1 : Qt::Key_2, Qt::ControlModifier);
-        EXPECT_EQ(window.focusWidget(), window.findChild<QTabBar*>());
+        EXPECT_EQ(window.focusWidget()->accessibleName(), today);
         EXPECT_EQ(stored.value("contentViewSelectedTab"), QVariant(isQuarter ? 1 : 2));
         auto& month = *window.findChild<MonthView*>();
         auto& quarter = *window.findChild<QuarterView*>();
@@ -60,6 +62,22 @@ TEST_F(ContentViewTest, theFocusedDayIsScrolledIntoSight)
         press(window, key);
         EXPECT_EQ(dayButton(window, day).visibleRegion().boundingRect(), dayButton(window, day).rect());
     }
+}
+
+TEST_F(ContentViewTest, thePageScrollsToTheFocusForTheKeyboardOnly)
+{
+    viewSettings.selectedTab = 2;
+    ContentView window(parts);
+    window.resize(540, 300);
+    show(window);
+    const QPoint place = inWindow(named<QWidget>(window, "next"));
+    for (const char* control : {"next", "previous"}) {
+        click(named<QWidget>(window, control));
+        EXPECT_EQ(inWindow(named<QWidget>(window, "next")), place);
+    }
+    press(window, Qt::Key_1, Qt::ControlModifier);
+    press(window, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(eventually([&] { return !window.focusWidget()->visibleRegion().isEmpty(); }));
 }
 
 TEST_F(ContentViewTest, theMonthsHaveEqualGapsAndNothingScrollsSideways)
