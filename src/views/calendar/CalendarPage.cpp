@@ -3,6 +3,7 @@
 
 #include "CalendarView.h"
 #include "Clock.h"
+#include "Labels.h"
 #include "LinkButton.h"
 #include "MonthCard.h"
 #include "NavigationRow.h"
@@ -38,7 +39,7 @@ CalendarPage::CalendarPage(ModelContext& context, const Clock& clock, QWidget* p
     , m_context(context)
     , m_clock(clock)
     , m_today(clock.today())
-    , m_error(new QLabel(tr("Error loading month!")))
+    , m_error(labels::announced(new QLabel(tr("Error loading month!"))))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
 {

@@ -10,6 +10,8 @@
 
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 AlertCard::AlertCard(QWidget* parent)
     : QWidget(parent)
     , m_title(labels::strong({}))
@@ -17,6 +19,7 @@ AlertCard::AlertCard(QWidget* parent)
     , m_buttons(new ButtonRow(Qt::AlignRight))
 {
     setAccessibleRole(*this, QAccessible::AlertMessage);
+    announceWhenShown(*this, [this] { return spokenText(); });
     auto* card = new Card;
     auto* around = new QVBoxLayout(this);
     around->setContentsMargins(24, 20, 24, 0);
@@ -32,9 +35,17 @@ AlertCard::AlertCard(QWidget* parent)
 
 void AlertCard::setTexts(const QString& title, const QString& message)
 {
+    const QString before = spokenText();
     setAccessibleName(title);
     m_title->setText(title);
     m_message->setText(message);
+    if (isVisible() && spokenText() != before)
+        announce(*this, spokenText());
+}
+
+QString AlertCard::spokenText() const
+{
+    return m_title->text() + u". "_s + m_message->text();
 }
 
 Button* AlertCard::addButton(const QString& name, const QString& text)

@@ -7,7 +7,7 @@ class Button;
 class ButtonRow;
 class QLabel;
 
-/// A card in a window that says what is wrong, and offers what can be done.
+/// A card in a window that says what is wrong, and offers what can be done. A screen reader says it when it appears.
 class AlertCard : public QWidget {
     Q_OBJECT
 
@@ -19,6 +19,8 @@ public:
     Button* addButton(const QString& name, const QString& text = {});
 
 private:
+    [[nodiscard]] QString spokenText() const;
+
     QLabel* m_title;
     QLabel* m_message;
     ButtonRow* m_buttons;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Accessibility.h"
 #include "Fonts.h"
 
 #include <QLabel>
@@ -24,9 +25,16 @@ namespace labels {
     return text(words, QPalette::PlaceholderText);
 }
 
+/// Makes a screen reader say the label when it appears.
+inline QLabel* announced(QLabel* label)
+{
+    announceWhenShown(*label, [label] { return label->text(); });
+    return label;
+}
+
 [[nodiscard]] inline QLabel* error(const QString& words)
 {
-    return text(words, QPalette::BrightText);
+    return announced(text(words, QPalette::BrightText));
 }
 
 [[nodiscard]] inline QLabel* strong(const QString& words)

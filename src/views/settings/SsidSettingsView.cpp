@@ -106,7 +106,7 @@ void SsidSettingsView::addTracking(QVBoxLayout& column, bool headerEnabled)
     column.addWidget(tracking);
     for (QLabel* warning : {m_wifiWarning, m_wifiAdvice, m_locationWarning}) {
         warning->setForegroundRole(QPalette::BrightText);
-        column.addWidget(warning);
+        column.addWidget(labels::announced(warning));
     }
 }
 

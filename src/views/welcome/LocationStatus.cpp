@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LocationStatus.h"
 
+#include "Accessibility.h"
 #include "Button.h"
 #include "ButtonRow.h"
 #include "Follow.h"
@@ -36,6 +37,8 @@ void LocationStatus::showStatus(AuthorizationStatus status)
     const bool isGranted = isAccessGranted(status);
     m_text->setText(isGranted ? tr("Location access: allowed. Pellory can see the names of networks.")
                               : tr("Location access: missing. Pellory cannot scan for networks."));
+    if (isVisible())
+        announce(*this, m_text->text());
     m_grant->setVisible(!isGranted);
     m_grant->setEnabled(status == AuthorizationStatus::notDetermined);
     m_open->setVisible(!isGranted);

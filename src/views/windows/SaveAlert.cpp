@@ -38,9 +38,10 @@ SaveAlert::SaveAlert(ModelContext& context, QWidget* parent)
 void SaveAlert::refresh()
 {
     const SaveState& state = m_context.saveState();
-    setVisible(!state.isFine());
-    if (state.isFine())
+    if (state.isFine()) {
+        hide();
         return;
+    }
     const bool isOurs = state.file == SaveState::File::Ours, isMissing = state.file == SaveState::File::Missing;
     setTexts(isOurs      ? tr("Changes Not Saved")
              : isMissing ? tr("Data File Missing")
@@ -49,6 +50,7 @@ void SaveAlert::refresh()
     m_retry->setVisible(isOurs);
     m_reload->setVisible(!isOurs && !isMissing);
     m_keep->setVisible(!isOurs);
+    show(); // announces the texts
 }
 
 QString SaveAlert::message(const ModelContext& context)
