@@ -21,9 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A column with a heading and an explanation.
+// A column with a heading and an explanation, which are what a screen reader says of the step.
 QVBoxLayout* makeColumn(QWidget* step, const QString& heading, const QString& words)
 {
+    step->setObjectName("step"_L1);
+    step->setAccessibleName(heading);
+    step->setAccessibleDescription(words);
     auto* column = new QVBoxLayout(step);
     column->setContentsMargins(32, 28, 32, 20);
     column->setSpacing(10);
@@ -119,7 +122,10 @@ QWidget* WelcomeSteps::makeSummary(const AppSettings& settings, const LaunchAtLo
     auto* lines = new QVBoxLayout(list);
     lines->setContentsMargins({});
     lines->setSpacing(8);
-    const auto add = [lines](const QString& line) { lines->addWidget(labels::text(line)); };
+    const auto add = [lines, step](const QString& line) {
+        lines->addWidget(labels::text(line));
+        step->setAccessibleDescription(step->accessibleDescription() + u' ' + line + u'.');
+    };
     QStringList goals;
     for (const auto& goal : settings.daysPerWeekGoals.value())
         goals.append(goal->wantedDaysPerWeek);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WelcomeView.h"
 
+#include "Accessibility.h"
 #include "Bar.h"
 #include "Button.h"
 #include "FocusOrder.h"
@@ -29,6 +30,7 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     , m_back(new Button(tr("Back")))
     , m_next(new Button({}))
 {
+    setAccessibleRole(*this, QAccessible::Dialog);
     setWindowTitle(tr("Welcome to Pellory"));
     setWindowModality(Qt::WindowModal);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -86,6 +88,16 @@ void WelcomeView::showStep(int step)
     m_skip->setEnabled(!isLast);
     m_next->setText(isLast ? tr("Done") : tr("Next"));
     m_next->setFocus(Qt::OtherFocusReason);
+    if (isVisible())
+        announceStep();
+}
+
+void WelcomeView::announceStep()
+{
+    // The focus stays on the button that leads on, which says nothing of the new step.
+    if (const auto* step = m_steps->currentWidget()->findChild<QWidget*>("step"_L1))
+        announce(*this,
+                 u"%1. %2. %3"_s.arg(m_dots->accessibleName(), step->accessibleName(), step->accessibleDescription()));
 }
 
 void WelcomeView::advance()

@@ -28,6 +28,7 @@ protected:
 private:
     [[nodiscard]] QWidget* makeFooter();
     void showStep(int step);
+    void announceStep();
     void advance();
 
     LazyStack* m_steps;
