@@ -183,7 +183,7 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
     cell.setTooltipText(description(day.state));
     //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
-    cell.setAccessibleName(tr("%1, %2", "date and state").arg(written, description(day.state)));
+    cell.setSpokenName(tr("%1, %2", "date and state").arg(written, description(day.state)));
 }
 
 int CalendarView::focusedDay() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandClickableButton.h"
 
+#include "Accessibility.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
 #include "ReturnKey.h"
@@ -40,11 +41,12 @@ CommandClickableButton::CommandClickableButton(Actions actions, const ViewSettin
     , m_actions(std::move(actions))
     , m_viewSettings(viewSettings)
 {
+    setAccessibleMenuButton(*this);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     setFont(fonts::body(font()));
     setMouseTracking(true);
     // Only assistive technology emits this; mouse and keys have modifiers and call run() themselves.
-    connect(this, &QAbstractButton::clicked, this, [this] { run(Qt::NoModifier); });
+    connect(this, &QAbstractButton::clicked, this, &CommandClickableButton::runWithFocus);
 }
 
 CommandClickableButton::~CommandClickableButton()
@@ -73,6 +75,21 @@ void CommandClickableButton::setTooltipText(const std::optional<QString>& text)
 {
     m_tooltipText = text;
     updateLabel();
+}
+
+void CommandClickableButton::setSpokenName(const QString& name)
+{
+    if (accessibleName() == name)
+        return;
+    setAccessibleName(name);
+    if (!hasFocus() || m_isFocusNew)
+        return;
+    const auto announceUnlessLeft = [this] {
+        // Another month gives all buttons new names, then moves the focus.
+        if (hasFocus())
+            announceNewName(*this);
+    };
+    QMetaObject::invokeMethod(this, announceUnlessLeft, Qt::QueuedConnection);
 }
 
 void CommandClickableButton::setRinged(bool ringed)
@@ -131,6 +148,14 @@ void CommandClickableButton::leaveEvent(QEvent* event)
 void CommandClickableButton::focusInEvent(QFocusEvent* event)
 {
     m_focusVisible.update(event->reason());
+    // A menu takes the focus from a screen reader, but not always from Qt, which is then silent about its return.
+    if (event->reason() == Qt::PopupFocusReason) {
+        QAccessibleEvent returned(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&returned);
+    }
+    m_isFocusNew = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_isFocusNew = false; }, Qt::QueuedConnection);
     QAbstractButton::focusInEvent(event);
 }
 
@@ -241,39 +266,45 @@ bool CommandClickableButton::isPress(const QKeyEvent& event) const
 {
     // After a click, Return is for the default button of the dialog.
     return event.key() == Qt::Key_Space || (isReturn(event) && m_focusVisible);
-}
 
-void CommandClickableButton::requestMenu()
-{
-    setHovered(false); // the menu takes the pointer
-    Q_EMIT menuRequested();
-}
-
-void CommandClickableButton::setHovered(bool inside)
-{
-    if (m_viewSettings.showStatusLabelOnHover)
-        setShowTooltip(inside);
-}
-
-void CommandClickableButton::setShowTooltip(bool show)
-{
-    if (show && m_tooltipText && !m_label) {
-        m_label = new HoverLabel(this, numberArea(), labelStyle);
-        updateLabel();
-    } else if (!show && m_label) {
-        m_label->dismiss();
-        m_label.clear();
+    void CommandClickableButton::runWithFocus()
+    {
+        run(Qt::NoModifier);
+        setFocus(Qt::OtherFocusReason); // so that the new state is said
     }
-}
 
-void CommandClickableButton::updateLabel()
-{
-    if (!m_label || !m_tooltipText)
-        return;
-    HoverLabel::Mark mark;
-    if (m_state != DayState::UNKNOWN)
-        mark = [state = m_state](QPainter& painter, const QRectF& area) {
-            drawStateMark(painter, area, state, Qt::white);
-        };
-    m_label->setText(*m_tooltipText, mark);
-}
+    void CommandClickableButton::requestMenu()
+    {
+        setFocus(Qt::OtherFocusReason);
+        setHovered(false); // the menu takes the pointer
+        Q_EMIT menuRequested();
+    }
+
+    void CommandClickableButton::setHovered(bool inside)
+    {
+        if (m_viewSettings.showStatusLabelOnHover)
+            setShowTooltip(inside);
+    }
+
+    void CommandClickableButton::setShowTooltip(bool show)
+    {
+        if (show && m_tooltipText && !m_label) {
+            m_label = new HoverLabel(this, numberArea(), labelStyle);
+            updateLabel();
+        } else if (!show && m_label) {
+            m_label->dismiss();
+            m_label.clear();
+        }
+    }
+
+    void CommandClickableButton::updateLabel()
+    {
+        if (!m_label || !m_tooltipText)
+            return;
+        HoverLabel::Mark mark;
+        if (m_state != DayState::UNKNOWN)
+            mark = [state = m_state](QPainter& painter, const QRectF& area) {
+                drawStateMark(painter, area, state, Qt::white);
+            };
+        m_label->setText(*m_tooltipText, mark);
+    }

@@ -35,6 +35,8 @@ public:
     /// Shows the mark of a state below the number, and before the text of the label.
     void setState(DayState state);
     void setTooltipText(const std::optional<QString>& text);
+    /// Sets the accessible name. A screen reader says a change while the button has the focus.
+    void setSpokenName(const QString& name);
     /// Draws a ring around the button, which marks today.
     void setRinged(bool ringed);
     [[nodiscard]] bool isRinged() const { return m_ringed; }
@@ -69,6 +71,8 @@ private:
     [[nodiscard]] QSize faceSize() const;
     void run(Qt::KeyboardModifiers held);
     [[nodiscard]] bool isPress(const QKeyEvent& event) const;
+
+    void runWithFocus();
     void requestMenu();
     void setHovered(bool inside);
     void setShowTooltip(bool show);
@@ -83,4 +87,6 @@ private:
     Qt::KeyboardModifiers m_heldAtKeyPress;
     FocusVisible m_focusVisible;
     bool m_ringed = false;
+    /// Whether a screen reader is about to say the button because it just got the focus.
+    bool m_isFocusNew = false;
 };

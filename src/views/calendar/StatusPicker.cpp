@@ -157,7 +157,10 @@ void StatusPicker::addState(DayState state, const QString& text)
     action->setChecked(isCurrent);
     action->setShortcut(keyFor(state));
     action->setShortcutVisibleInContextMenu(true);
-    connect(action, &QAction::triggered, this, [this, state] { Q_EMIT chosen(state); });
+    connect(action, &QAction::triggered, this, [this, state] {
+        close(); // assistive technology triggers the action alone
+        Q_EMIT chosen(state);
+    });
 }
 
 void StatusPicker::popUpBeside(const QRect& cell)
@@ -172,12 +175,19 @@ void StatusPicker::popUpBeside(const QRect& cell)
     const bool fitsAfter = after + size.width() <= room.right() + 1;
     const bool isAfter = isLeftToRight() ? fitsAfter || !fitsBefore : fitsAfter && !fitsBefore;
     popup({isAfter ? after : before, qMax(room.top(), qMin(cell.top(), room.bottom() + 1 - size.height()))});
+    if (!m_pressedAt)
+        setActiveAction(currentAction()); // which a screen reader says
+}
+
+QAction* StatusPicker::currentAction() const
+{
+    return actions().at(static_cast<qsizetype>(m_current));
 }
 
 void StatusPicker::keyPressEvent(QKeyEvent* event)
 {
     if (activeAction() == nullptr && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
-        setActiveAction(actions().at(static_cast<qsizetype>(m_current)));
+        setActiveAction(currentAction());
         return;
     }
     if (const auto state = stateForKey(*event)) {

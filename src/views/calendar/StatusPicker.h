@@ -27,6 +27,7 @@ protected:
 
 private:
     void addState(DayState state, const QString& text);
+    [[nodiscard]] QAction* currentAction() const;
 
     DayState m_current;
     /// Where the button was pressed that opened the menu, until it is released.
