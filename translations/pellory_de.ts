@@ -489,6 +489,37 @@
         <source>Set Status of Focused Day</source>
         <translation>Status des ausgewählten Tages setzen</translation>
     </message>
+    <message>
+        <source>%1: key %2</source>
+        <comment>state and digit</comment>
+        <translation>%1: Taste %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 with a click, or key %3</source>
+        <comment>state, modifier key and digit</comment>
+        <translation>%1: Klick mit %2 oder Taste %3</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Klick</translation>
+    </message>
+    <message>
+        <source>Menu key or right click</source>
+        <translation>Menütaste oder Rechtsklick</translation>
+    </message>
+    <message>
+        <source>Keys %1</source>
+        <translation>Tasten %1</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>gesture and what it does</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>LocationAlert</name>
@@ -542,6 +573,14 @@
         <source>%1: not reached</source>
         <comment>goal on the bar</comment>
         <translation>%1: nicht erreicht</translation>
+    </message>
+    <message>
+        <source>%1 with the planned days</source>
+        <translation>%1 mit den geplanten Tagen</translation>
+    </message>
+    <message>
+        <source>%1: reached with the planned days</source>
+        <translation>%1: mit den geplanten Tagen erreicht</translation>
     </message>
 </context>
 <context>
@@ -645,6 +684,18 @@
     <message>
         <source>This does not mean that your data is damaged. Choose Cancel to keep it.</source>
         <translation>Das bedeutet nicht, dass Ihre Daten beschädigt sind. Mit „Abbrechen“ behalten Sie sie.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressWidgetView</name>
+    <message>
+        <source>Progress of the quarter</source>
+        <translation>Fortschritt im Quartal</translation>
+    </message>
+    <message>
+        <source>Progress of %1</source>
+        <comment>month</comment>
+        <translation>Fortschritt im %1</translation>
     </message>
 </context>
 <context>

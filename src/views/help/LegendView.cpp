@@ -4,6 +4,7 @@
 #include "Day.h"
 #include "KeyCap.h"
 #include "Labels.h"
+#include "SpokenGroup.h"
 #include "StateGestures.h"
 #include "StateMark.h"
 #include "Switch.h"
@@ -14,6 +15,7 @@
 #include <QGridLayout>
 #include <QKeySequence>
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -46,12 +48,24 @@ QString keyText(DayState state)
     return QKeySequence(keyFor(state)).toString();
 }
 
+QString spokenText(const Day& day, const QString& text)
+{
+    if (!day.isWorkday)
+        return text;
+    const ClickModifier modifier = modifierFor(day.state);
+    return modifier == ClickModifier::None
+               ? LegendView::tr("%1: key %2", "state and digit").arg(text, keyText(day.state))
+               : LegendView::tr("%1: %2 with a click, or key %3", "state, modifier key and digit")
+                     .arg(text, keyName(modifier), keyText(day.state));
+}
+
 } // namespace
 
 LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     : QWidget(parent)
 {
-    auto* grid = new QGridLayout(this);
+    auto* rows = new SpokenGroup;
+    auto* grid = new QGridLayout(rows);
     grid->setContentsMargins({});
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(10);
@@ -60,15 +74,20 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
         addSwatch(*grid, {.id = 1, .state = state, .isWorkday = true}, description(state));
     addSwatch(*grid, {.id = 1}, tr("Weekend Day"));
     grid->setRowMinimumHeight(grid->rowCount(), 4);
-    addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"));
+    addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"), tr("Click"));
     // Ctrl with a click resets a day here, so the Menu key and the right button open the menu instead.
-    addGesture(*grid, tr("Menu", "key"), Symbol::RightClick, tr(": Open Status Picker Menu "));
-    addGesture(*grid, keyText(allDayStates.front()) + u'\u2013' + keyText(allDayStates.back()), Symbol::Keyboard,
-               tr("Set Status of Focused Day"));
+    addGesture(*grid, tr("Menu", "key"), Symbol::RightClick, tr(": Open Status Picker Menu "),
+               tr("Menu key or right click"));
+    const QString keys = keyText(allDayStates.front()) + u'\u2013' + keyText(allDayStates.back());
+    addGesture(*grid, keys, Symbol::Keyboard, tr("Set Status of Focused Day"), tr("Keys %1").arg(keys));
+    rows->setSpokenText(tr("Legend"), m_spoken);
     auto* hoverSwitch = new Switch(tr("Show day status on hover"));
     bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);
-    grid->setRowMinimumHeight(grid->rowCount(), 4);
-    grid->addWidget(hoverSwitch, grid->rowCount(), 0, 1, -1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(14);
+    column->addWidget(rows);
+    column->addWidget(hoverSwitch);
 }
 
 void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& text)
@@ -78,16 +97,27 @@ void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& tex
     const ClickModifier modifier = day.isWorkday ? modifierFor(day.state) : ClickModifier::None;
     if (modifier != ClickModifier::None)
         grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
-    grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);
     if (day.isWorkday)
         grid.addWidget(new KeyCap(keyText(day.state)), row, numberColumn);
+    addText(grid, row, text, spokenText(day, text));
 }
 
-void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text)
+void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text,
+                            const QString& spoken)
 {
     const int row = grid.rowCount();
     grid.addWidget(new SymbolView(symbol), row, swatchColumn, Qt::AlignCenter);
     if (!key.isEmpty())
         grid.addWidget(new KeyCap(key), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);
-    grid.addWidget(labels::singleLine(labels::text(text)), row, textColumn);
+    QString meaning = text.trimmed();
+    meaning.remove(0, meaning.startsWith(u':') ? 1 : 0);
+    addText(grid, row, text, tr("%1: %2", "gesture and what it does").arg(spoken, meaning.trimmed()));
+}
+
+void LegendView::addText(QGridLayout& grid, int row, const QString& text, const QString& spoken)
+{
+    QLabel* label = labels::singleLine(labels::text(text));
+    label->setAccessibleName(spoken);
+    grid.addWidget(label, row, textColumn);
+    m_spoken.append(spoken);
 }

@@ -4,6 +4,7 @@
 #include "DayState.h"
 #include "Symbol.h"
 
+#include <QStringList>
 #include <QWidget>
 
 class QGridLayout;
@@ -19,5 +20,9 @@ public:
 
 private:
     void addSwatch(QGridLayout& grid, const Day& day, const QString& text);
-    void addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text);
+    void addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text, const QString& spoken);
+    /// Adds the text of a row, with what a screen reader says of the whole row.
+    void addText(QGridLayout& grid, int row, const QString& text, const QString& spoken);
+
+    QStringList m_spoken;
 };

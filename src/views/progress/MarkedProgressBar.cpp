@@ -88,9 +88,13 @@ QString MarkedProgressBar::tooltipText() const
 QString MarkedProgressBar::accessibleText() const
 {
     QStringList parts{tooltipText()};
+    if (m_contents.predictedLabel)
+        parts.append(tr("%1 with the planned days").arg(twoDecimals(*m_contents.predictedLabel)));
     for (const ProgressMarker& marker : m_contents.markers) {
-        const QString text =
-            marker.position <= m_contents.progress ? tr("%1: reached") : tr("%1: not reached", "goal on the bar");
+        const QString text = marker.position <= m_contents.progress ? tr("%1: reached")
+                             : marker.position <= m_contents.progressPrediction
+                                 ? tr("%1: reached with the planned days")
+                                 : tr("%1: not reached", "goal on the bar");
         parts.append(text.arg(marker.description));
     }
     return parts.join(u"; "_s);

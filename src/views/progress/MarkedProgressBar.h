@@ -32,6 +32,8 @@ public:
         double progressPrediction = 0.0;
         /// The number on the bar and in the tooltip. Without it the tooltip shows the progress.
         std::optional<double> label;
+        /// What the number would be with the prediction, if that is more. Only assistive technology shows it.
+        std::optional<double> predictedLabel;
         QList<ProgressMarker> markers;
         qreal barHeight = 24.0;
         QColor progressColor;

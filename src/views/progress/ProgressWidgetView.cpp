@@ -13,6 +13,8 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,6 +28,12 @@ constexpr int linesOfGoal = 2;
 // More digits than the days of a quarter have.
 constexpr qint64 widestDays = 88;
 
+std::optional<double> predictedAverage(const AttendanceStatistics& statistics)
+{
+    const double prediction = statistics.prediction;
+    return std::isfinite(prediction) && prediction > statistics.average ? std::optional(prediction) : std::nullopt;
+}
+
 QString captionOf(const ValuedGoal& goal)
 {
     return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
@@ -35,7 +43,7 @@ QString captionOf(const ValuedGoal& goal)
 
 ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
                                        QWidget* parent)
-    : QWidget(parent)
+    : SpokenGroup(parent)
     , m_settings(settings)
     , m_viewSettings(viewSettings)
     , m_period(period)
@@ -77,7 +85,7 @@ void ProgressWidgetView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange && !m_months.isEmpty())
         setMonths(m_months);
-    QWidget::changeEvent(event);
+    SpokenGroup::changeEvent(event);
 }
 
 ProgressWidgetView::Contents ProgressWidgetView::contents() const
@@ -94,6 +102,7 @@ ProgressWidgetView::Contents ProgressWidgetView::contents() const
     MarkedProgressBar::Contents bar{.progress = fractions.progress,
                                     .progressPrediction = fractions.prediction,
                                     .label = shownAverage(statistics),
+                                    .predictedLabel = predictedAverage(statistics),
                                     .markers = {},
                                     .barHeight = static_cast<qreal>(fonts::grown(usualBarHeight, font())),
                                     .progressColor = theme.progress,
@@ -121,4 +130,17 @@ void ProgressWidgetView::refresh()
     m_goal->setVisible(!shown.goal.isEmpty());
     m_bar->setContents(shown.bar);
     m_bar->setVisible(shown.hasBar);
+    speak(shown);
+}
+
+void ProgressWidgetView::speak(const Contents& shown)
+{
+    QStringList texts{toPlainText(shown.headline)};
+    if (!shown.goal.isEmpty())
+        texts.append(toPlainText(shown.goal));
+    if (shown.hasBar)
+        texts.append(m_bar->accessibleName());
+    setSpokenText(m_period == PeriodWord::Quarter ? tr("Progress of the quarter")
+                                                  : tr("Progress of %1", "month").arg(m_months.first()->name.value()),
+                  texts);
 }

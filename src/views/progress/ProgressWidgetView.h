@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MarkedProgressBar.h"
+#include "SpokenGroup.h"
 #include "StatisticsTexts.h"
 
 #include <QProperty>
@@ -15,7 +16,7 @@ class ViewSettings;
 
 /// The progress tracker: the office days of a period against the goals, in words and on a bar. It follows every record
 /// and setting that it shows.
-class ProgressWidgetView : public QWidget {
+class ProgressWidgetView : public SpokenGroup {
     Q_OBJECT
 
 public:
@@ -37,6 +38,7 @@ private:
 
     [[nodiscard]] Contents contents() const;
     void refresh();
+    void speak(const Contents& shown);
 
     const AppSettings& m_settings;
     const ViewSettings& m_viewSettings;

@@ -10,7 +10,7 @@ TEST_F(LegendViewTest, showsTheStatesOfTheCalendarWithTheirKeys)
 {
     LegendView legend(viewSettings);
     show(legend);
-    const auto& grid = *qobject_cast<QGridLayout*>(legend.layout());
+    const auto& grid = *legend.findChild<QGridLayout*>();
     const auto key = [&](int row, int column) {
         const auto* cap = grid.itemAtPosition(row, column);
         return cap == nullptr ? QString() : cap->widget()->accessibleName();

@@ -42,6 +42,7 @@ TEST_F(ProgressWidgetViewTest, theBarFollowsToo)
     const auto& shown = bar.contents();
     EXPECT_NEAR(shown.progress, 25.0 / 21 / 4, 1e-9);
     EXPECT_NEAR(shown.progressPrediction, 30.0 / 21 / 4, 1e-9);
+    EXPECT_TRUE(bar.accessibleName().startsWith(averageText(25.0 / 21) + u"; 1.43 with the planned days; "_s));
     viewSettings.showWillBeInOfficeStats = false;
     EXPECT_EQ(shown.progressPrediction, 0.0);
     settings->daysPerWeekGoals.value().first()->wantedDaysPerWeek = u"1.00"_s;

@@ -4,6 +4,7 @@
 #include "MonthCard.h"
 #include "MonthView.h"
 #include "QuarterView.h"
+#include "SpokenGroup.h"
 #include "ViewTest.h"
 
 #include <SQLiteCpp/Database.h>
@@ -83,6 +84,14 @@ TEST_F(PagesTest, aClickOnTheNavigationShowsNoFocus)
         show(*page);
         named<QWidget>(*page, "previous").setFocus();
         page->showDay({2026, 7, 1});
+
+        for (const char* control : {"next", "today"}) {
+            press(*page, Qt::Key_Tab);
+            EXPECT_EQ(page->focusWidget(), &named<QWidget>(*page, control));
+        }
+        do
+            press(*page, Qt::Key_Tab);
+        while (qobject_cast<SpokenGroup*>(page->focusWidget()) != nullptr);
         EXPECT_TRUE(isRinged(dayButton(*page, 1)));
         click(dayButton(*page, 15));
         click(named<QWidget>(*page, "next"));
