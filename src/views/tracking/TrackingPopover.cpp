@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingPopover.h"
 
+#include "Accessibility.h"
 #include "Button.h"
 #include "Clock.h"
 #include "Follow.h"
@@ -57,7 +58,9 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     , m_nextCheck(addRow(*m_rows, tr("Next check")))
     , m_setUp(new Button(tr("Finish Set-up")))
 {
+    setAccessibleRole(*this, QAccessible::Dialog);
     setAttribute(Qt::WA_DeleteOnClose);
+    setFocusPolicy(Qt::TabFocus);
     m_rows->setHorizontalSpacing(24);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 16);
@@ -88,6 +91,7 @@ void TrackingPopover::popUp()
     move(qBound(room.left(), below.x(), qMax(room.left(), room.right() - width())),
          qBound(room.top(), below.y() + 4, qMax(room.top(), room.bottom() - height())));
     show();
+    setFocus(Qt::PopupFocusReason); // so that a screen reader says it
 }
 
 void TrackingPopover::refresh()
@@ -111,6 +115,22 @@ void TrackingPopover::showResult()
     m_result->setText(outcome.text());
     m_result->setForegroundRole(outcome.kind == CheckOutcome::Failed ? QPalette::BrightText : QPalette::WindowText);
     m_rows->setRowVisible(m_result, outcome.kind != CheckOutcome::None);
+
+    setAccessibleDescription(spokenRows());
+    adjustSize();
+}
+
+QString TrackingPopover::spokenRows() const
+{
+    QStringList spoken;
+    const auto text = [this](int row, QFormLayout::ItemRole part) {
+        return qobject_cast<QLabel*>(m_rows->itemAt(row, part)->widget())->text();
+    };
+    for (int row = 0; row < m_rows->rowCount(); ++row) {
+        if (m_rows->isRowVisible(row))
+            spoken.append(text(row, QFormLayout::LabelRole) + ": "_L1 + text(row, QFormLayout::FieldRole));
+    }
+    return spoken.join(". "_L1);
 }
 
 QString TrackingPopover::timeText(const QDateTime& time) const

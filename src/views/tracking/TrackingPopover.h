@@ -28,6 +28,8 @@ protected:
 private:
     void refresh();
     void showResult();
+
+    [[nodiscard]] QString spokenRows() const;
     [[nodiscard]] QString timeText(const QDateTime& time) const;
 
     TrackingStatus& m_status;
