@@ -32,6 +32,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QSessionManager>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -182,6 +183,16 @@ bool claimName(SingleInstance& instance, StartMode mode, Alerts& alerts)
     throw FatalStop(u"Pellory is running already and does not answer"_s);
 }
 
+// Login starts the program by its autostart entry alone. A session manager would start what it saw running: with a
+// window, and also after launch at login was turned off.
+void keepOutOfSavedSessions()
+{
+    const auto refuse = [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); };
+    // Which of them comes depends on what the session manager asks for.
+    for (const auto request : {&QGuiApplication::saveStateRequest, &QGuiApplication::commitDataRequest})
+        QObject::connect(qApp, request, qApp, refuse, Qt::DirectConnection);
+}
+
 int run(SingleInstance& instance)
 {
     StartMode mode = readCommandLine(QApplication::arguments());
@@ -249,6 +260,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationDisplayName(u"Pellory"_s);
     QApplication::setDesktopFileName(u"io.github.pellory.Pellory"_s);
     QApplication::setQuitOnLastWindowClosed(false);
+    keepOutOfSavedSessions();
     const Translations translations(QLocale::system().uiLanguages());
     try {
         return run(instance);
