@@ -9,6 +9,7 @@
 #include "NavigationRow.h"
 #include "StoreError.h"
 #include "StoredMonths.h"
+#include "WindowSize.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -24,7 +25,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(logCalendar, "pellory.calendar", QtInfoMsg)
 
-constexpr QMargins pageMargins(24, 20, 24, 20);
 constexpr int cardSpacing = 16;
 
 std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Fonts.h"
+#include "WindowSize.h"
 
 #include <QWidget>
 
@@ -15,9 +16,13 @@ public:
     /// Returns a new card around the contents, with padding.
     [[nodiscard]] static Card* around(QWidget* contents);
 
-    /// The width of the cards that hold grids and trackers, and the least that these need.
-    [[nodiscard]] static int contentWidth(const QFont& font) { return fonts::grown(470, font); }
-    [[nodiscard]] static int leastContentWidth(const QFont& font) { return fonts::grown(396, font); }
+    /// The width of the cards that hold grids and trackers, and the least that these need. On a small screen that is
+    /// what there is.
+    [[nodiscard]] static int contentWidth(const QFont& font) { return qMin(fonts::grown(470, font), widestContents()); }
+    [[nodiscard]] static int leastContentWidth(const QFont& font)
+    {
+        return qMin(fonts::grown(396, font), widestContents());
+    }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

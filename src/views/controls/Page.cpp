@@ -3,11 +3,19 @@
 
 #include "Card.h"
 #include "ThinScrollBarStyle.h"
+#include "WindowSize.h"
 
 #include <QApplication>
 #include <QFocusEvent>
 #include <QScrollBar>
 #include <QVBoxLayout>
+
+namespace {
+
+// At a fractional scale a window may be a little smaller than asked for, because it has a whole number of pixels.
+constexpr QSize roundingLoss(1, 1);
+
+} // namespace
 
 Page::Page(QWidget* contents, QWidget* parent)
     : QScrollArea(parent)
@@ -36,7 +44,12 @@ QSize Page::minimumSizeHint() const
 {
     constexpr int leastHeight = 160;
     const QSize least = widget()->minimumSizeHint();
-    return {least.width(), qMin(least.height(), leastHeight)};
+    return QSize(least.width(), qMin(least.height(), leastHeight)) + roundingLoss;
+}
+
+QSize Page::sizeHint() const
+{
+    return widget()->sizeHint() + roundingLoss;
 }
 
 bool Page::eventFilter(QObject* watched, QEvent* event)
@@ -54,7 +67,7 @@ Page* makeCardPage(QWidget* contents)
 {
     auto* whole = new QWidget;
     auto* column = new QVBoxLayout(whole);
-    column->setContentsMargins(24, 20, 24, 20);
+    column->setContentsMargins(pageMargins);
     column->addWidget(Card::around(contents));
     column->addStretch();
     return new Page(whole);

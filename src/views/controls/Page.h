@@ -14,6 +14,8 @@ public:
 
     /// As wide as the contents need, so that a window of this width never scrolls sideways.
     [[nodiscard]] QSize minimumSizeHint() const override;
+    /// Large enough for all contents.
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,6 +3,7 @@
 
 #include "Fonts.h"
 #include "Theme.h"
+#include "WindowSize.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -48,12 +49,18 @@ int SegmentedTabs::symbolRoom(int index) const
 }
 
 QSize SegmentedTabs::tabSizeHint(int /*index*/) const
+
+    QSize SegmentedTabs::tabSizeHint(int index) const
 {
-    QSize widest;
     const QFontMetrics metrics(selectedFont(*this));
+    const auto size = [&](int tab) { return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({22, 8, 22, 8}); };
+    QSize widest;
     for (int i = 0; i < count(); ++i)
         widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)).grownBy({symbolRoom(i), 0, 0, 0}));
     return widest.grownBy({22, 8, 22, 8});
+
+    widest = widest.expandedTo(size(i));
+    return count() * widest.width() <= widestContents() ? widest : size(index);
 }
 
 void SegmentedTabs::focusInEvent(QFocusEvent* event)

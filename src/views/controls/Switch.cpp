@@ -15,6 +15,9 @@ constexpr QSize trackSize(38, 22);
 constexpr int switchGap = 16;
 constexpr int switchRingMargin = 4;
 constexpr qreal knobInset = 3.5;
+constexpr int textFlags = Qt::TextShowMnemonic | Qt::TextWordWrap;
+// In the usual font, with which it grows.
+constexpr int leastWidth = 260;
 
 } // namespace
 
@@ -23,14 +26,32 @@ Switch::Switch(const QString& text, QWidget* parent)
 {
     setFont(fonts::body(font()));
     setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QSize Switch::sizeFor(int width) const
+{
+    constexpr int besideText = switchGap + trackSize.width() + switchRingMargin;
+    const QSize words =
+        fontMetrics().boundingRect({0, 0, width - besideText, QWIDGETSIZE_MAX}, textFlags, text()).size();
+    return {words.width() + besideText, qMax(words.height(), trackSize.height()) + 2 * switchRingMargin};
 }
 
 QSize Switch::sizeHint() const
 {
-    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return {words.width() + switchGap + trackSize.width() + switchRingMargin,
-            qMax(words.height(), trackSize.height()) + 2 * switchRingMargin};
+    return sizeFor(QWIDGETSIZE_MAX);
+}
+
+QSize Switch::minimumSizeHint() const
+{
+    return sizeHint().boundedTo({fonts::grown(leastWidth, font()), QWIDGETSIZE_MAX});
+}
+
+int Switch::heightForWidth(int width) const
+{
+    return sizeFor(width).height();
 }
 
 bool Switch::hitButton(const QPoint& position) const
@@ -57,10 +78,10 @@ void Switch::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(inside,
-                     static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter) |
-                         Qt::TextShowMnemonic,
-                     text());
+    const QMargins besideText(0, 0, trackSize.width() + switchGap, 0);
+    const QRect words = QStyle::visualRect(layoutDirection(), inside, inside.marginsRemoved(besideText));
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter;
+    painter.drawText(words, static_cast<int>(side) | textFlags, text());
     paintTrack(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, trackSize, inside));
 }
 

@@ -6,7 +6,8 @@
 #include <QCheckBox>
 #include <QProperty>
 
-/// A check box drawn as a switch, with the text first and the switch at the other end of the row.
+/// A check box drawn as a switch, with the text first and the switch at the other end of the row. A long text
+/// is wrapped.
 class Switch : public QCheckBox {
     Q_OBJECT
 
@@ -14,7 +15,8 @@ public:
     explicit Switch(const QString& text, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] int heightForWidth(int width) const override;
 
 protected:
     bool hitButton(const QPoint& position) const override;
@@ -23,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] QSize sizeFor(int width) const;
     void paintTrack(QPainter& painter, const QRectF& track) const;
 
     FocusVisible m_focusVisible;

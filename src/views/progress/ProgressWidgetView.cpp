@@ -9,6 +9,7 @@
 #include "Month.h"
 #include "Theme.h"
 #include "ViewSettings.h"
+#include "WindowSize.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
@@ -21,6 +22,7 @@ namespace {
 
 // In the usual font, with which they grow.
 constexpr int usualColumnWidth = 375;
+constexpr int usualRoomForCaptions = 20;
 constexpr int usualBarHeight = 24;
 constexpr int usualLineHeight = 9;
 constexpr int usualLineWidth = 2;
@@ -32,12 +34,16 @@ std::optional<double> predictedAverage(const AttendanceStatistics& statistics)
 {
     const double prediction = statistics.prediction;
     return std::isfinite(prediction) && prediction > statistics.average ? std::optional(prediction) : std::nullopt;
-}
 
-QString captionOf(const ValuedGoal& goal)
-{
-    return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
-}
+    int columnWidth(const QFont& font)
+    {
+        return qMin(fonts::grown(usualColumnWidth, font), widestContents() - fonts::grown(usualRoomForCaptions, font));
+    }
+
+    QString captionOf(const ValuedGoal& goal)
+    {
+        return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
+    }
 
 } // namespace
 
@@ -58,10 +64,10 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
     m_goal->setPlainRole(QPalette::PlaceholderText);
 
     // The height is the same whatever the texts are, so that nothing below moves when they change.
-    const int columnWidth = fonts::grown(usualColumnWidth, font());
-    m_headline->setFixedWidth(columnWidth);
-    m_headline->setLineCount(m_headline->linesFor(headlineText(widestDays, period), columnWidth));
-    m_goal->setFixedWidth(columnWidth);
+    const int width = columnWidth(font());
+    m_headline->setFixedWidth(width);
+    m_headline->setLineCount(m_headline->linesFor(headlineText(widestDays, period), width));
+    m_goal->setFixedWidth(width);
     m_goal->setLineCount(linesOfGoal);
     QSizePolicy policy = m_goal->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -114,7 +120,7 @@ ProgressWidgetView::Contents ProgressWidgetView::contents() const
                                     .markerLineWidth = static_cast<qreal>(fonts::grown(usualLineWidth, font())),
                                     .markerLineHeight = static_cast<qreal>(fonts::grown(usualLineHeight, font())),
                                     .markerFont = fonts::subheadline(font()),
-                                    .barWidth = fonts::grown(usualColumnWidth, font())};
+                                    .barWidth = columnWidth(font())};
     for (qsizetype i = 0; i < fractions.markers.size(); ++i) {
         const ValuedGoal& goal = statistics.validGoals.at(i);
         bar.markers.append({fractions.markers.at(i), captionOf(goal), goal.goal == statistics.targetGoal->goal});

@@ -7,9 +7,9 @@
 #include "FocusOrder.h"
 #include "Labels.h"
 #include "StepDots.h"
+#include "WindowSize.h"
 
 #include <QGridLayout>
-#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -44,6 +44,7 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     m_message->setContentsMargins(32, 10, 32, 10);
     resize(firstSize.boundedTo(screen()->availableSize()));
     showStep(0);
+    fitToScreen(*this, firstSize);
 }
 
 bool WelcomeView::focusNextPrevChild(bool next)

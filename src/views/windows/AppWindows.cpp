@@ -18,10 +18,10 @@
 #include "WelcomeSteps.h"
 #include "WelcomeView.h"
 #include "WindowId.h"
+#include "WindowSize.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QScreen>
 #include <QShortcut>
 
 #include <utility>
@@ -173,12 +173,12 @@ QWidget* AppWindows::makeWindow(WindowId id)
     switch (id) {
     case WindowId::calendarViewSettings: {
         auto* window = makeCardPage(new CalendarViewSettingsView(m_parts.viewSettings));
-        prepare(*window, u"calendarViewSettings"_s, tr("Calendar View Settings"), window->widget()->sizeHint());
+        prepare(*window, u"calendarViewSettings"_s, tr("Calendar View Settings"), window->sizeHint());
         return window;
     }
     case WindowId::help: {
         auto* window = makeCardPage(new HelpView(m_parts.viewSettings));
-        prepare(*window, u"help"_s, tr("Help"), window->widget()->sizeHint());
+        prepare(*window, u"help"_s, tr("Help"), window->sizeHint());
         return window;
     }
     case WindowId::about: {
@@ -212,13 +212,8 @@ void AppWindows::prepare(QWidget& window, const QString& name, const QString& ti
     window.setAttribute(Qt::WA_DeleteOnClose);
     window.installEventFilter(this);
     addShortcuts(window);
-    const QSize room = window.screen()->availableSize() - roomForFrame;
-    const QSize least = window.minimumSizeHint();
-    // A layout would see to it, and follow its contents, but would also insist on more than the screen has.
-    if (window.layout() == nullptr || least != least.boundedTo(room))
-        window.setMinimumSize(least.boundedTo(room));
-    if (!window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window))))
-        window.resize(firstSize.boundedTo(room));
+    fitToScreen(window, firstSize);
+    window.restoreGeometry(m_parts.viewSettings.geometry(geometryKey(window)));
     m_open.append(&window);
     connect(&window, &QObject::destroyed, this, &AppWindows::forget);
 }

@@ -8,14 +8,17 @@
 #include "LocationAlert.h"
 #include "MarkedTextLabel.h"
 #include "MonthView.h"
+#include "Page.h"
 #include "SettingsView.h"
 #include "Switch.h"
 #include "ViewTest.h"
 #include "WelcomeView.h"
 #include "WindowId.h"
+#include "WindowSize.h"
 
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
@@ -114,6 +117,41 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     EXPECT_EQ(quit.size(), 2);
     windows.reset();
     EXPECT_EQ(settings->daysPerWeekGoals.value().last()->wantedDaysPerWeek.value(), u"5.00"_s);
+}
+
+TEST_F(AppWindowsTest, fitOnASmallScreenWithLargeLettersAndNeverScrollSideways)
+{
+    for (const QSize& size : {QSize(800, 600), QSize(1024, 600), QSize(3840, 2160)})
+        EXPECT_EQ(roomForWindow({{}, size}, {0, 0, size.width(), size.height() - 20}), size - QSize(16, 88));
+    EXPECT_EQ(roomForWindow({0, 0, 1024, 600}, {60, 50, 964, 550}), QSize(948, 502));
+    settings->wifiTrackingEnabled = true;
+    wifiClient.interface->powerOn = false;
+    authorization.status = AuthorizationStatus::denied;
+    const QFont usual = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(usual); });
+    for (const int points : {11, 22}) {
+        SCOPED_TRACE(points);
+        QApplication::setFont({usual.family(), points});
+        windows->openWelcome();
+        for (const WindowId id : {WindowId::settings, WindowId::help, WindowId::calendarViewSettings})
+            windows->open(id);
+        for (int step = 0; step < 5; ++step) {
+            shown<SettingsView>()->findChild<QTabBar*>()->setCurrentIndex(step % 3);
+            shown<ContentView>()->findChild<QTabBar*>()->setCurrentIndex(step % 2);
+            for (const QWidget* window : QApplication::topLevelWidgets()) {
+                const QSize room = roomForWindow(window->screen()->geometry(), window->screen()->availableGeometry());
+                EXPECT_EQ(window->size(), window->size().boundedTo(room)) << qPrintable(window->windowTitle());
+            }
+            for (const QWidget* each : QApplication::allWidgets()) {
+                const auto* page = qobject_cast<const Page*>(each);
+                const bool isShown = page != nullptr && page->isVisible();
+                EXPECT_TRUE(!isShown || page->horizontalScrollBar()->maximum() == 0)
+                    << qPrintable(each->window()->windowTitle()) << step;
+            }
+            push(*shown<WelcomeView>(), "next");
+        }
+        windows = std::make_unique<AppWindows>(parts);
+    }
 }
 
 TEST_F(AppWindowsTest, switchesAreTheSameInEveryWindowAndStoredAtOnce)
