@@ -23,10 +23,13 @@
 #include <QApplication>
 #include <QEvent>
 #include <QShortcut>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -47,8 +50,22 @@ QString geometryKey(const QWidget& window)
     return window.objectName() + "Geometry"_L1;
 }
 
+// Some desktops with Wayland (GNOME 43) never bring a window to the front that is open already, not even after a click
+// in another window of the program. A window that is new gets the focus, or is announced.
+void showAgainIfRefused(QWidget& window)
+{
+    constexpr auto timeout = 300ms;
+    QTimer::singleShot(timeout, &window, [&window] {
+        if (window.isActiveWindow() || QApplication::activeModalWidget() != nullptr)
+            return;
+        window.hide();
+        window.show();
+    });
+}
+
 void raise(QWidget& window, const QString& activationToken)
 {
+    const bool isOpen = window.isVisible();
     // Shows the desktop that the person asked for the window.
     if (!activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
@@ -56,6 +73,12 @@ void raise(QWidget& window, const QString& activationToken)
     window.show();
     window.raise();
     window.activateWindow();
+    if (!isOpen)
+        return;
+    if (QGuiApplication::platformName().startsWith("wayland"_L1))
+        showAgainIfRefused(window);
+    else if (QGuiApplication::focusWindow() == nullptr)
+        QApplication::alert(&window);
 }
 
 } // namespace
