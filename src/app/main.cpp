@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "AppLook.h"
 #include "AppWindows.h"
 #include "AutostartEntry.h"
 #include "Background.h"
@@ -24,7 +25,6 @@
 #include "StatusNotifierHost.h"
 #include "SystemBus.h"
 #include "SystemClock.h"
-#include "Theme.h"
 #include "Translations.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
@@ -51,30 +51,6 @@ void logStage(const char* stage)
     using Milliseconds = std::chrono::duration<double, std::milli>;
     const Milliseconds now = std::chrono::steady_clock::now().time_since_epoch();
     qCDebug(logStart, "%s: %.3f ms", stage, now.count());
-}
-
-// The desktop is asked for its colour scheme only after the first paint. Until it answers, the last one is used.
-constexpr auto lastSchemeIsDark = "appearanceLastSchemeIsDark"_L1;
-
-void applyScheme(ColorScheme scheme)
-{
-    QApplication::setPalette(paletteFor(scheme));
-}
-
-void applyLastScheme(const QSettings& settings)
-{
-    const bool desktopIsDark = colorSchemeOf(QApplication::palette()) == ColorScheme::Dark;
-    applyScheme(settings.value(lastSchemeIsDark, desktopIsDark).toBool() ? ColorScheme::Dark : ColorScheme::Light);
-}
-
-void followColorScheme(Appearance& appearance, QSettings& settings)
-{
-    QObject::connect(&appearance, &Appearance::colorSchemeReported, &appearance, [&settings](ColorScheme scheme) {
-        if (scheme == colorSchemeOf(QApplication::palette()))
-            return;
-        applyScheme(scheme);
-        settings.setValue(lastSchemeIsDark, scheme == ColorScheme::Dark);
-    });
 }
 
 struct PlatformServices {
@@ -117,7 +93,8 @@ void openFirstWindow(AppWindows& windows, Background& background, PlatformServic
     }
 }
 
-int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, SingleInstance& instance, StartMode mode)
+int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Alerts& alerts, SingleInstance& instance,
+                   StartMode mode)
 {
     PlatformServices platform;
     InOfficeCheck check(
@@ -138,7 +115,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, Alerts& alerts, Sin
                           launchAtLogin};
     AppWindows windows(parts);
     Background background(parts, windows, platform.notifier, platform.trayHost, settings, alerts);
-    followColorScheme(platform.appearance, settings);
+    look.follow(platform.appearance);
 
     QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openToday);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
@@ -200,7 +177,7 @@ int run(SingleInstance& instance)
     std::jthread fonts = mode == StartMode::AtLogin ? std::jthread() : preloadFontConfig();
     installAccessibleRoles();
     QSettings settings;
-    applyLastScheme(settings);
+    AppLook look(settings);
     MessageBoxAlerts alerts;
     // Before anything touches the store, so that a second start shows the window of the first. If they cannot reach
     // each other, the lock of the store keeps them apart.
@@ -213,7 +190,7 @@ int run(SingleInstance& instance)
         if (fonts.joinable())
             fonts.join();
         logStage("fonts read");
-        const int result = runApplication(pellory, settings, alerts, instance, mode);
+        const int result = runApplication(pellory, settings, look, alerts, instance, mode);
         if (result != reloads)
             return result;
         mode = StartMode::Shown;

@@ -35,7 +35,7 @@ protected:
 
     static void applyScheme(ColorScheme scheme)
     {
-        QApplication::setPalette(paletteFor(scheme));
+        QApplication::setPalette(paletteFor({scheme}));
         QApplication::processEvents();
     }
 

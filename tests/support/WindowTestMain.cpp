@@ -21,7 +21,7 @@ int main(int argc, char** argv)
     QApplication::setStyle(u"Fusion"_s);
     testing::InitGoogleMock(&argc, argv);
     const QApplication application(argc, argv);
-    QApplication::setPalette(paletteFor(ColorScheme::Light));
+    QApplication::setPalette(paletteFor({}));
     installAccessibleRoles();
     return RUN_ALL_TESTS();
 }

@@ -4,6 +4,7 @@
 #include "Accessibility.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
+#include "Outline.h"
 #include "ReturnKey.h"
 #include "StateMark.h"
 #include "Theme.h"
@@ -239,6 +240,7 @@ void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(isDown() ? m_tint.darker(115) : m_tint);
     painter.drawRoundedRect(area, cellRadius, cellRadius);
+    drawOutline(painter, area, cellRadius, theme);
     painter.setPen(readableTextOn(m_tint));
     painter.drawText(area.adjusted(0, 0, 0, -numberLift), Qt::AlignCenter, text());
     drawStateMark(painter, markArea(), m_state, painter.pen().color());

@@ -68,7 +68,7 @@ QIcon iconOf(DayState state, bool isCurrent, const QWidget& menu)
     QIcon icon;
     icon.addPixmap(drawIcon(state, isCurrent, menu, menu.palette()), QIcon::Normal);
     // The entry that is about to be chosen is white on blue in both schemes.
-    icon.addPixmap(drawIcon(state, isCurrent, menu, paletteFor(ColorScheme::Dark)), QIcon::Active);
+    icon.addPixmap(drawIcon(state, isCurrent, menu, paletteFor({ColorScheme::Dark})), QIcon::Active);
     return icon;
 }
 
@@ -116,7 +116,7 @@ public:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (element != PE_PanelMenu)
             return;
-        painter->setPen(themeFor(option->palette).fieldBorder);
+        painter->setPen(themeFor(option->palette).controlBorder);
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     }
 

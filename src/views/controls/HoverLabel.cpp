@@ -2,6 +2,7 @@
 #include "HoverLabel.h"
 
 #include "Fonts.h"
+#include "Outline.h"
 #include "Theme.h"
 
 #include <QEvent>
@@ -24,7 +25,9 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(fonts::caption(anchor->window()->font()));
-    m_fade->setDuration(fadeMilliseconds);
+    // A style without animations is the wish for none.
+    const bool fades = QWidget::style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+    m_fade->setDuration(fades ? fadeMilliseconds : 0);
     for (auto* other : window()->findChildren<HoverLabel*>(Qt::FindDirectChildrenOnly)) {
         if (other == this)
             continue;
@@ -93,6 +96,7 @@ void HoverLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(background);
     painter.drawRoundedRect(rect(), m_style.radius, m_style.radius);
+    drawOutline(painter, rect(), m_style.radius, themeFor(palette()));
     const QRect contents = rect().marginsRemoved(m_style.padding);
     painter.setPen(Qt::white);
     painter.drawText(QStyle::visualRect(layoutDirection(), contents, contents.adjusted(markRoom(), 0, 0, 0)),

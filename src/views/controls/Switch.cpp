@@ -3,6 +3,7 @@
 
 #include "Follow.h"
 #include "Fonts.h"
+#include "Outline.h"
 #include "ReturnKey.h"
 #include "Theme.h"
 
@@ -94,6 +95,7 @@ void Switch::paintTrack(QPainter& painter, const QRectF& track) const
     painter.setPen(isChecked() ? QPen(accent, 1.5) : QPen(theme.dimText, 1.5));
     painter.setBrush(isChecked() ? accent : theme.card);
     painter.drawRoundedRect(track.adjusted(0.75, 0.75, -0.75, -0.75), radius, radius);
+    drawOutline(painter, track, radius, theme);
 
     const bool knobIsRight = isChecked() == (layoutDirection() == Qt::LeftToRight);
     const qreal knobSize = track.height() - 2.0 * knobInset;

@@ -42,7 +42,7 @@ void TextField::paintEvent(QPaintEvent* event)
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.fieldBorder, 1.0));
+        painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.controlBorder, 1.0));
         painter.setBrush(theme.field);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), fieldRadius, fieldRadius);
     }

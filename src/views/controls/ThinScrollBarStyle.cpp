@@ -36,7 +36,7 @@ void ThinScrollBarStyle::drawComplexControl(ComplexControl control, const QStyle
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(isUsed ? theme.dimText : theme.fieldBorder);
+    painter->setBrush(isUsed ? theme.dimText : theme.controlBorder);
     painter->drawRoundedRect(handle, radius, radius);
     painter->restore();
 }

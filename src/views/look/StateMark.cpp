@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StateMark.h"
 
+#include "Outline.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -53,6 +54,7 @@ void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, co
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(area, swatchRadius, swatchRadius);
+    drawOutline(painter, area, swatchRadius, theme);
     QRectF mark({}, QSizeF(1, 1) * (swatchMark * area.height()));
     mark.moveCenter(area.center());
     drawStateMark(painter, mark, day.state, readableTextOn(color));

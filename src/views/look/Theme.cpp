@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
@@ -13,7 +14,9 @@ constexpr QColor rgb(QRgb color)
 }
 
 constexpr QColor nearBlack = rgb(0x202124);
+constexpr QColor black = rgb(0x000000);
 constexpr QColor white = rgb(0xffffff);
+constexpr QColor transparent(0, 0, 0, 0);
 
 constexpr Theme light{
     .page = rgb(0xf6f6f7),
@@ -22,9 +25,11 @@ constexpr Theme light{
     .text = rgb(0x202124),
     .dimText = rgb(0x5f6065),
     .accent = rgb(0x175fcf),
+    .fill = rgb(0x175fcf),
     .errorText = rgb(0xb3261e),
     .field = rgb(0xffffff),
-    .fieldBorder = rgb(0x8b8d94),
+    .controlBorder = rgb(0x8b8d94),
+    .outline = transparent,
     .trough = rgb(0xe4e4e8),
     .selected = rgb(0xffffff),
     .progressTrack = rgb(0xe4e4e8),
@@ -48,9 +53,11 @@ constexpr Theme dark{
     .text = rgb(0xf2f2f4),
     .dimText = rgb(0xa4a6ac),
     .accent = rgb(0x5b9bff),
+    .fill = rgb(0x1f6be0),
     .errorText = rgb(0xff8a80),
     .field = rgb(0x1e1f22),
-    .fieldBorder = rgb(0x74767d),
+    .controlBorder = rgb(0x74767d),
+    .outline = transparent,
     .trough = rgb(0x33343a),
     .selected = rgb(0x4a4c53),
     .progressTrack = rgb(0x3a3b41),
@@ -67,6 +74,62 @@ constexpr Theme dark{
     .nonWorkday = rgb(0x5b5e66),
 };
 
+constexpr Theme contrastingLight{
+    .page = white,
+    .card = white,
+    .border = black,
+    .text = black,
+    .dimText = black,
+    .accent = rgb(0x003a9b),
+    .fill = rgb(0x003a9b),
+    .errorText = rgb(0x8c0009),
+    .field = white,
+    .controlBorder = black,
+    .outline = black,
+    .trough = rgb(0xe4e4e8),
+    .selected = white,
+    .progressTrack = white,
+    .progress = rgb(0x0b5a22),
+    .progressText = rgb(0x0b5a22),
+    .prediction = rgb(0xf5c518),
+    .predictionText = rgb(0x5c3d00),
+    .hoverLabel = black,
+    .unknown = rgb(0x0a47b0),
+    .inOffice = rgb(0x0b5a22),
+    .outOfOffice = rgb(0xa30d18),
+    .vacationDay = rgb(0x5c2db3),
+    .willBeInOffice = rgb(0xf5c518),
+    .nonWorkday = rgb(0xc8cacf),
+};
+
+constexpr Theme contrastingDark{
+    .page = black,
+    .card = black,
+    .border = white,
+    .text = white,
+    .dimText = white,
+    .accent = rgb(0x8ab8ff),
+    .fill = rgb(0x1552b8),
+    .errorText = rgb(0xffb4ab),
+    .field = black,
+    .controlBorder = white,
+    .outline = white,
+    .trough = rgb(0x303136),
+    .selected = black,
+    .progressTrack = black,
+    .progress = rgb(0x5ed47e),
+    .progressText = rgb(0x5ed47e),
+    .prediction = rgb(0xf7d35e),
+    .predictionText = rgb(0xf7d35e),
+    .hoverLabel = black,
+    .unknown = rgb(0x7fb2ff),
+    .inOffice = rgb(0x5ed47e),
+    .outOfOffice = rgb(0xff9a94),
+    .vacationDay = rgb(0xcbb0ff),
+    .willBeInOffice = rgb(0xf7d35e),
+    .nonWorkday = rgb(0xaeb1b8),
+};
+
 // 0 to 1 (WCAG 2.1, "relative luminance").
 double relativeLuminance(const QColor& color)
 {
@@ -78,25 +141,31 @@ double relativeLuminance(const QColor& color)
 
 } // namespace
 
-const Theme& themeFor(ColorScheme scheme)
+const Theme& themeFor(const Look& look)
 {
-    return scheme == ColorScheme::Dark ? dark : light;
+    const bool isDark = look.scheme == ColorScheme::Dark;
+    if (look.contrast == Contrast::High)
+        return isDark ? contrastingDark : contrastingLight;
+    return isDark ? dark : light;
 }
 
 const Theme& themeFor(const QPalette& palette)
 {
-    return themeFor(colorSchemeOf(palette));
+    return themeFor(lookOf(palette));
 }
 
-ColorScheme colorSchemeOf(const QPalette& palette)
+Look lookOf(const QPalette& palette)
 {
-    const bool isDark = palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-    return isDark ? ColorScheme::Dark : ColorScheme::Light;
+    // Usual palettes stay below, Qt's own with 239.
+    constexpr int highDistance = 250;
+    const int distance = palette.color(QPalette::WindowText).lightness() - palette.color(QPalette::Window).lightness();
+    return {distance > 0 ? ColorScheme::Dark : ColorScheme::Light,
+            std::abs(distance) >= highDistance ? Contrast::High : Contrast::Normal};
 }
 
-QPalette paletteFor(ColorScheme scheme)
+QPalette paletteFor(const Look& look)
 {
-    const Theme& theme = themeFor(scheme);
+    const Theme& theme = themeFor(look);
     QPalette palette(theme.trough, theme.page);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, theme.text);
@@ -109,7 +178,7 @@ QPalette paletteFor(ColorScheme scheme)
     palette.setColor(QPalette::PlaceholderText, theme.dimText);
     palette.setColor(QPalette::Link, theme.accent);
     palette.setColor(QPalette::BrightText, theme.errorText);
-    palette.setColor(QPalette::Highlight, themeFor(ColorScheme::Light).accent);
+    palette.setColor(QPalette::Highlight, theme.fill);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }

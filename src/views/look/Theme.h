@@ -7,7 +7,15 @@
 #include <QColor>
 #include <QPalette>
 
-/// The colours of the program in one colour scheme.
+/// What the colours depend on.
+struct Look {
+    ColorScheme scheme = ColorScheme::Light;
+    Contrast contrast = Contrast::Normal;
+
+    bool operator==(const Look&) const = default;
+};
+
+/// The colours of the program in one look.
 struct Theme {
     QColor page;
     QColor card;
@@ -15,10 +23,15 @@ struct Theme {
     QColor text;
     QColor dimText;
     QColor accent;
+    /// The ground of white text: the main button, a switch that is on, what is selected.
+    QColor fill;
     /// For messages about input that was refused.
     QColor errorText;
     QColor field;
-    QColor fieldBorder;
+    /// Of fields and buttons.
+    QColor controlBorder;
+    /// Around what would differ from its ground by colour alone. Transparent unless contrast is high.
+    QColor outline;
     /// The backgrounds of a segmented control and of its selected segment.
     QColor trough;
     QColor selected;
@@ -37,11 +50,12 @@ struct Theme {
     QColor nonWorkday;
 };
 
-[[nodiscard]] const Theme& themeFor(ColorScheme scheme);
+[[nodiscard]] const Theme& themeFor(const Look& look);
 /// The theme that a palette belongs to.
 [[nodiscard]] const Theme& themeFor(const QPalette& palette);
-[[nodiscard]] ColorScheme colorSchemeOf(const QPalette& palette);
-[[nodiscard]] QPalette paletteFor(ColorScheme scheme);
+/// The look of any palette, which need not be one of the program.
+[[nodiscard]] Look lookOf(const QPalette& palette);
+[[nodiscard]] QPalette paletteFor(const Look& look);
 
 /// The colour of a day's cell: that of its state, or gray for an unmarked non-workday.
 [[nodiscard]] QColor dayColor(const Theme& theme, const Day& day);

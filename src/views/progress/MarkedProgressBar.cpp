@@ -5,6 +5,7 @@
 #include "Fonts.h"
 #include "HoverLabel.h"
 #include "Labels.h"
+#include "Outline.h"
 #include "StatisticsTexts.h"
 #include "Theme.h"
 
@@ -227,6 +228,7 @@ void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& g
         fill(geometry.prediction, m_contents.progressPredictionColor);
     if (m_contents.progress > 0.0)
         fill(geometry.progress, m_contents.progressColor);
+    drawOutline(painter, geometry.bar, radius, themeFor(palette()));
 }
 
 void MarkedProgressBar::paintLabel(QPainter& painter, const ProgressBarGeometry& geometry) const

@@ -36,7 +36,7 @@ TEST_F(DayClickTest, aDayHasTheColourOfItsStateAndTodayARing)
 {
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         applyScheme(scheme);
-        const Theme& theme = themeFor(scheme);
+        const Theme& theme = themeFor(Look{scheme});
         for (const int day : {friday, saturday}) {
             const QColor unknown = day == friday ? theme.unknown : theme.nonWorkday;
             for (const QColor& colour :

@@ -18,7 +18,7 @@ TEST_F(LegendViewTest, showsTheStatesOfTheCalendarWithTheirKeys)
     const auto expectRow = [&](int row, const QString& text, const Day& day, const QString& keys) {
         EXPECT_EQ(grid.itemAtPosition(row, 2)->widget()->property("text"), text);
         const QImage swatch = grid.itemAtPosition(row, 0)->widget()->grab().toImage();
-        EXPECT_EQ(swatch.pixelColor(3, 10), dayColor(themeFor(ColorScheme::Light), day));
+        EXPECT_EQ(swatch.pixelColor(3, 10), dayColor(themeFor(Look()), day));
         EXPECT_EQ(hasMark(swatch.copy(8, 4, 12, 13)), day.state != DayState::UNKNOWN);
         EXPECT_EQ(key(row, 1) + key(row, 3), keys);
     };

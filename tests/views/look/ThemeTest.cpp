@@ -9,9 +9,12 @@
 TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
 {
     EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21.0, 0.01);
-    constexpr double least = 4.5;
-    for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-        const Theme& theme = themeFor(scheme);
+    const std::pair<Look, double> rows[]{{{ColorScheme::Light}, 4.5},
+                                         {{ColorScheme::Dark}, 4.5},
+                                         {{ColorScheme::Light, Contrast::High}, 7.0},
+                                         {{ColorScheme::Dark, Contrast::High}, 7.0}};
+    for (const auto& [look, least] : rows) {
+        const Theme& theme = themeFor(look);
         QList<QColor> grounds{theme.progress, theme.prediction, theme.progressTrack};
         for (const DayState state : allDayStates)
             grounds += {dayColor(theme, {1, state, true}), dayColor(theme, {1, state, false})};
@@ -19,9 +22,15 @@ TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
             EXPECT_GE(contrastRatio(readableTextOn(ground), ground), least) << ground.name().toStdString();
         for (const QColor& text : {theme.text, theme.dimText, theme.accent, theme.progressText, theme.predictionText})
             EXPECT_GE(contrastRatio(text, theme.card), least) << text.name().toStdString();
-        EXPECT_GE(contrastRatio(Qt::white, theme.hoverLabel), least);
-        EXPECT_EQ(colorSchemeOf(paletteFor(scheme)), scheme);
+        for (const QColor& ground : {theme.hoverLabel, theme.fill})
+            EXPECT_GE(contrastRatio(Qt::white, ground), least);
+        EXPECT_GE(contrastRatio(theme.controlBorder, theme.card), 3.0);
+        EXPECT_EQ(lookOf(paletteFor(look)), look);
     }
+    for (const QColor& full :
+         {themeFor({ColorScheme::Dark, Contrast::High}).text, themeFor({ColorScheme::Dark, Contrast::High}).border,
+          themeFor({ColorScheme::Dark, Contrast::High}).outline})
+        EXPECT_EQ(full, QColor(Qt::white));
 }
 
 TEST(StateMarkTest, tellsStatesApartWithoutColour)

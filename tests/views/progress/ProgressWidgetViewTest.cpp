@@ -50,5 +50,5 @@ TEST_F(ProgressWidgetViewTest, theBarFollowsToo)
     EXPECT_EQ(shown.markers.at(0).position, 0.25);
     EXPECT_EQ(bar.accessibleName(), averageText(25.0 / 21) + u"; 1.00/5: reached; ideal: not reached"_s);
     applyScheme(ColorScheme::Dark);
-    EXPECT_EQ(shown.progressColor, themeFor(ColorScheme::Dark).inOffice);
+    EXPECT_EQ(shown.progressColor, themeFor(Look{ColorScheme::Dark}).inOffice);
 }

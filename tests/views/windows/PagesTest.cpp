@@ -74,9 +74,7 @@ TEST_F(PagesTest, aClickOnTheNavigationShowsNoFocus)
 {
     const auto isRinged = [](CommandClickableButton& day) {
         const QImage image = day.grab().toImage();
-        const auto isAccent = [&](int y) {
-            return image.pixelColor(image.width() / 2, y) == themeFor(ColorScheme::Light).accent;
-        };
+        const auto isAccent = [&](int y) { return image.pixelColor(image.width() / 2, y) == themeFor(Look()).accent; };
         return isAccent(0) || isAccent(1);
     };
     for (CalendarPage* page : pages) {

@@ -3,11 +3,13 @@
 
 #include "Appearance.h"
 
+#include <QHash>
+
 class QDBusMessage;
 class QDBusPendingCallWatcher;
 
-/// The colour scheme from the desktop portal (org.freedesktop.appearance, color-scheme: 1 is dark, 2 is light, 0 is no
-/// preference, which GNOME uses for light).
+/// The preferences in the settings of the desktop portal: those of org.freedesktop.appearance, and those of GNOME,
+/// which not every version passes on there.
 class PortalAppearance : public Appearance {
     Q_OBJECT
 
@@ -16,8 +18,13 @@ public:
 
 private:
     void handleReply(QDBusPendingCallWatcher* call);
-    void report(const QVariant& value);
+    void take(const QString& key, const QVariant& value);
+    void report();
 
 private Q_SLOTS:
     void handleSettingChanged(const QDBusMessage& signal);
+
+private:
+    /// The known ones by key, which is in one of the groups only. True is 1.
+    QHash<QString, uint> m_values;
 };
