@@ -268,45 +268,46 @@ bool CommandClickableButton::isPress(const QKeyEvent& event) const
 {
     // After a click, Return is for the default button of the dialog.
     return event.key() == Qt::Key_Space || (isReturn(event) && m_focusVisible);
+}
 
-    void CommandClickableButton::runWithFocus()
-    {
-        run(Qt::NoModifier);
-        setFocus(Qt::OtherFocusReason); // so that the new state is said
-    }
+void CommandClickableButton::runWithFocus()
+{
+    run(Qt::NoModifier);
+    setFocus(Qt::OtherFocusReason); // so that the new state is said
+}
 
-    void CommandClickableButton::requestMenu()
-    {
-        setFocus(Qt::OtherFocusReason);
-        setHovered(false); // the menu takes the pointer
-        Q_EMIT menuRequested();
-    }
+void CommandClickableButton::requestMenu()
+{
+    setFocus(Qt::OtherFocusReason);
+    setHovered(false); // the menu takes the pointer
+    Q_EMIT menuRequested();
+}
 
-    void CommandClickableButton::setHovered(bool inside)
-    {
-        if (m_viewSettings.showStatusLabelOnHover)
-            setShowTooltip(inside);
-    }
+void CommandClickableButton::setHovered(bool inside)
+{
+    if (m_viewSettings.showStatusLabelOnHover)
+        setShowTooltip(inside);
+}
 
-    void CommandClickableButton::setShowTooltip(bool show)
-    {
-        if (show && m_tooltipText && !m_label) {
-            m_label = new HoverLabel(this, numberArea(), labelStyle);
-            updateLabel();
-        } else if (!show && m_label) {
-            m_label->dismiss();
-            m_label.clear();
-        }
+void CommandClickableButton::setShowTooltip(bool show)
+{
+    if (show && m_tooltipText && !m_label) {
+        m_label = new HoverLabel(this, numberArea(), labelStyle);
+        updateLabel();
+    } else if (!show && m_label) {
+        m_label->dismiss();
+        m_label.clear();
     }
+}
 
-    void CommandClickableButton::updateLabel()
-    {
-        if (!m_label || !m_tooltipText)
-            return;
-        HoverLabel::Mark mark;
-        if (m_state != DayState::UNKNOWN)
-            mark = [state = m_state](QPainter& painter, const QRectF& area) {
-                drawStateMark(painter, area, state, Qt::white);
-            };
-        m_label->setText(*m_tooltipText, mark);
-    }
+void CommandClickableButton::updateLabel()
+{
+    if (!m_label || !m_tooltipText)
+        return;
+    HoverLabel::Mark mark;
+    if (m_state != DayState::UNKNOWN)
+        mark = [state = m_state](QPainter& painter, const QRectF& area) {
+            drawStateMark(painter, area, state, Qt::white);
+        };
+    m_label->setText(*m_tooltipText, mark);
+}

@@ -48,18 +48,15 @@ int SegmentedTabs::symbolRoom(int index) const
     return tabData(index).isValid() ? fonts::grown(usualTabSymbolSize, font()) + tabSymbolGap : 0;
 }
 
-QSize SegmentedTabs::tabSizeHint(int /*index*/) const
-
-    QSize SegmentedTabs::tabSizeHint(int index) const
+QSize SegmentedTabs::tabSizeHint(int index) const
 {
     const QFontMetrics metrics(selectedFont(*this));
-    const auto size = [&](int tab) { return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({22, 8, 22, 8}); };
+    const auto size = [&](int tab) {
+        return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({22 + symbolRoom(tab), 8, 22, 8});
+    };
     QSize widest;
     for (int i = 0; i < count(); ++i)
-        widest = widest.expandedTo(metrics.size(Qt::TextShowMnemonic, tabText(i)).grownBy({symbolRoom(i), 0, 0, 0}));
-    return widest.grownBy({22, 8, 22, 8});
-
-    widest = widest.expandedTo(size(i));
+        widest = widest.expandedTo(size(i));
     return count() * widest.width() <= widestContents() ? widest : size(index);
 }
 

@@ -34,16 +34,17 @@ std::optional<double> predictedAverage(const AttendanceStatistics& statistics)
 {
     const double prediction = statistics.prediction;
     return std::isfinite(prediction) && prediction > statistics.average ? std::optional(prediction) : std::nullopt;
+}
 
-    int columnWidth(const QFont& font)
-    {
-        return qMin(fonts::grown(usualColumnWidth, font), widestContents() - fonts::grown(usualRoomForCaptions, font));
-    }
+int columnWidth(const QFont& font)
+{
+    return qMin(fonts::grown(usualColumnWidth, font), widestContents() - fonts::grown(usualRoomForCaptions, font));
+}
 
-    QString captionOf(const ValuedGoal& goal)
-    {
-        return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
-    }
+QString captionOf(const ValuedGoal& goal)
+{
+    return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
+}
 
 } // namespace
 

@@ -105,6 +105,7 @@ void TrackingPopover::refresh()
     m_nextCheck->setText(timeText(m_status.isChecking() ? m_check.nextCheck.value() : QDateTime()));
     m_setUp->setVisible(!m_status.isSetUp());
     setAccessibleName(m_title->text());
+    setAccessibleDescription(spokenRows());
     layout()->activate(); // or the rows would have the heights of their last texts
     adjustSize();
 }
@@ -115,9 +116,6 @@ void TrackingPopover::showResult()
     m_result->setText(outcome.text());
     m_result->setForegroundRole(outcome.kind == CheckOutcome::Failed ? QPalette::BrightText : QPalette::WindowText);
     m_rows->setRowVisible(m_result, outcome.kind != CheckOutcome::None);
-
-    setAccessibleDescription(spokenRows());
-    adjustSize();
 }
 
 QString TrackingPopover::spokenRows() const

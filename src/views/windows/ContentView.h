@@ -64,8 +64,6 @@ private:
     LocationAlert* m_alert = nullptr;
     SaveAlert* m_saveAlert = nullptr;
     AlertCard* m_setUpAlert = nullptr;
-    QTabBar* m_tabs;
-
     SegmentedTabs* m_tabs;
     LazyStack* m_pages;
     bool m_painted = false;
