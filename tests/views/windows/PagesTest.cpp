@@ -82,14 +82,6 @@ TEST_F(PagesTest, aClickOnTheNavigationShowsNoFocus)
         show(*page);
         named<QWidget>(*page, "previous").setFocus();
         page->showDay({2026, 7, 1});
-
-        for (const char* control : {"next", "today"}) {
-            press(*page, Qt::Key_Tab);
-            EXPECT_EQ(page->focusWidget(), &named<QWidget>(*page, control));
-        }
-        do
-            press(*page, Qt::Key_Tab);
-        while (qobject_cast<SpokenGroup*>(page->focusWidget()) != nullptr);
         EXPECT_TRUE(isRinged(dayButton(*page, 1)));
         click(dayButton(*page, 15));
         click(named<QWidget>(*page, "next"));
