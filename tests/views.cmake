@@ -31,6 +31,7 @@ foreach(case
         desktop_test.DesktopTest.test_controls_have_names_and_roles
         desktop_test.DesktopTest.test_goes_on_without_a_window_while_it_tracks
         desktop_test.DesktopTest.test_starts_at_login_without_a_window
+        desktop_test.DesktopTest.test_tells_a_screen_reader_what_happens
         faults_test.FaultsTest.test_goes_on_while_nothing_answers_and_opens_nothing_to_the_internet
         faults_test.FaultsTest.test_marks_a_day_at_the_office_once
         faults_test.FaultsTest.test_says_that_there_is_no_radio

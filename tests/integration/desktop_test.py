@@ -12,6 +12,8 @@ from functools import partial
 from pathlib import Path
 
 import dbus.bus
+from dbus.mainloop.glib import DBusGMainLoop
+from gi.repository import GLib
 
 PATIENCE = 30
 PROGRAM, NAME = os.environ["PELLORY_PROGRAM"], "io.github.pellory.Pellory"
@@ -20,7 +22,7 @@ WATCHER = "org.kde.StatusNotifierWatcher"
 REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 ACCESSIBLE, ACTION, PROPERTIES = "org.a11y.atspi.Accessible", "org.a11y.atspi.Action", "org.freedesktop.DBus.Properties"
 ACTIVE, FOCUSABLE, SHOWING = 1 << 1, 1 << 11, 1 << 25
-ROLES = {"dialog", "frame", "window", "check box", "page tab", "page tab list", "push button", "text"}
+ROLES = {"dialog", "frame", "window", "check box", "label", "page tab", "page tab list", "push button", "text"}
 Node = namedtuple("Node", "window name states place")
 
 
@@ -49,7 +51,7 @@ class DesktopTest(unittest.TestCase):
         # One bus for everything, by the rules of that of screen readers: anybody may do anything.
         rules = "--config-file=/usr/share/defaults/at-spi2/accessibility.conf"
         self.start("dbus-daemon", rules, "--nofork", f"--address={bus}")
-        self.bus = eventually(lambda: dbus.bus.BusConnection(bus))
+        self.bus = eventually(lambda: dbus.bus.BusConnection(bus, mainloop=DBusGMainLoop()))
         self.addCleanup(self.bus.close)
         reader = self.mock(READER, "/org/a11y/bus", READER, "/org/a11y/bus", READER)
         reader("AddMethod", "sssss", READER, "GetAddress", "", "s", f"ret = '{bus}'")
@@ -97,6 +99,40 @@ class DesktopTest(unittest.TestCase):
         # Since Qt 6.11 a window's accessible name is its whole title.
         return [node.name.removesuffix(" — Pellory") for node in self.shown(None, states) if not node.window]
 
+    def listen(self):
+        """From now on self.spoken is what Orca says: of events without a text in them it says only two kinds."""
+        self.spoken, self.awaited, self.reached = [], [], None
+        self.bus.add_signal_receiver(self.speak, dbus_interface="org.a11y.atspi.Event.Object", member_keyword="event",
+                                     sender_keyword="sender", path_keyword="path")
+        self.tell((REGISTRY[0], "/org/a11y/atspi/registry"), REGISTRY[0], "RegisterEvent", "sass", "object:", [], "")
+
+    def speak(self, detail, is_on, _, value, *_properties, event, sender, path):
+        place = (sender, path)
+        with suppress(dbus.DBusException):  # what has gone by now is not said
+            ask = partial(self.tell, place, PROPERTIES, "Get", "ss", ACCESSIBLE)
+            if (event, detail, is_on) == ("StateChanged", "focused", 1) and place != self.reached:
+                self.reached, self.name = place, None
+                self.name = ask("Name")
+                text = f"{self.name} {ask('Description')}"
+                self.spoken += [text] * (text not in self.spoken)  # the focus may return
+            elif (event, detail, is_on) == ("StateChanged", "showing", 1):
+                if self.tell(place, ACCESSIBLE, "GetRoleName") == "notification":
+                    self.spoken.append(ask("Name"))
+            elif event == "Announcement" or detail == "accessible-name" and place == self.reached:
+                if isinstance(value, str) and value != self.name:
+                    self.spoken.append(value)
+
+    def hear(self, *texts):
+        """Waits until each of these has been said; neither these nor those before have been said twice."""
+        def heard(text):
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return sum(text in spoken for spoken in self.spoken)
+        self.awaited += texts
+        eventually(lambda: all(heard(text) for text in self.awaited))
+        self.assertEqual([text for text in self.awaited if heard(text) > 1], [])
+        return True
+
     def press(self, *names, then):
         """Presses what has these names, each as soon as it is there; then another name appears, or something holds."""
         for name in names:
@@ -137,6 +173,35 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual([control for control in controls if not control[2].strip() or control[1] not in ROLES], [])
         self.assertEqual(len({window for window, _, _ in controls}), 6)
         self.assertGreaterEqual(len([name for _, _, name in controls if name.endswith(", Unknown")]), 90)
+
+    def test_tells_a_screen_reader_what_happens(self):
+        self.listen()
+        program = self.start(PROGRAM)
+        key = partial(self.on_display, program, "Pellory", "key", "--window", "0")
+        for step in ("Step 2 of 5. Your goals. On average", "Step 3 of 5. Always there", "Step 4 of 5. Days that mark",
+                     "Step 5 of 5. All set. These are your choices. "):
+            self.press("Next", then=lambda: self.hear(step))
+        self.press("Done", then=lambda: self.titles() == ["Pellory"])
+        self.on_display(program, "Pellory", "windowfocus")
+        day, place = [(node.name.removesuffix("Unknown"), node.place) for node in self.shown()
+                      if node.name.endswith(", Unknown")][9]
+        self.press(day + "Unknown", then=day + "In the Office")
+        self.hear(day + "In the Office")
+        key("3")
+        self.hear(day + "Out of Office")
+        self.tell(place, ACTION, "DoAction", "i", 1)
+        self.tell(eventually(lambda: self.shown("Vacation Day"))[0].place, ACTION, "DoAction", "i", 0)
+        self.hear(day + "Vacation Day")
+        quarter = next(node for node in self.shown() if node.name.startswith("Progress of the quarter: 0 days"))
+        self.press(quarter.name, "Tracking Off", then="Last check")
+        self.hear(quarter.name, "Tracking Off Wi-Fi: ")
+        key("Escape")
+        self.press("Help", then=lambda: self.hear("Legend: Unknown: Ctrl with a click, or key 1. In the"))
+        self.press("Settings", "Add Goal", then=lambda: self.hear("Input must be a number between 0.0 and 7.0"))
+        self.press("Office Networks", "Enable Automatic Tracking", then=lambda: self.hear("but Wi-Fi is turned off."))
+        next(self.folder.glob("*/*.store")).unlink()
+        self.on_display(program, "Pellory", "windowfocus")
+        self.hear("Data File Missing. ")
 
     def test_goes_on_without_a_window_while_it_tracks(self):
         server = self.mock(NOTIFICATIONS, "/org/freedesktop/Notifications", "-t", "notification_daemon",
