@@ -5,9 +5,16 @@
 #include "LinkButton.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
+#include "SpokenGroup.h"
 #include "ViewSettings.h"
 
 #include <QGridLayout>
+
+namespace {
+
+constexpr int spacing = 8;
+
+} // namespace
 
 TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
                          const QProperty<bool>& isTrackerShown, QWidget* parent)
@@ -16,8 +23,10 @@ TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSe
     , m_tracker(new ProgressWidgetView(settings, viewSettings, period))
 {
     setFixedWidth(contentWidth(font()));
-    m_column->setContentsMargins(0, 16, 0, 12);
-    m_column->setSpacing(8);
+    // The tracker has some room around it already.
+    constexpr int inside = SpokenGroup::ringRoom;
+    m_column->setContentsMargins(0, 16 - inside, 0, 12 - inside);
+    m_column->setSpacing(spacing - inside);
     m_column->addWidget(m_tracker);
     follow(isTrackerShown, this, [this, &isTrackerShown] { m_tracker->setVisible(isTrackerShown); });
 }
@@ -30,8 +39,8 @@ void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
 void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 {
     auto* header = new QGridLayout;
-    header->setContentsMargins(20, 0, 20, 0);
-    header->setVerticalSpacing(m_column->spacing());
+    header->setContentsMargins(20, SpokenGroup::ringRoom, 20, 0);
+    header->setVerticalSpacing(spacing);
     if (navigation != nullptr)
         header->addWidget(navigation, 0, 0);
     header->addWidget(title, 1, 0, Qt::AlignHCenter);
@@ -46,4 +55,5 @@ void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 void TrackerCard::addBelowTracker(QWidget* widget)
 {
     m_column->addWidget(widget);
+    m_column->addSpacing(SpokenGroup::ringRoom);
 }

@@ -7,8 +7,9 @@
 
 using namespace Qt::StringLiterals;
 
-SpokenGroup::SpokenGroup(QWidget* parent)
+SpokenGroup::SpokenGroup(int ringInset, QWidget* parent)
     : QWidget(parent)
+    , m_ringInset(ringInset)
 {
     setAccessibleRole(*this, QAccessible::StaticText); // of a group, readers say the labels too
     setFocusPolicy(Qt::TabFocus);
@@ -30,5 +31,5 @@ void SpokenGroup::paintEvent(QPaintEvent* /*event*/)
     constexpr qreal radius = 6.0;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius);
+    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1 + m_ringInset, 1, -1 - m_ringInset, -1), radius);
 }

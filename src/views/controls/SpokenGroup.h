@@ -10,7 +10,11 @@ class SpokenGroup : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SpokenGroup(QWidget* parent = nullptr);
+    /// Room for the focus ring, which the layout leaves around the contents.
+    static constexpr int ringRoom = 5;
+
+    /// The focus ring stays this far from the sides.
+    explicit SpokenGroup(int ringInset = 0, QWidget* parent = nullptr);
 
     /// Sets what is said: the title, then the texts.
     void setSpokenText(const QString& title, const QStringList& texts);
@@ -20,5 +24,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int m_ringInset;
     FocusVisible m_focusVisible;
 };

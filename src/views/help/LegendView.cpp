@@ -64,9 +64,10 @@ QString spokenText(const Day& day, const QString& text)
 LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     : QWidget(parent)
 {
+    constexpr int padding = SpokenGroup::ringRoom + 2;
     auto* rows = new SpokenGroup;
     auto* grid = new QGridLayout(rows);
-    grid->setContentsMargins({});
+    grid->setContentsMargins(padding, padding, padding, padding);
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(10);
     grid->setColumnStretch(textColumn, 1);
@@ -85,9 +86,12 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->setSpacing(14);
+    column->setSpacing(0);
     column->addWidget(rows);
-    column->addWidget(hoverSwitch);
+    auto* last = new QHBoxLayout;
+    last->setContentsMargins(padding, 0, padding, 0);
+    last->addWidget(hoverSwitch);
+    column->addLayout(last);
 }
 
 void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& text)

@@ -27,6 +27,7 @@ constexpr int usualBarHeight = 24;
 constexpr int usualLineHeight = 9;
 constexpr int usualLineWidth = 2;
 constexpr int linesOfGoal = 2;
+constexpr int cardEdge = 8;
 // More digits than the days of a quarter have.
 constexpr qint64 widestDays = 88;
 
@@ -50,7 +51,7 @@ QString captionOf(const ValuedGoal& goal)
 
 ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
                                        QWidget* parent)
-    : SpokenGroup(parent)
+    : SpokenGroup(cardEdge, parent)
     , m_settings(settings)
     , m_viewSettings(viewSettings)
     , m_period(period)
@@ -74,7 +75,7 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
     policy.setRetainSizeWhenHidden(true);
     m_goal->setSizePolicy(policy);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins({});
+    column->setContentsMargins(0, ringRoom, 0, ringRoom);
     column->setSpacing(4);
     column->addWidget(m_headline, 0, Qt::AlignHCenter);
     column->addWidget(m_goal, 0, Qt::AlignHCenter);
