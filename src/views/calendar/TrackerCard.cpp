@@ -2,6 +2,7 @@
 #include "TrackerCard.h"
 
 #include "Follow.h"
+#include "Fonts.h"
 #include "LinkButton.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
@@ -41,6 +42,11 @@ void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
     auto* header = new QGridLayout;
     header->setContentsMargins(20, SpokenGroup::ringRoom, 20, 0);
     header->setVerticalSpacing(spacing);
+
+    // The arrows of the navigation are above the ends of the tracker.
+    const int inset = fonts::grown(36, font());
+    header->setContentsMargins(inset, 0, inset, 0);
+    header->setVerticalSpacing(m_column->spacing());
     if (navigation != nullptr)
         header->addWidget(navigation, 0, 0);
     header->addWidget(title, 1, 0, Qt::AlignHCenter);

@@ -2,6 +2,7 @@
 #include "Button.h"
 
 #include "Fonts.h"
+#include "Outline.h"
 #include "ReturnKey.h"
 #include "Theme.h"
 
@@ -11,9 +12,8 @@
 
 namespace {
 
-constexpr QMargins buttonPadding(16, 7, 16, 7);
+constexpr QMargins buttonPadding(16, 8, 16, 8);
 constexpr qreal buttonRadius = 8.0;
-constexpr int buttonRingMargin = 3;
 constexpr int usualButtonSymbolSize = 14;
 constexpr int buttonSymbolGap = 6;
 
@@ -50,7 +50,7 @@ int Button::symbolRoom() const
 QSize Button::sizeHint() const
 {
     const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return words.grownBy(buttonPadding + buttonRingMargin).grownBy({symbolRoom(), 0, 0, 0});
+    return words.grownBy(buttonPadding).grownBy({symbolRoom(), 0, 0, 0});
 }
 
 void Button::focusInEvent(QFocusEvent* event)
@@ -72,16 +72,22 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     const bool isFilled = (m_prominent || isDefault()) && isEnabled();
     QColor face = isFilled ? palette().color(QPalette::Highlight) : theme.card;
     if (isEnabled() && (underMouse() || isDown()))
-        face = isFilled ? face.darker(isDown() ? 125 : 112) : (isDown() ? theme.border : theme.trough);
-    const QRectF area = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + buttonRingMargin));
+        face = isFilled ? face.darker(isDown() ? 125 : 112) : (isDown() ? theme.pressed : theme.trough);
+    const QRectF area = rect();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(isFilled ? QPen(face, 1.0) : QPen(theme.border, 1.0));
+    painter.setPen(isFilled ? face : isEnabled() ? theme.controlBorder : theme.border);
     painter.setBrush(face);
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), buttonRadius, buttonRadius);
-    painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.dimText);
-    paintLabel(painter, area.toRect());
-    m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), buttonRadius + 2);
+    if (isFilled)
+        drawOutline(painter, area, buttonRadius, theme);
+    painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.disabledText);
+    paintLabel(painter, rect());
+    // Inside, so that a button ends where its neighbours above and below do.
+    if (isFilled)
+        m_focusVisible.drawRing(painter, *this, area.adjusted(3, 3, -3, -3), buttonRadius - 3, Qt::white);
+    else
+        m_focusVisible.drawRing(painter, *this, area.adjusted(1, 1, -1, -1), buttonRadius);
 }
 
 void Button::paintLabel(QPainter& painter, const QRect& area) const

@@ -11,6 +11,7 @@ ButtonRow::ButtonRow(Qt::Alignment edge, QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // or stacked buttons would spread out
     m_buttons->setContentsMargins({});
+    m_buttons->setSpacing(10);
     m_buttons->setSizeConstraint(QLayout::SetNoConstraint);
     m_buttons->addStretch(edge == Qt::AlignRight ? 1 : 0);
     m_buttons->addStretch(edge == Qt::AlignRight ? 0 : 1);

@@ -33,7 +33,7 @@ void FlatButton::paintFace(QPainter& painter, const QColor& hovered) const
     painter.setRenderHint(QPainter::Antialiasing);
     if (isEnabled() && (underMouse() || isDown())) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(isDown() ? themeFor(palette()).border : hovered);
+        painter.setBrush(isDown() ? themeFor(palette()).pressed : hovered);
         painter.drawRoundedRect(rect(), radius, radius);
     }
     m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius);

@@ -54,7 +54,9 @@ QSize IconButton::sizeHint() const
 QColor IconButton::color() const
 {
     const Theme& theme = themeFor(palette());
-    return isEnabled() && !m_quiet ? theme.text : theme.dimText;
+    if (!isEnabled())
+        return theme.disabledText;
+    return m_quiet ? theme.dimText : theme.text;
 }
 
 void IconButton::paintEvent(QPaintEvent* /*event*/)

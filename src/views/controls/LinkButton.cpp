@@ -48,7 +48,7 @@ void LinkButton::paintEvent(QPaintEvent* /*event*/)
 
     QPainter painter(this);
     paintFace(painter, theme.page);
-    painter.setPen(isEnabled() ? theme.accent : theme.dimText);
+    painter.setPen(isEnabled() ? theme.accent : theme.disabledText);
     painter.drawText(inside, static_cast<int>(edge(!isLeading)), text());
     if (m_symbol)
         paintSymbol(painter,

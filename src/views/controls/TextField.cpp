@@ -44,7 +44,8 @@ void TextField::paintEvent(QPaintEvent* event)
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.controlBorder, 1.0));
         painter.setBrush(theme.field);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), fieldRadius, fieldRadius);
+        const qreal inset = painter.pen().widthF() / 2;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), fieldRadius, fieldRadius);
     }
     QLineEdit::paintEvent(event);
 }

@@ -8,9 +8,15 @@
 
 void FocusVisible::drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius) const
 {
+    drawRing(painter, widget, area, radius, themeFor(widget.palette()).accent);
+}
+
+void FocusVisible::drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius,
+                            const QColor& color) const
+{
     if (!widget.hasFocus() || !m_visible)
         return;
-    painter.setPen(QPen(themeFor(widget.palette()).accent, 2.0));
+    painter.setPen(QPen(color, 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area, radius, radius);
 }

@@ -3,6 +3,7 @@
 
 #include <QFocusEvent>
 
+class QColor;
 class QPainter;
 class QRectF;
 class QWidget;
@@ -24,6 +25,8 @@ public:
 
     /// Draws the ring if the widget has the focus and the keyboard is used.
     void drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius) const;
+    void drawRing(QPainter& painter, const QWidget& widget, const QRectF& area, qreal radius,
+                  const QColor& color) const;
 
     explicit operator bool() const { return m_visible; }
 

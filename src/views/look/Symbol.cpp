@@ -6,6 +6,9 @@
 #include <QPainterPath>
 #include <QPolygonF>
 
+#include <array>
+#include <utility>
+
 namespace {
 
 // Symbols are strokes on a 16 by 16 grid.
@@ -44,24 +47,34 @@ QPainterPath circled(QPainterPath path)
     return path;
 }
 
-QPainterPath gear(QPointF centre, qreal size)
+// A wheel with teeth.
+QPainterPath cog(QPointF centre, qreal size, int teeth)
 {
-    constexpr int teeth = 8;
-    QPainterPath path;
-    path.addEllipse(centre, 0.5 * size, 0.5 * size);
+    // The outline of a tooth: how far along the way to the next one, and how far out.
+    constexpr std::array<std::pair<qreal, qreal>, 4> corners{{{0.18, 0.72}, {0.32, 1.0}, {0.68, 1.0}, {0.82, 0.72}}};
+    QPolygonF outline;
     for (int tooth = 0; tooth < teeth; ++tooth) {
-        const QLineF spoke = QLineF::fromPolar(size, 360.0 * tooth / teeth).translated(centre);
-        path.moveTo(spoke.pointAt(0.68));
-        path.lineTo(spoke.p2());
+        for (const auto& [along, outwards] : corners)
+            outline += QLineF::fromPolar(outwards * size, 360.0 * (tooth + along) / teeth).translated(centre).p2();
     }
+    QPainterPath path = line(outline);
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath gear()
+{
+    constexpr QPointF centre(8.0, 8.0);
+    QPainterPath path = cog(centre, 6.9, 8);
+    path.addEllipse(centre, 2.2, 2.2);
     return path;
 }
 
 QPainterPath documentWithGear()
 {
-    QPainterPath path = line({{7.4, 14.3}, {2.6, 14.3}, {2.6, 1.5}, {8.4, 1.5}, {12.2, 5.3}, {12.2, 7.2}});
+    QPainterPath path = line({{6.0, 14.3}, {2.6, 14.3}, {2.6, 1.5}, {8.4, 1.5}, {12.2, 5.3}, {12.2, 5.8}});
     path.addPath(line({{8.4, 1.5}, {8.4, 5.3}, {12.2, 5.3}}));
-    path.addPath(gear({11.4, 11.8}, 3.4));
+    path.addPath(cog({11.3, 11.3}, 4.0, 6));
     return path;
 }
 
@@ -146,7 +159,7 @@ QPainterPath strokesOf(Symbol symbol)
     case Symbol::DocumentGear:
         return documentWithGear();
     case Symbol::Gear:
-        return gear({8.0, 8.0}, 6.6);
+        return gear();
     case Symbol::Question:
         return circled(questionMark());
     case Symbol::Plus:

@@ -24,12 +24,14 @@ constexpr Theme light{
     .border = rgb(0xe2e2e5),
     .text = rgb(0x202124),
     .dimText = rgb(0x5f6065),
+    .disabledText = rgb(0x5f6065),
     .accent = rgb(0x175fcf),
     .fill = rgb(0x175fcf),
     .errorText = rgb(0xb3261e),
     .field = rgb(0xffffff),
     .controlBorder = rgb(0x8b8d94),
     .outline = transparent,
+    .pressed = rgb(0xe2e2e5),
     .trough = rgb(0xe4e4e8),
     .selected = rgb(0xffffff),
     .progressTrack = rgb(0xe4e4e8),
@@ -52,12 +54,14 @@ constexpr Theme dark{
     .border = rgb(0x3a3b40),
     .text = rgb(0xf2f2f4),
     .dimText = rgb(0xa4a6ac),
+    .disabledText = rgb(0xa4a6ac),
     .accent = rgb(0x5b9bff),
     .fill = rgb(0x1f6be0),
     .errorText = rgb(0xff8a80),
     .field = rgb(0x1e1f22),
     .controlBorder = rgb(0x74767d),
     .outline = transparent,
+    .pressed = rgb(0x3a3b40),
     .trough = rgb(0x33343a),
     .selected = rgb(0x4a4c53),
     .progressTrack = rgb(0x3a3b41),
@@ -80,12 +84,14 @@ constexpr Theme contrastingLight{
     .border = black,
     .text = black,
     .dimText = black,
+    .disabledText = rgb(0x6a6b70),
     .accent = rgb(0x003a9b),
     .fill = rgb(0x003a9b),
     .errorText = rgb(0x8c0009),
     .field = white,
     .controlBorder = black,
     .outline = black,
+    .pressed = rgb(0xc8cacf),
     .trough = rgb(0xe4e4e8),
     .selected = white,
     .progressTrack = white,
@@ -108,12 +114,14 @@ constexpr Theme contrastingDark{
     .border = white,
     .text = white,
     .dimText = white,
+    .disabledText = rgb(0x909299),
     .accent = rgb(0x8ab8ff),
     .fill = rgb(0x1552b8),
     .errorText = rgb(0xffb4ab),
     .field = black,
     .controlBorder = white,
     .outline = white,
+    .pressed = rgb(0x4a4c53),
     .trough = rgb(0x303136),
     .selected = black,
     .progressTrack = black,
@@ -170,7 +178,7 @@ QPalette paletteFor(const Look& look)
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, theme.text);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, theme.dimText);
+        palette.setColor(QPalette::Disabled, role, theme.disabledText);
     palette.setColor(QPalette::Window, theme.page);
     palette.setColor(QPalette::Base, theme.card);
     palette.setColor(QPalette::AlternateBase, theme.page);

@@ -22,6 +22,8 @@ struct Theme {
     QColor border;
     QColor text;
     QColor dimText;
+    /// Of controls that are disabled.
+    QColor disabledText;
     QColor accent;
     /// The ground of white text: the main button, a switch that is on, what is selected.
     QColor fill;
@@ -32,6 +34,8 @@ struct Theme {
     QColor controlBorder;
     /// Around what would differ from its ground by colour alone. Transparent unless contrast is high.
     QColor outline;
+    /// The ground of what is pressed.
+    QColor pressed;
     /// The backgrounds of a segmented control and of its selected segment.
     QColor trough;
     QColor selected;

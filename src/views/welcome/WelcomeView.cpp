@@ -59,6 +59,7 @@ QWidget* WelcomeView::makeFooter()
     m_next->setObjectName("next"_L1);
     m_next->setDefault(true);
     auto* onward = new QHBoxLayout;
+    onward->setSpacing(10);
     onward->addWidget(m_back);
     onward->addWidget(m_next);
     auto* footer = new Bar(Qt::TopEdge);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarViewTest.h"
 #include "HoverLabel.h"
+#include "StillStyle.h"
 
 #include <QPropertyAnimation>
 #include <QScrollArea>
@@ -43,6 +44,14 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
     EXPECT_EQ(labels().first()->findChild<QPropertyAnimation*>()->endValue().toReal(), 1.0);
     view.setMonth(november);
     EXPECT_TRUE(eventually([&] { return labels().isEmpty(); }));
+}
+
+TEST_F(HoverTest, theStateDoesNotFadeInForPeopleWhoWantNoAnimations)
+{
+    QApplication::setStyle(new StillStyle);
+    rest(friday);
+    EXPECT_EQ(labels().first()->opacity(), 1.0);
+    QApplication::setStyle(u"Fusion"_s);
 }
 
 TEST_F(HoverTest, theOnlyLabelIsThatOfTheDayUnderThePointerAlsoAfterScrolling)
