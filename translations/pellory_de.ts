@@ -584,6 +584,13 @@
     </message>
 </context>
 <context>
+    <name>MessageBoxAlerts</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>MonthView</name>
     <message>
         <source>Last Month</source>

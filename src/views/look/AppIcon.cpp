@@ -12,7 +12,7 @@ QIcon appIcon()
 {
     Q_INIT_RESOURCE(icon);
     QIcon icon;
-    for (const int size : {16, 32}) {
+    for (const int size : {16, 32, 64}) {
         const QResource pixels(u":/icon/%1"_s.arg(size));
         QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
         Q_ASSERT(pixels.size() == image.sizeInBytes());

@@ -3,5 +3,5 @@
 
 #include <QIcon>
 
-/// The icon of the program, from its own resources in 16 and 32 pixels.
+/// The icon of the program, from its own resources in 16, 32 and 64 pixels.
 [[nodiscard]] QIcon appIcon();
