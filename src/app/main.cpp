@@ -5,6 +5,7 @@
 #include "AutostartEntry.h"
 #include "Background.h"
 #include "CommandLine.h"
+#include "Compositor.h"
 #include "Connection.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
@@ -112,7 +113,8 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
                           platform.wifiClient,
                           locationManager,
                           check,
-                          launchAtLogin};
+                          launchAtLogin,
+                          hasCompositor};
     AppWindows windows(parts);
     Background background(parts, windows, platform.notifier, platform.trayHost, settings, alerts);
     look.follow(platform.appearance);

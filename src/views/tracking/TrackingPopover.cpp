@@ -22,6 +22,21 @@ namespace {
 
 // In the usual font, with which it grows.
 constexpr int resultWidth = 220;
+constexpr QMargins padding(20, 16, 20, 16);
+constexpr qreal cornerRadius = 12.0;
+constexpr int shadowReach = 14;
+constexpr int shadowDrop = 3;
+
+// Thin layers that add up to a soft edge.
+void drawShadow(QPainter& painter, const QRectF& panel)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 5));
+    const QRectF lower = panel.translated(0, shadowDrop);
+    for (int reach = shadowReach - shadowDrop; reach > 0; --reach)
+        painter.drawRoundedRect(lower.adjusted(-reach, -reach, reach, reach), cornerRadius + reach,
+                                cornerRadius + reach);
+}
 
 QLabel* addRow(QFormLayout& rows, const QString& name)
 {
@@ -63,7 +78,7 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     setFocusPolicy(Qt::TabFocus);
     m_rows->setHorizontalSpacing(24);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 16, 20, 16);
+    column->setContentsMargins(padding);
     column->setSpacing(12);
     column->addWidget(m_title);
     column->addLayout(m_rows);
@@ -80,16 +95,29 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     follow(check.nextCheck, this, [this] { refresh(); });
 }
 
+void TrackingPopover::setBlended(bool isBlended)
+{
+    m_isBlended = isBlended;
+    setAttribute(Qt::WA_TranslucentBackground, isBlended);
+    layout()->setContentsMargins(padding + shadow());
+}
+
+int TrackingPopover::shadow() const
+{
+    return m_isBlended ? shadowReach : 0;
+}
+
 void TrackingPopover::popUp()
 {
     adjustSize();
     const QWidget& anchor = *parentWidget();
-    const QPoint below =
-        anchor.mapToGlobal(layoutDirection() == Qt::LeftToRight ? anchor.rect().bottomLeft()
-                                                                : anchor.rect().bottomRight() - QPoint(width(), 0));
-    const QRect room = anchor.screen()->availableGeometry();
+    const QPoint below = layoutDirection() == Qt::LeftToRight
+                             ? anchor.mapToGlobal(anchor.rect().bottomLeft()) - QPoint(shadow(), 0)
+                             : anchor.mapToGlobal(anchor.rect().bottomRight()) - QPoint(width() - shadow(), 0);
+    // The shadow may leave the screen.
+    const QRect room = anchor.screen()->availableGeometry().marginsAdded(QMargins() + shadow());
     move(qBound(room.left(), below.x(), qMax(room.left(), room.right() - width())),
-         qBound(room.top(), below.y() + 4, qMax(room.top(), room.bottom() - height())));
+         qBound(room.top(), below.y() + 4 - shadow(), qMax(room.top(), room.bottom() - height())));
     show();
     setFocus(Qt::PopupFocusReason); // so that a screen reader says it
 }
@@ -143,8 +171,13 @@ QString TrackingPopover::timeText(const QDateTime& time) const
 void TrackingPopover::paintEvent(QPaintEvent* /*event*/)
 {
     const Theme& theme = themeFor(palette());
+    const QRectF panel = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + shadow()));
+    const qreal radius = m_isBlended ? cornerRadius : 0.0;
     QPainter painter(this);
-    painter.fillRect(rect(), theme.card);
-    painter.setPen(theme.border);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_isBlended)
+        drawShadow(painter, panel);
+    painter.setPen(m_isBlended ? theme.border : theme.controlBorder);
+    painter.setBrush(theme.card);
+    painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }

@@ -17,6 +17,8 @@ class TrackingPopover : public QWidget {
 public:
     TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock, QWidget* anchor);
 
+    /// Gives it round corners and a shadow, which need a windowing system that blends windows.
+    void setBlended(bool isBlended);
     void popUp();
 
 Q_SIGNALS:
@@ -26,6 +28,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The room for the shadow on each side.
+    [[nodiscard]] int shadow() const;
     void refresh();
     void showResult();
 
@@ -43,4 +47,5 @@ private:
     QLabel* m_result;
     QLabel* m_nextCheck;
     Button* m_setUp;
+    bool m_isBlended = false;
 };

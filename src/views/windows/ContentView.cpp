@@ -97,6 +97,7 @@ QWidget* ContentView::makeIndicator()
     connect(indicator, &QAbstractButton::clicked, this, [this, indicator] {
         auto* popover = new TrackingPopover(*m_status, m_parts.check, m_parts.clock, indicator);
         connect(popover, &TrackingPopover::setUpRequested, this, &ContentView::setUpRequested);
+        popover->setBlended(m_parts.blendsWindows && m_parts.blendsWindows());
         popover->popUp();
     });
     return indicator;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 class AppSettings;
 class Clock;
 class InOfficeCheck;
@@ -20,4 +22,6 @@ struct ViewParts {
     LocationManagerKey& locationManager;
     InOfficeCheck& check;
     LaunchAtLogin& launchAtLogin;
+    /// Whether a window may have transparent parts.
+    std::function<bool()> blendsWindows = {};
 };

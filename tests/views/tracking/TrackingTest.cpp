@@ -25,6 +25,10 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     EXPECT_TRUE(popover->screen()->availableGeometry().contains(popover->geometry()));
     settings->wifiTrackingEnabled = true;
     EXPECT_EQ(indicator.toolTip(), u"Set-up Not Finished"_s);
+    for (const bool isBlended : {true, false}) {
+        popover->setBlended(isBlended);
+        EXPECT_EQ(popover->grab().toImage().pixelColor(0, 0).alpha() == 0, isBlended);
+    }
     settings->firstTime = false;
     check.lastCheck = clock.now().addDays(-1);
     check.nextCheck = clock.now().addSecs(1800);
