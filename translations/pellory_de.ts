@@ -1174,10 +1174,6 @@
         <translation>Alles bereit</translation>
     </message>
     <message>
-        <source>These are your choices. You can change them later in the settings (Ctrl+,). Press F1 to see what the colours mean.</source>
-        <translation>Das haben Sie gewählt. Alles lässt sich später in den Einstellungen (Strg+,) ändern, und F1 erklärt die Farben.</translation>
-    </message>
-    <message>
         <source>No goals</source>
         <translation>Keine Ziele</translation>
     </message>
@@ -1216,6 +1212,26 @@
     <message>
         <source>No office network is set, so no day is marked as in the office. Go back to add one.</source>
         <translation>Es ist kein Büronetzwerk angegeben, daher wird kein Tag als „Im Büro“ erfasst. Mit „Zurück“ können Sie eines hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Weekend Day</source>
+        <translation>Wochenendtag</translation>
+    </message>
+    <message>
+        <source>In the sample month</source>
+        <translation>Im Beispielmonat</translation>
+    </message>
+    <message>
+        <source>When it marks a day</source>
+        <translation>Wenn ein Tag markiert wird</translation>
+    </message>
+    <message>
+        <source>These are your choices. You can change them later in the settings (Ctrl+,). Press F1 for help.</source>
+        <translation>Das haben Sie gewählt. Alles lässt sich später in den Einstellungen (Strg+,) ändern. F1 öffnet die Hilfe.</translation>
+    </message>
+    <message>
+        <source>What the colours mean</source>
+        <translation>Was die Farben bedeuten</translation>
     </message>
 </context>
 <context>

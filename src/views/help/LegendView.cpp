@@ -2,19 +2,17 @@
 #include "LegendView.h"
 
 #include "Day.h"
+#include "DaySwatch.h"
 #include "KeyCap.h"
 #include "Labels.h"
 #include "SpokenGroup.h"
 #include "StateGestures.h"
-#include "StateMark.h"
 #include "Switch.h"
 #include "SymbolView.h"
-#include "Theme.h"
 #include "ViewSettings.h"
 
 #include <QGridLayout>
 #include <QKeySequence>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
@@ -23,25 +21,6 @@ constexpr int swatchColumn = 0;
 constexpr int keyColumn = 1;
 constexpr int textColumn = 2;
 constexpr int numberColumn = 3;
-
-class Swatch : public QWidget {
-public:
-    explicit Swatch(const Day& day)
-        : m_day(day)
-    {
-        setFixedSize(28, 21);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        drawDaySwatch(painter, rect(), themeFor(palette()), m_day);
-    }
-
-private:
-    Day m_day;
-};
 
 QString keyText(DayState state)
 {
@@ -97,7 +76,7 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
 void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& text)
 {
     const int row = grid.rowCount();
-    grid.addWidget(new Swatch(day), row, swatchColumn, Qt::AlignCenter);
+    grid.addWidget(new DaySwatch(day), row, swatchColumn, Qt::AlignCenter);
     const ClickModifier modifier = day.isWorkday ? modifierFor(day.state) : ClickModifier::None;
     if (modifier != ClickModifier::None)
         grid.addWidget(new KeyCap(keyName(modifier)), row, keyColumn, Qt::AlignLeft | Qt::AlignVCenter);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WelcomeSteps.h"
 
+#include "AppIcon.h"
 #include "AppSettings.h"
 #include "CalendarView.h"
 #include "Card.h"
 #include "Clock.h"
+#include "DaySwatch.h"
 #include "DaysPerWeekGoalView.h"
 #include "GeneralSettingsView.h"
+#include "InOfficeModelUpdater.h"
 #include "Labels.h"
 #include "LaunchAtLogin.h"
 #include "LocationStatus.h"
@@ -41,6 +44,58 @@ void addCard(QVBoxLayout& column, QWidget* contents)
     column.addWidget(Card::around(contents));
     column.addStretch();
 }
+
+void addFirstCard(QVBoxLayout& column, QWidget* contents, const QString& nextTitle)
+{
+    column.addWidget(Card::around(contents));
+    column.addSpacing(14);
+    column.addWidget(labels::strong(nextTitle));
+}
+
+// The icon of a notification with its texts.
+QWidget* makeSampleNotification()
+{
+    auto* icon = new QLabel;
+    icon->setPixmap(appIcon().pixmap(QSize(32, 32), icon->devicePixelRatioF()));
+    auto* notification = new QWidget;
+    auto* row = new QHBoxLayout(notification);
+    row->setContentsMargins({});
+    row->setSpacing(14);
+    row->addWidget(icon, 0, Qt::AlignTop);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(labels::strong(InOfficeModelUpdater::tr("Pellory")));
+    texts->addWidget(labels::text(InOfficeModelUpdater::tr("You have been marked as in the office today")));
+    row->addLayout(texts, 1);
+    return notification;
+}
+
+// A day in each state, and on a weekend.
+class ColorKey : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(WelcomeSteps)
+
+public:
+    ColorKey()
+    {
+        auto* grid = new QGridLayout(this);
+        grid->setContentsMargins({});
+        grid->setHorizontalSpacing(12);
+        grid->setVerticalSpacing(10);
+        for (const int textColumn : {1, 3})
+            grid->setColumnStretch(textColumn, 1);
+        constexpr int rows = 3;
+        int place = 0;
+        const auto add = [grid, &place](const Day& day, const QString& words) {
+            const int row = place % rows, column = place / rows * 2;
+            grid->addWidget(new DaySwatch(day), row, column);
+            grid->addWidget(labels::text(words), row, column + 1);
+            ++place;
+        };
+        for (const DayState state : allDayStates)
+            add({.id = 1, .state = state, .isWorkday = true}, description(state));
+        add({.id = 1}, tr("Weekend Day"));
+    }
+};
 
 // A month as it may look one day.
 std::shared_ptr<Month> makeSampleMonth(QDate today)
@@ -79,13 +134,17 @@ QWidget* WelcomeSteps::makeIntroduction(ModelContext& context, const AppSettings
     return new Page(step);
 }
 
-QWidget* WelcomeSteps::makeGoals(AppSettings& settings)
+QWidget* WelcomeSteps::makeGoals(AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock)
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Your goals"),
                               tr("On average, how many days a week do you want or need to be in the office? The "
                                  "progress tracker shows how many days you still need for each goal."));
-    addCard(*column, new DaysPerWeekGoalView(settings, false));
+    addFirstCard(*column, new DaysPerWeekGoalView(settings, false), tr("In the sample month"));
+    auto* tracker = new ProgressWidgetView(settings, viewSettings, PeriodWord::Month);
+    tracker->setMonths({makeSampleMonth(clock.today())});
+    column->addWidget(tracker);
+    column->addStretch();
     return new Page(step);
 }
 
@@ -95,7 +154,8 @@ QWidget* WelcomeSteps::makeGeneral(AppSettings& settings, LaunchAtLogin& launchA
     auto* column = makeColumn(step, tr("Always there, never in the way"),
                               tr("Pellory can start without a window when you log in, and notify you when it marks a "
                                  "day."));
-    addCard(*column, new GeneralSettingsView(settings, launchAtLogin, true));
+    addFirstCard(*column, new GeneralSettingsView(settings, launchAtLogin, true), tr("When it marks a day"));
+    addCard(*column, makeSampleNotification());
     return new Page(step);
 }
 
@@ -117,7 +177,7 @@ QWidget* WelcomeSteps::makeSummary(const AppSettings& settings, const LaunchAtLo
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("All set"),
                               tr("These are your choices. You can change them later in the settings (Ctrl+,). Press "
-                                 "F1 to see what the colours mean."));
+                                 "F1 for help."));
     auto* list = new QWidget;
     auto* lines = new QVBoxLayout(list);
     lines->setContentsMargins({});
@@ -138,6 +198,7 @@ QWidget* WelcomeSteps::makeSummary(const AppSettings& settings, const LaunchAtLo
             labels::error(tr("No office network is set, so no day is marked as in the office. Go back to add one.")));
     add(settings.notificationsEnabled ? tr("Notifications are on") : tr("Notifications are off"));
     add(launchAtLogin.isEnabled() ? tr("Pellory starts at login") : tr("Pellory does not start at login"));
-    addCard(*column, list);
+    addFirstCard(*column, list, tr("What the colours mean"));
+    addCard(*column, new ColorKey);
     return new Page(step);
 }

@@ -21,11 +21,13 @@ public:
     /// What Pellory is, with a sample month to try out. That month is never stored.
     [[nodiscard]] static QWidget* makeIntroduction(ModelContext& context, const AppSettings& settings,
                                                    const ViewSettings& viewSettings, const Clock& clock);
-    [[nodiscard]] static QWidget* makeGoals(AppSettings& settings);
+    /// The goals, and what the sample month makes of them.
+    [[nodiscard]] static QWidget* makeGoals(AppSettings& settings, const ViewSettings& viewSettings,
+                                            const Clock& clock);
     /// Notifications and the launch at login.
     [[nodiscard]] static QWidget* makeGeneral(AppSettings& settings, LaunchAtLogin& launchAtLogin);
     [[nodiscard]] static QWidget* makeWiFi(AppSettings& settings, WiFiClient& wifiClient,
                                            LocationManager& locationManager, InOfficeCheck& check);
-    /// What is set now.
+    /// What is set now, and what the colours mean.
     [[nodiscard]] static QWidget* makeSummary(const AppSettings& settings, const LaunchAtLogin& launchAtLogin);
 };

@@ -168,7 +168,7 @@ void AppWindows::makeWelcome()
             [&parts] {
                 return WelcomeSteps::makeIntroduction(parts.context, parts.settings, parts.viewSettings, parts.clock);
             },
-            [&parts] { return WelcomeSteps::makeGoals(parts.settings); },
+            [&parts] { return WelcomeSteps::makeGoals(parts.settings, parts.viewSettings, parts.clock); },
             [&parts] { return WelcomeSteps::makeGeneral(parts.settings, parts.launchAtLogin); },
             [&parts] {
                 LocationManager& locationManager = parts.locationManager.defaultValue();
