@@ -35,7 +35,8 @@ foreach(case
         faults_test.FaultsTest.test_goes_on_while_nothing_answers_and_opens_nothing_to_the_internet
         faults_test.FaultsTest.test_marks_a_day_at_the_office_once
         faults_test.FaultsTest.test_says_that_there_is_no_radio
-        faults_test.FaultsTest.test_starts_without_a_bus_and_after_every_end)
+        faults_test.FaultsTest.test_starts_without_a_bus_and_after_every_end
+        wayland_test.WaylandTest.test_opens_and_shows_its_windows_with_wayland)
     string(REGEX REPLACE ".*test_" "" name ${case})
     add_test(NAME integration.desktop.${name} WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/integration" COMMAND
         env PELLORY_PROGRAM=$<TARGET_FILE:pellory> /usr/bin/python3 -Bm unittest ${case})

@@ -46,8 +46,7 @@ class DesktopTest(unittest.TestCase):
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_LOGGING_RULES": "pellory.*=true",
             "DBUS_SESSION_BUS_ADDRESS": bus, "DBUS_SYSTEM_BUS_ADDRESS": bus,
             "ASAN_OPTIONS": "detect_leaks=0"}  # QtDBus leaks what nobody waits for any more
-        display = self.start("Xvfb", "-noreset", "-displayfd", "1")  # a server that resets refuses whoever comes then
-        self.environment["DISPLAY"] = ":" + eventually(lambda: re.search(r"^(\d+)\n", display.said(), re.MULTILINE))[1]
+        self.start_display()
         # One bus for everything, by the rules of that of screen readers: anybody may do anything.
         rules = "--config-file=/usr/share/defaults/at-spi2/accessibility.conf"
         self.start("dbus-daemon", rules, "--nofork", f"--address={bus}")
@@ -56,6 +55,10 @@ class DesktopTest(unittest.TestCase):
         reader = self.mock(READER, "/org/a11y/bus", READER, "/org/a11y/bus", READER)
         reader("AddMethod", "sssss", READER, "GetAddress", "", "s", f"ret = '{bus}'")
         self.start("/usr/libexec/at-spi2-registryd", service=REGISTRY[0])
+
+    def start_display(self):
+        display = self.start("Xvfb", "-noreset", "-displayfd", "1")  # a server that resets refuses whoever comes then
+        self.environment["DISPLAY"] = ":" + eventually(lambda: re.search(r"^(\d+)\n", display.said(), re.MULTILINE))[1]
 
     def start(self, *command, service=None):
         """Starts a child that does not outlive this process; what it has said is shown in the end."""
