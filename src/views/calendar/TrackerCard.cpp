@@ -40,13 +40,10 @@ void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
 void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 {
     auto* header = new QGridLayout;
-    header->setContentsMargins(20, SpokenGroup::ringRoom, 20, 0);
-    header->setVerticalSpacing(spacing);
-
     // The arrows of the navigation are above the ends of the tracker.
     const int inset = fonts::grown(36, font());
-    header->setContentsMargins(inset, 0, inset, 0);
-    header->setVerticalSpacing(m_column->spacing());
+    header->setContentsMargins(inset, SpokenGroup::ringRoom, inset, 0);
+    header->setVerticalSpacing(spacing);
     if (navigation != nullptr)
         header->addWidget(navigation, 0, 0);
     header->addWidget(title, 1, 0, Qt::AlignHCenter);

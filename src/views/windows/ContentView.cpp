@@ -235,7 +235,7 @@ void ContentView::showTab(int index)
 
 void ContentView::focusTab(int index)
 {
-    m_pages->setFocus(Qt::OtherFocusReason); // or a day that has the focus already would show no ring
+    setFocus(Qt::OtherFocusReason); // or a day that has the focus already would show no ring
     m_tabs->setCurrentIndex(index);
     page().focusCurrentDay(Qt::ShortcutFocusReason);
     scrollToFocus();

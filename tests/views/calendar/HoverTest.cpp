@@ -3,6 +3,7 @@
 #include "HoverLabel.h"
 #include "StillStyle.h"
 
+#include <QEnterEvent>
 #include <QPropertyAnimation>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -23,6 +24,9 @@ protected:
 
 TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
 {
+    QEnterEvent withoutMove({}, {}, {}); // as after a menu that has closed
+    QApplication::sendEvent(&dayButton(view, friday), &withoutMove);
+    EXPECT_EQ(labels().size(), 0);
     rest(friday);
     ASSERT_EQ(labels().size(), 1);
     const HoverLabel& label = *labels().first();

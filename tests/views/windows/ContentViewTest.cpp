@@ -25,9 +25,15 @@ TEST_F(ContentViewTest, opensTheStoredTabAndTurnsThePagesOfBoth)
         EXPECT_TRUE(eventually([&] { return painted.size() == 1; }));
         EXPECT_EQ(window.findChildren<CalendarPage*>().size(), 1); // the other is built when it is shown
         const auto today = u"Friday 20 November 2026, Unknown"_s;
+        const auto isRinged = [&window] {
+            QWidget& day = *window.focusWidget();
+            return day.grab().toImage().pixelColor(day.width() / 2, 1) == themeFor(Look()).accent;
+        };
         EXPECT_EQ(window.focusWidget()->accessibleName(), today);
+        EXPECT_FALSE(isRinged());
         press(window, isQuarter ? Qt::Key_1 : Qt::Key_2, Qt::ControlModifier);
         EXPECT_EQ(window.focusWidget()->accessibleName(), today);
+        EXPECT_TRUE(isRinged());
         EXPECT_EQ(stored.value("contentViewSelectedTab"), QVariant(isQuarter ? 1 : 2));
         auto& month = *window.findChild<MonthView*>();
         auto& quarter = *window.findChild<QuarterView*>();
