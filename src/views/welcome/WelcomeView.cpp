@@ -24,7 +24,7 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     : QDialog(parent)
     , m_steps(new LazyStack(std::move(steps)))
     , m_lastStep(m_steps->pageCount() - 1)
-    , m_message(labels::text({}))
+    , m_message(labels::announced(labels::text({})))
     , m_dots(new StepDots(m_steps->pageCount()))
     , m_skip(new Button(tr("Skip")))
     , m_back(new Button(tr("Back")))

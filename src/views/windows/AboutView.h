@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "SpokenGroup.h"
 
 /// The version and the licence of the program.
-class AboutView : public QWidget {
+class AboutView : public SpokenGroup {
     Q_OBJECT
 
 public:

@@ -55,6 +55,7 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     }
     check.nextCheck = clock.now().addSecs(3600);
     EXPECT_EQ(shownTexts(*popover).last(), u"10:00:00"_s);
+    EXPECT_TRUE(popover->accessibleDescription().endsWith(u"10:00:00"_s));
     const QSignalSpy setUp(&window, &ContentView::setUpRequested);
     settings->firstTime = true;
     click(named<QAbstractButton>(*popover, "finishSetUp"));
