@@ -56,7 +56,8 @@ void showAgainIfRefused(QWidget& window)
 {
     constexpr auto timeout = 300ms;
     QTimer::singleShot(timeout, &window, [&window] {
-        if (window.isActiveWindow() || QApplication::activeModalWidget() != nullptr)
+        const QWidget* modal = QApplication::activeModalWidget();
+        if (window.isActiveWindow() || (modal != nullptr && modal != &window))
             return;
         window.hide();
         window.show();
