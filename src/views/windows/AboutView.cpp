@@ -8,7 +8,7 @@
 #include <QGridLayout>
 
 AboutView::AboutView(QWidget* parent)
-    : SpokenGroup(parent)
+    : SpokenGroup(0, parent)
 {
     constexpr int iconSize = 32;
     auto* icon = new QLabel;
