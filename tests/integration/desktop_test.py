@@ -251,7 +251,7 @@ class DesktopTest(unittest.TestCase):
         [(_, [item])] = eventually(items)
         self.assertEqual((self.titles(), self.on_display(program)), ([], b""))
         shown = self.tell((item, "/StatusNotifierItem"), PROPERTIES, "GetAll", "s", "org.kde.StatusNotifierItem")
-        self.assertEqual((shown["IconName"], len(shown["IconPixmap"])), (symbolic.stem, 2))
+        self.assertEqual((shown["IconName"], len(shown["IconPixmap"])), (symbolic.stem, 3))
         self.assertIn("Pellory: Tracking Off", shown["ToolTip"])
         self.assert_handed_over(program)
         self.press("Help", then=lambda: self.titles(ACTIVE) == ["Help"])
