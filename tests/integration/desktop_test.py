@@ -15,7 +15,7 @@ import dbus.bus
 from dbus.mainloop.glib import DBusGMainLoop
 from gi.repository import GLib
 
-PATIENCE = 30
+TIMEOUT = 30
 PROGRAM, NAME = os.environ["PELLORY_PROGRAM"], "io.github.pellory.Pellory"
 READER, NOTIFICATIONS, DUNST = "org.a11y.Bus", "org.freedesktop.Notifications", "org.dunstproject.cmd0"
 WATCHER = "org.kde.StatusNotifierWatcher"
@@ -27,13 +27,13 @@ Node = namedtuple("Node", "window name states place")
 
 
 def eventually(condition):
-    deadline = time.monotonic() + PATIENCE
+    deadline = time.monotonic() + TIMEOUT
     while time.monotonic() < deadline:
         with suppress(dbus.DBusException):  # a window may go while it is asked
             if found := condition():
                 return found
         time.sleep(0.05)
-    raise AssertionError(f"{PATIENCE} s in vain")
+    raise AssertionError(f"{TIMEOUT} s without success")
 
 
 class DesktopTest(unittest.TestCase):
@@ -66,7 +66,7 @@ class DesktopTest(unittest.TestCase):
         with open(said, "wb") as log:
             child = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.environment,
                                      stdin=subprocess.DEVNULL, stdout=log, stderr=log)
-        self.addCleanup(lambda: (child.terminate(), child.wait(PATIENCE), print(*command, "\n" + child.said())))
+        self.addCleanup(lambda: (child.terminate(), child.wait(TIMEOUT), print(*command, "\n" + child.said())))
         child.said = said.read_text
         eventually(lambda: not service or self.bus.name_has_owner(service))
         return child
@@ -74,7 +74,7 @@ class DesktopTest(unittest.TestCase):
     def assert_handed_over(self, program):
         """Another start leads to the window of the program, which stays the only one."""
         owner = self.bus.get_name_owner(NAME)
-        self.assertEqual(self.start(PROGRAM).wait(PATIENCE), 0)
+        self.assertEqual(self.start(PROGRAM).wait(TIMEOUT), 0)
         eventually(lambda: self.titles(ACTIVE) == ["Pellory"] and self.on_display(program, "Pellory"))
         self.assertEqual((self.bus.get_name_owner(NAME), program.poll()), (owner, None))
 
@@ -151,7 +151,7 @@ class DesktopTest(unittest.TestCase):
 
     def on_display(self, program, title="", *command):
         search = ["xdotool", "search", "--all", "--onlyvisible", "--pid", str(program.pid), "--name", f"^{title}"]
-        return subprocess.run(search + [*command], env=self.environment, capture_output=True, timeout=PATIENCE).stdout
+        return subprocess.run(search + [*command], env=self.environment, capture_output=True, timeout=TIMEOUT).stdout
 
     def close_windows(self, program, *titles):
         for title in titles:
@@ -216,17 +216,17 @@ class DesktopTest(unittest.TestCase):
         self.assertIn("keeps checking in the background", eventually(told)[0][1][4])
         self.assert_handed_over(program)
         program.kill()
-        program.wait(PATIENCE)
+        program.wait(TIMEOUT)
         program = self.start(PROGRAM)
         eventually(lambda: len(told()) == 2)  # the other is of the check that it cannot make
         self.close_windows(program, "Pellory")
         self.assert_handed_over(program)
         self.assertEqual(len(told()), 2)
-        self.assertEqual(self.start(PROGRAM, "--check-now").wait(PATIENCE), 0)
+        self.assertEqual(self.start(PROGRAM, "--check-now").wait(TIMEOUT), 0)
         eventually(lambda: program.said().count("Checking if in office via Wi-Fi") == 2)
         self.press("Settings", "Office Networks", "Enable Automatic Tracking", then="Tracking Off")
         self.close_windows(program, "Pellory", "Settings")
-        self.assertEqual(program.wait(PATIENCE), 0)
+        self.assertEqual(program.wait(TIMEOUT), 0)
 
     def test_starts_at_login_without_a_window(self):
         program, entry = self.start(PROGRAM), self.folder / f"autostart/{NAME}.desktop"
@@ -235,7 +235,7 @@ class DesktopTest(unittest.TestCase):
         command = re.search("^Exec=(.*)$", entry.read_text(), re.MULTILINE)[1]
         self.press("Launch at login", then=lambda: not entry.exists())
         program.terminate()
-        self.assertEqual(program.wait(PATIENCE), 0)
+        self.assertEqual(program.wait(TIMEOUT), 0)
         watcher = self.mock(WATCHER, "/StatusNotifierWatcher", WATCHER, "/StatusNotifierWatcher", WATCHER)
         watcher("AddMethod", "sssss", WATCHER, "RegisterStatusNotifierItem", "s", "", "")
         watcher("AddProperty", "ssv", WATCHER, "IsStatusNotifierHostRegistered", False)

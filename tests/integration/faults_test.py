@@ -12,7 +12,7 @@ from functools import partial
 
 import dbus.bus
 
-from desktop_test import ACTIVE, DUNST, NOTIFICATIONS, PATIENCE, PROGRAM, PROPERTIES, DesktopTest, eventually
+from desktop_test import ACTIVE, DUNST, NOTIFICATIONS, TIMEOUT, PROGRAM, PROPERTIES, DesktopTest, eventually
 
 
 class FaultsTest(DesktopTest):
@@ -43,13 +43,13 @@ class FaultsTest(DesktopTest):
 
     def end(self, program):
         program.terminate()
-        self.assertEqual(program.wait(PATIENCE), 0)
+        self.assertEqual(program.wait(TIMEOUT), 0)
 
     def test_goes_on_while_nothing_answers_and_opens_nothing_to_the_internet(self):
         trace = self.folder / "trace"
         # The tracer stands aside, so that the program is the child of this process.
         tracer = ("strace", "-D", "-f", "-q", "-e", "trace=socket,socketpair", "-o", str(trace))
-        is_traced = subprocess.run([*tracer, "true"], env=self.environment, timeout=PATIENCE).returncode == 0
+        is_traced = subprocess.run([*tracer, "true"], env=self.environment, timeout=TIMEOUT).returncode == 0
         program = self.start_tracking(*tracer if is_traced else ())
         self.manager.send_signal(signal.SIGSTOP)
         self.press("Run In-Office Check", "Help", then="Weekend Day")
@@ -94,7 +94,7 @@ class FaultsTest(DesktopTest):
         dunst(DUNST, "NotificationAction", "u", 0)
         eventually(lambda: self.titles(ACTIVE) == ["Pellory"])
         program.kill()
-        program.wait(PATIENCE)
+        program.wait(TIMEOUT)
         scans, program = self.scans(), self.start(PROGRAM)
         eventually(lambda: "Sleeping for 1800 seconds" in program.said())
         self.assertIn("Büro", program.said())
@@ -118,9 +118,9 @@ class FaultsTest(DesktopTest):
             eventually(lambda: "Sleeping for 1800 seconds" in program.said())
             second = self.start(PROGRAM)
             eventually(lambda: self.on_display(second, "Pellory", "windowfocus", "key", "Return") or second.poll())
-            self.assertEqual(second.wait(PATIENCE), 1)
+            self.assertEqual(second.wait(TIMEOUT), 1)
             program.send_signal(end)
-            self.assertEqual(program.wait(PATIENCE), -end if end == signal.SIGKILL else 0)
+            self.assertEqual(program.wait(TIMEOUT), -end if end == signal.SIGKILL else 0)
         self.assertTrue((self.folder / ".local/share/Pellory/Pellory.store").exists())
 
     def test_says_that_there_is_no_radio(self):
