@@ -32,6 +32,8 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
     settings->firstTime = false;
     check.lastCheck = clock.now().addDays(-1);
     check.nextCheck = clock.now().addSecs(1800);
+    // Whether the seconds show depends on the version of Qt; a day is named only if it is another one.
+    const auto shown = [](const auto& time) { return QLocale().toString(time, QLocale::ShortFormat); };
     const QString off = u"Tracking Off"_s, on = u"Tracking On"_s, lacking = u"Wi-Fi or Location Off"_s;
     // Whether it tracks and Wi-Fi is on, the permission; then what is shown.
     check.lastOutcome = CheckOutcome{CheckOutcome::Failed, u"busy"_s};
@@ -50,12 +52,12 @@ TEST_F(TrackingTest, indicatorAndPopoverShowTheStatus)
         EXPECT_THAT(shownTexts(*popover),
                     testing::ElementsAre(status, u"Wi-Fi"_s, isOn ? u"On"_s : u"Off"_s, u"Location access"_s,
                                          permission == 3 ? u"Allowed"_s : u"Missing"_s, u"Last check"_s,
-                                         u"19 Nov 2026 09:00:00"_s, u"Result"_s, u"busy"_s, u"Next check"_s,
-                                         isTracking ? u"09:30:00"_s : u"None"_s));
+                                         shown(check.lastCheck.value()), u"Result"_s, u"busy"_s, u"Next check"_s,
+                                         isTracking ? shown(QTime(9, 30)) : u"None"_s));
     }
     check.nextCheck = clock.now().addSecs(3600);
-    EXPECT_EQ(shownTexts(*popover).last(), u"10:00:00"_s);
-    EXPECT_TRUE(popover->accessibleDescription().endsWith(u"10:00:00"_s));
+    EXPECT_EQ(shownTexts(*popover).last(), shown(QTime(10, 0)));
+    EXPECT_TRUE(popover->accessibleDescription().endsWith(shown(QTime(10, 0))));
     const QSignalSpy setUp(&window, &ContentView::setUpRequested);
     settings->firstTime = true;
     click(named<QAbstractButton>(*popover, "finishSetUp"));
