@@ -121,11 +121,11 @@ public:
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
+    const QVariant role = object->property(roleProperty);
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     if (dynamic_cast<Notification*>(object) != nullptr)
         return new NotificationInterface(object);
 #endif
-    const QVariant role = object->property(roleProperty);
     return role.isValid() ? new WidgetInterface(static_cast<QWidget*>(object), role.value<QAccessible::Role>())
                           : nullptr;
 }
