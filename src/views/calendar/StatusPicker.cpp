@@ -4,6 +4,7 @@
 #include "Day.h"
 #include "Fonts.h"
 #include "KeyCap.h"
+#include "MenuStyle.h"
 #include "StateGestures.h"
 #include "StateMark.h"
 #include "Symbol.h"
@@ -13,9 +14,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QScreen>
-#include <QStyleOption>
 
 namespace {
 
@@ -23,10 +22,6 @@ constexpr QSize tickSize(16, 16);
 constexpr QSize swatchSize(24, 18);
 constexpr int gap = 8;
 constexpr int cellGap = 2;
-constexpr int menuPadding = 6;
-constexpr QMargins entryPadding(6, 5, 10, 5);
-constexpr qreal entryRadius = 6.0;
-constexpr int columnGap = 16;
 
 // All keys are as wide as the widest, so that the texts line up.
 QSize keySize(const QFont& font)
@@ -89,90 +84,6 @@ qsizetype accessLetter(const QString& text, const QString& taken)
     return -1;
 }
 
-// Menus expect square icons and entries without padding. The frame makes the menu stand out from a dark card.
-class PickerStyle : public QProxyStyle {
-public:
-    explicit PickerStyle(const QSize& icon)
-        : m_icon(icon)
-    {
-    }
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
-    {
-        switch (metric) {
-        case PM_SmallIconSize:
-            return m_icon.width();
-        case PM_MenuHMargin:
-        case PM_MenuVMargin:
-            return menuPadding;
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
-                           const QWidget* widget) const override
-    {
-        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-        if (type != CT_MenuItem || item == nullptr)
-            return QProxyStyle::sizeFromContents(type, option, size, widget);
-        const QStringList texts = item->text.split(u'\t');
-        QSize whole(m_icon.width(), qMax(m_icon.height(), item->fontMetrics.height()));
-        for (const QString& text : texts)
-            whole.rwidth() += columnGap + item->fontMetrics.size(Qt::TextShowMnemonic, text).width();
-        return whole.grownBy(entryPadding);
-    }
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override
-    {
-        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-        if (element == CE_MenuItem && item != nullptr)
-            drawEntry(*item, *painter);
-        else
-            QProxyStyle::drawControl(element, option, painter, widget);
-    }
-
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override
-    {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element != PE_PanelMenu)
-            return;
-        painter->setPen(themeFor(option->palette).controlBorder);
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    }
-
-private:
-    void drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) const
-    {
-        const bool isActive = (item.state & State_Selected) != 0;
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(isActive       ? item.palette.color(QPalette::Highlight)
-                         : item.checked ? themeFor(item.palette).trough
-                                        : QColor(Qt::transparent));
-        painter.drawRoundedRect(item.rect, entryRadius, entryRadius);
-
-        const QRect inside = item.rect.marginsRemoved(entryPadding);
-        item.icon.paint(&painter, alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter, m_icon, inside),
-                        Qt::AlignCenter, isActive ? QIcon::Active : QIcon::Normal);
-        const QRect beside = visualRect(item.direction, inside, inside.adjusted(m_icon.width() + columnGap, 0, 0, 0));
-        const auto draw = [&](Qt::Alignment side, const QString& text) {
-            drawItemText(&painter, beside,
-                         static_cast<int>(visualAlignment(item.direction, side | Qt::AlignVCenter)) |
-                             Qt::TextShowMnemonic | Qt::TextSingleLine,
-                         item.palette, true, text, isActive ? QPalette::HighlightedText : QPalette::Text);
-        };
-        draw(Qt::AlignLeft, item.text.section(u'\t', 0, 0));
-        draw(Qt::AlignRight, item.text.section(u'\t', 1));
-        painter.restore();
-    }
-
-    QSize m_icon;
-};
-
 } // namespace
 
 StatusPicker::StatusPicker(DayState current, QWidget* parent)
@@ -180,12 +91,7 @@ StatusPicker::StatusPicker(DayState current, QWidget* parent)
     , m_current(current)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Base, themeFor(colors).selected);
-    setPalette(colors);
-    auto* style = new PickerStyle(iconSize(fonts::caption(font())));
-    style->setParent(this);
-    setStyle(style);
+    MenuStyle::apply(*this, iconSize(fonts::caption(font())));
     QString taken;
     for (const DayState state : allDayStates) {
         QString text = description(state);

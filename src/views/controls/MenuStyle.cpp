@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MenuStyle.h"
+
+#include "Theme.h"
+
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+constexpr int menuPadding = 6;
+constexpr QMargins entryPadding(6, 5, 10, 5);
+constexpr qreal entryRadius = 6.0;
+constexpr int columnGap = 16;
+
+} // namespace
+
+MenuStyle::MenuStyle(const QSize& icon)
+    : m_icon(icon)
+{
+}
+
+void MenuStyle::apply(QMenu& menu, const QSize& icon)
+{
+    QPalette colors = menu.palette();
+    colors.setColor(QPalette::Base, themeFor(colors).selected);
+    menu.setPalette(colors);
+    auto* style = new MenuStyle(icon);
+    style->setParent(&menu);
+    menu.setStyle(style);
+}
+
+int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_SmallIconSize:
+        return m_icon.width();
+    case PM_MenuHMargin:
+    case PM_MenuVMargin:
+        return menuPadding;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                  const QWidget* widget) const
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type != CT_MenuItem || item == nullptr)
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    const QStringList texts = item->text.split(u'\t');
+    QSize whole(m_icon.width(), qMax(m_icon.height(), item->fontMetrics.height()));
+    for (const QString& text : texts)
+        whole.rwidth() += columnGap + item->fontMetrics.size(Qt::TextShowMnemonic, text).width();
+    return whole.grownBy(entryPadding);
+}
+
+void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuItem && item != nullptr)
+        drawEntry(*item, *painter);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_PanelMenu)
+        return;
+    painter->setPen(themeFor(option->palette).controlBorder);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+void MenuStyle::drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) const
+{
+    const bool isActive = (item.state & State_Selected) != 0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isActive       ? item.palette.color(QPalette::Highlight)
+                     : item.checked ? themeFor(item.palette).trough
+                                    : QColor(Qt::transparent));
+    painter.drawRoundedRect(item.rect, entryRadius, entryRadius);
+
+    const QRect inside = item.rect.marginsRemoved(entryPadding);
+    item.icon.paint(&painter, alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter, m_icon, inside),
+                    Qt::AlignCenter, isActive ? QIcon::Active : QIcon::Normal);
+    const QRect beside = visualRect(item.direction, inside, inside.adjusted(m_icon.width() + columnGap, 0, 0, 0));
+    const auto draw = [&](Qt::Alignment side, const QString& text) {
+        drawItemText(&painter, beside,
+                     static_cast<int>(visualAlignment(item.direction, side | Qt::AlignVCenter)) | Qt::TextShowMnemonic |
+                         Qt::TextSingleLine,
+                     item.palette, true, text, isActive ? QPalette::HighlightedText : QPalette::Text);
+    };
+    draw(Qt::AlignLeft, item.text.section(u'\t', 0, 0));
+    draw(Qt::AlignRight, item.text.section(u'\t', 1));
+    painter.restore();
+}
