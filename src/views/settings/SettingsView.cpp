@@ -13,9 +13,26 @@
 #include "SegmentedTabs.h"
 #include "SsidSettingsView.h"
 
+#include <QFocusEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+class LinkLabel : public QLabel {
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLabel::focusInEvent(event);
+        // By itself a label selects its link, which shows the focus and lets Return open it, at the second Tab.
+        const auto reason = event->reason();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            QLabel::focusNextPrevChild(reason == Qt::TabFocusReason);
+    }
+};
+
+} // namespace
 
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
                            InOfficeCheck& check, LaunchAtLogin& launchAtLogin, QWidget* parent)
@@ -60,7 +77,9 @@ QWidget* SettingsView::makeHeader(LazyStack* pages)
 
 void SettingsView::addLocationLine(QVBoxLayout& column, LocationManager& manager)
 {
-    auto* line = labels::text({});
+    auto* line = new LinkLabel;
+    line->setWordWrap(true);
+    line->setFont(fonts::body(line->font()));
     line->setObjectName("location"_L1);
     line->setContentsMargins(24, 16, 24, 0);
     line->setTextFormat(Qt::RichText);
