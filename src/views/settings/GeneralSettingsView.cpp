@@ -15,13 +15,14 @@ namespace {
 
 Switch* addSwitch(QVBoxLayout& column, const QString& text, const QString& help = {})
 {
+    if (!column.isEmpty())
+        column.addSpacing(10);
     auto* toggle = new Switch(text);
     column.addWidget(toggle);
     if (!help.isEmpty()) {
         toggle->setAccessibleDescription(help);
         column.addWidget(labels::dim(help));
     }
-    column.addSpacing(10);
     return toggle;
 }
 
@@ -59,6 +60,7 @@ GeneralSettingsView::GeneralSettingsView(AppSettings& settings, LaunchAtLogin& l
         return;
     auto* again = new Button(tr("Re-run Welcome Tutorial"));
     again->setObjectName("welcome"_L1);
+    column->addSpacing(10);
     column->addWidget(again, 0, Qt::AlignLeft);
     connect(again, &QAbstractButton::clicked, this, &GeneralSettingsView::welcomeRequested);
 }
