@@ -57,6 +57,7 @@ void DaysPerWeekGoalView::build(bool headerEnabled)
     column->addWidget(m_daysPerWeekGoalChangeError);
 
     m_stringValue->setObjectName("stringValue"_L1);
+    m_stringValue->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // as wide as the goals above
     auto* add = new IconButton(Symbol::Plus, tr("Add Goal"));
     add->setObjectName("addGoal"_L1);
     auto* entry = makeEntryRow(m_stringValue, add, [this](const QString& text) { return addGoal(text); });
