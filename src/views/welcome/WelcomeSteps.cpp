@@ -143,8 +143,7 @@ QWidget* WelcomeSteps::makeGoals(AppSettings& settings, const ViewSettings& view
     addFirstCard(*column, new DaysPerWeekGoalView(settings, false), tr("In the sample month"));
     auto* tracker = new ProgressWidgetView(settings, viewSettings, PeriodWord::Month);
     tracker->setMonths({makeSampleMonth(clock.today())});
-    column->addWidget(tracker);
-    column->addStretch();
+    addCard(*column, tracker);
     return new Page(step);
 }
 

@@ -64,7 +64,7 @@ QWidget* WelcomeView::makeFooter()
     onward->addWidget(m_next);
     auto* footer = new Bar(Qt::TopEdge);
     auto* row = new QGridLayout(footer);
-    row->setContentsMargins(24, 12, 24, 12);
+    row->setContentsMargins(32, 12, 32, 12);
     row->addWidget(m_skip, 0, 0, Qt::AlignLeft);
     row->addWidget(m_dots, 0, 1, Qt::AlignCenter);
     row->addLayout(onward, 0, 2, Qt::AlignRight);
