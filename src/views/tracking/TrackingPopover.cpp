@@ -177,7 +177,9 @@ void TrackingPopover::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_isBlended)
         drawShadow(painter, panel);
-    painter.setPen(m_isBlended ? theme.border : theme.controlBorder);
+    // In a dark window a shadow is hardly seen.
+    const bool isSetOff = m_isBlended && lookOf(palette()).scheme == ColorScheme::Light;
+    painter.setPen(isSetOff ? theme.border : theme.controlBorder);
     painter.setBrush(theme.card);
     painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
