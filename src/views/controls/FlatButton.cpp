@@ -4,6 +4,7 @@
 #include "ReturnKey.h"
 #include "Theme.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 FlatButton::FlatButton(QWidget* parent)
@@ -12,6 +13,13 @@ FlatButton::FlatButton(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void FlatButton::forgetPointer()
+{
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(this, &leave);
+    update();
 }
 
 void FlatButton::focusInEvent(QFocusEvent* event)

@@ -11,6 +11,8 @@ class FlatButton : public QAbstractButton {
 
 public:
     explicit FlatButton(QWidget* parent = nullptr);
+    /// For a button that opens a popup, which takes the pointer: the button would not be told that the pointer leaves.
+    void forgetPointer();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
