@@ -13,6 +13,7 @@ constexpr int menuPadding = 6;
 constexpr QMargins entryPadding(6, 5, 10, 5);
 constexpr qreal entryRadius = 6.0;
 constexpr int columnGap = 16;
+constexpr int separatorHeight = 9;
 
 } // namespace
 
@@ -29,6 +30,11 @@ void MenuStyle::apply(QMenu& menu, const QSize& icon)
     auto* style = new MenuStyle(icon);
     style->setParent(&menu);
     menu.setStyle(style);
+}
+
+int MenuStyle::iconRoom() const
+{
+    return m_icon.isEmpty() ? 0 : m_icon.width() + columnGap;
 }
 
 int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -50,10 +56,13 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (type != CT_MenuItem || item == nullptr)
         return QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (item->menuItemType == QStyleOptionMenuItem::Separator)
+        return {size.width(), separatorHeight};
     const QStringList texts = item->text.split(u'\t');
-    QSize whole(m_icon.width(), qMax(m_icon.height(), item->fontMetrics.height()));
+    const int gaps = columnGap * static_cast<int>(texts.size() - 1);
+    QSize whole(iconRoom() + gaps, qMax(m_icon.height(), item->fontMetrics.height()));
     for (const QString& text : texts)
-        whole.rwidth() += columnGap + item->fontMetrics.size(Qt::TextShowMnemonic, text).width();
+        whole.rwidth() += item->fontMetrics.size(Qt::TextShowMnemonic, text).width();
     return whole.grownBy(entryPadding);
 }
 
@@ -61,10 +70,13 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
                             const QWidget* widget) const
 {
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (element == CE_MenuItem && item != nullptr)
-        drawEntry(*item, *painter);
+    if (element != CE_MenuItem || item == nullptr)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    if (item->menuItemType == QStyleOptionMenuItem::Separator)
+        painter->fillRect(alignedRect(item->direction, Qt::AlignCenter, {item->rect.width(), 1}, item->rect),
+                          themeFor(item->palette).border);
     else
-        QProxyStyle::drawControl(element, option, painter, widget);
+        drawEntry(*item, *painter);
 }
 
 void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -91,7 +103,7 @@ void MenuStyle::drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) c
     const QRect inside = item.rect.marginsRemoved(entryPadding);
     item.icon.paint(&painter, alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter, m_icon, inside),
                     Qt::AlignCenter, isActive ? QIcon::Active : QIcon::Normal);
-    const QRect beside = visualRect(item.direction, inside, inside.adjusted(m_icon.width() + columnGap, 0, 0, 0));
+    const QRect beside = visualRect(item.direction, inside, inside.adjusted(iconRoom(), 0, 0, 0));
     const auto draw = [&](Qt::Alignment side, const QString& text) {
         drawItemText(&painter, beside,
                      static_cast<int>(visualAlignment(item.direction, side | Qt::AlignVCenter)) | Qt::TextShowMnemonic |

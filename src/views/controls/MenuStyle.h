@@ -12,7 +12,7 @@ class MenuStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
-    static void apply(QMenu& menu, const QSize& icon);
+    static void apply(QMenu& menu, const QSize& icon = {});
 
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -24,6 +24,7 @@ public:
 
 private:
     explicit MenuStyle(const QSize& icon);
+    [[nodiscard]] int iconRoom() const;
     void drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) const;
 
     QSize m_icon;

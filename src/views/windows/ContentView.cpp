@@ -10,6 +10,7 @@
 #include "LazyStack.h"
 #include "LocationAlert.h"
 #include "LocationManager.h"
+#include "MenuStyle.h"
 #include "ModelContext.h"
 #include "MonthView.h"
 #include "Page.h"
@@ -38,6 +39,7 @@ namespace {
 
 // The stored number of the first tab.
 constexpr int firstTab = 1;
+constexpr int menuGap = 4;
 
 template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
 {
@@ -99,6 +101,7 @@ QWidget* ContentView::makeIndicator()
         connect(popover, &TrackingPopover::setUpRequested, this, &ContentView::setUpRequested);
         popover->setBlended(m_parts.blendsWindows && m_parts.blendsWindows());
         popover->popUp();
+        indicator->forgetPointer();
     });
     return indicator;
 }
@@ -120,9 +123,10 @@ void ContentView::addToolbar(QHBoxLayout& row)
     row.addWidget(menu);
 }
 
-void ContentView::popUpMenu(const QWidget& button)
+void ContentView::popUpMenu(FlatButton& button)
 {
     auto* menu = new QMenu(this);
+    MenuStyle::apply(*menu);
     connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
     const auto add = [&](const QString& text, const QKeySequence& keys, auto signal, auto... arguments) {
         QAction* action = menu->addAction(text);
@@ -136,8 +140,10 @@ void ContentView::popUpMenu(const QWidget& button)
     menu->addSeparator();
     add(tr("Quit"), Qt::CTRL | Qt::Key_Q, &ContentView::quitRequested);
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
-    menu->popup(button.mapToGlobal(isLeftToRight ? button.rect().bottomRight() - QPoint(menu->sizeHint().width(), 0)
-                                                 : button.rect().bottomLeft()));
+    const QRect above = button.rect().adjusted(0, 0, 0, menuGap);
+    menu->popup(button.mapToGlobal(isLeftToRight ? above.bottomRight() + QPoint(1 - menu->sizeHint().width(), 0)
+                                                 : above.bottomLeft()));
+    button.forgetPointer();
 }
 
 void ContentView::addShortcuts()

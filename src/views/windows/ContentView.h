@@ -5,6 +5,7 @@
 
 class AlertCard;
 class CalendarPage;
+class FlatButton;
 class LazyStack;
 class LocationAlert;
 class QDate;
@@ -49,7 +50,7 @@ private:
     [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QWidget* makeIndicator();
     void addToolbar(QHBoxLayout& row);
-    void popUpMenu(const QWidget& button);
+    void popUpMenu(FlatButton& button);
     void addShortcuts();
     void alertIfNeeded();
     void alertIfUnsaved();
