@@ -71,7 +71,6 @@ private:
     [[nodiscard]] QSize faceSize() const;
     void run(Qt::KeyboardModifiers held);
     [[nodiscard]] bool isPress(const QKeyEvent& event) const;
-
     void runWithFocus();
     void requestMenu();
     void setHovered(bool inside);

@@ -32,7 +32,6 @@ private:
     [[nodiscard]] int shadow() const;
     void refresh();
     void showResult();
-
     [[nodiscard]] QString spokenRows() const;
     [[nodiscard]] QString timeText(const QDateTime& time) const;
 

@@ -42,7 +42,6 @@ WelcomeView::WelcomeView(std::vector<LazyStack::PageBuilder> steps, QWidget* par
     column->addWidget(makeFooter());
     m_message->setObjectName("message"_L1);
     m_message->setContentsMargins(32, 10, 32, 10);
-    resize(firstSize.boundedTo(screen()->availableSize()));
     showStep(0);
     fitToScreen(*this, firstSize);
 }

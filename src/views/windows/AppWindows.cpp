@@ -37,8 +37,6 @@ namespace {
 constexpr QSize firstMainSize(534, 860);
 constexpr QSize firstSettingsSize(560, 660);
 constexpr QSize firstAboutSize(420, 210);
-// The size of a window's frame is not known before it is shown.
-constexpr QSize roomForFrame(16, 48);
 
 QSize grown(QSize size, const QFont& font)
 {
