@@ -34,12 +34,6 @@ Page::Page(QWidget* contents, QWidget* parent)
     qApp->installEventFilter(this);
 }
 
-Page::~Page()
-{
-    // The focus changes while the contents are being destroyed, when this is only a QWidget any more.
-    qApp->removeEventFilter(this);
-}
-
 QSize Page::minimumSizeHint() const
 {
     constexpr int leastHeight = 160;

@@ -10,7 +10,6 @@ class Page : public QScrollArea {
 public:
     /// Takes ownership of the contents.
     explicit Page(QWidget* contents, QWidget* parent = nullptr);
-    ~Page() override;
 
     /// As wide as the contents need, so that a window of this width never scrolls sideways.
     [[nodiscard]] QSize minimumSizeHint() const override;
