@@ -51,7 +51,7 @@ QCoro::Task<> InOfficeCheck::run()
 
 QCoro::Task<> InOfficeCheck::checkOnce(bool markPreviousWorkday, bool isAskedFor)
 {
-    // Whoever asks is told again.
+    // A person who asks is told again.
     if (isAskedFor)
         m_hasReportedMissingService = false;
     try {
@@ -70,7 +70,7 @@ void InOfficeCheck::answer(const CheckOutcome& outcome)
         Q_EMIT postponed();
         return;
     }
-    // The others have a notification of their own.
+    // These two have a notification of their own.
     const bool isNews = outcome.kind != CheckOutcome::Marked && outcome.kind != CheckOutcome::Failed;
     if (isNews && m_parts.settings.notificationsEnabled)
         m_parts.notifier.post({tr("Pellory"), outcome.text(), answerTopic});

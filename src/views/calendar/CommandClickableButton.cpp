@@ -214,8 +214,8 @@ void CommandClickableButton::mouseMoveEvent(QMouseEvent* event)
     const bool isInside = hitButton(event->position().toPoint());
     if (isDown() && !isInside)
         setDown(false);
-    // Not when the pointer enters: under Wayland that is also said of a pointer that was there before a menu opened,
-    // and nothing says that it has gone.
+    // Not when the pointer enters: with Wayland, an enter event also follows when a menu closes, even if the pointer
+    // has gone, and then no leave event does.
     if (isInside)
         setHovered(true);
 }

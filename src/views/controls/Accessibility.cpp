@@ -88,7 +88,7 @@ private:
 };
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
-// Readers say a notification when it appears. This one is nowhere to be seen.
+// Readers say a notification when it appears. This one is invisible.
 class Notification : public QObject {
 public:
     Notification(const QString& text, QObject* parent)

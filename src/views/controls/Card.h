@@ -16,8 +16,8 @@ public:
     /// Returns a new card around the contents, with padding.
     [[nodiscard]] static Card* around(QWidget* contents);
 
-    /// The width of the cards that hold grids and trackers, and the least that these need. On a small screen that is
-    /// what there is.
+    /// The width of the cards that hold grids and trackers, and the least that these need. Never wider than the
+    /// screen.
     [[nodiscard]] static int contentWidth(const QFont& font) { return qMin(fonts::grown(470, font), widestContents()); }
     [[nodiscard]] static int leastContentWidth(const QFont& font)
     {

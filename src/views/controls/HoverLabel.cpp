@@ -25,7 +25,7 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(fonts::caption(anchor->window()->font()));
-    // A style without animations is the wish for none.
+    // A style without animations means that the person wants none.
     const bool fades = QWidget::style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
     m_fade->setDuration(fades ? fadeMilliseconds : 0);
     for (auto* other : window()->findChildren<HoverLabel*>(Qt::FindDirectChildrenOnly)) {

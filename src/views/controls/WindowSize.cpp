@@ -10,7 +10,7 @@ namespace {
 
 // The size of a window's frame is not known before the window is shown.
 constexpr QSize usualFrame(16, 48);
-// With Wayland no program is told of panels.
+// With Wayland, programs cannot know where the panels are.
 constexpr QSize usualPanel(0, 40);
 
 QSize roomOn(const QScreen& screen)

@@ -48,8 +48,8 @@ QString geometryKey(const QWidget& window)
     return window.objectName() + "Geometry"_L1;
 }
 
-// Some desktops with Wayland (GNOME 43) never bring a window to the front that is open already, not even after a click
-// in another window of the program. A window that is new gets the focus, or is announced.
+// With Wayland, some desktops (GNOME 43) never bring an open window to the front, not even after a click in another
+// window of the program. A new window gets the focus, or is announced.
 void showAgainIfRefused(QWidget& window)
 {
     constexpr auto timeout = 300ms;

@@ -25,6 +25,6 @@ private Q_SLOTS:
     void handleSettingChanged(const QDBusMessage& signal);
 
 private:
-    /// The known ones by key, which is in one of the groups only. True is 1.
+    /// The values that are known, by key. No key is in two groups. True is 1.
     QHash<QString, uint> m_values;
 };

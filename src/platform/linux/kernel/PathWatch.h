@@ -15,7 +15,7 @@ class PathWatch : public QObject {
     Q_OBJECT
 
 public:
-    /// The path is absolute. As long as there is nothing, its folder is watched instead.
+    /// The path must be absolute. While nothing exists there, the nearest folder above is watched instead.
     explicit PathWatch(const QByteArray& path, QObject* parent = nullptr);
     ~PathWatch() override;
 
