@@ -150,7 +150,10 @@ QString TrackingPopover::spokenRows() const
 {
     QStringList spoken;
     const auto text = [this](int row, QFormLayout::ItemRole part) {
-        return qobject_cast<QLabel*>(m_rows->itemAt(row, part)->widget())->text();
+        QString words = qobject_cast<QLabel*>(m_rows->itemAt(row, part)->widget())->text();
+        while (words.endsWith(u'.')) // the results are sentences
+            words.chop(1);
+        return words;
     };
     for (int row = 0; row < m_rows->rowCount(); ++row) {
         if (m_rows->isRowVisible(row))
