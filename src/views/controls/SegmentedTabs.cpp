@@ -52,7 +52,9 @@ QSize SegmentedTabs::tabSizeHint(int index) const
 {
     const QFontMetrics metrics(selectedFont(*this));
     const auto size = [&](int tab) {
-        return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({22 + symbolRoom(tab), 8, 22, 8});
+        // A symbol brings some air of its own.
+        const int side = tabData(tab).isValid() ? 15 : 22;
+        return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({side + symbolRoom(tab), 8, side, 8});
     };
     QSize widest;
     for (int i = 0; i < count(); ++i)
