@@ -143,7 +143,10 @@ QWidget* WelcomeSteps::makeGoals(AppSettings& settings, const ViewSettings& view
     addFirstCard(*column, new DaysPerWeekGoalView(settings, false), tr("In the sample month"));
     auto* tracker = new ProgressWidgetView(settings, viewSettings, PeriodWord::Month);
     tracker->setMonths({makeSampleMonth(clock.today())});
-    addCard(*column, tracker);
+    auto* card = Card::around(tracker);
+    card->layout()->setContentsMargins(0, 12, 0, 10); // the tracker has room beside it
+    column->addWidget(card);
+    column->addStretch();
     return new Page(step);
 }
 
