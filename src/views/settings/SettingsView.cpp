@@ -5,8 +5,8 @@
 #include "DaysPerWeekGoalView.h"
 #include "FocusOrder.h"
 #include "Follow.h"
+#include "Fonts.h"
 #include "GeneralSettingsView.h"
-#include "Labels.h"
 #include "LazyStack.h"
 #include "LocationManager.h"
 #include "Page.h"
@@ -14,6 +14,7 @@
 #include "SsidSettingsView.h"
 
 #include <QFocusEvent>
+#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
