@@ -39,8 +39,14 @@ QSize iconSize(const QFont& font)
 }
 
 // A tick for the current state, the colour and mark of a state, and the modifier key that sets it in one click.
-QPixmap drawIcon(DayState state, bool isCurrent, const QWidget& menu, const QPalette& colors)
+QPixmap drawIcon(DayState state, bool isCurrent, QIcon::Mode mode, const QWidget& menu)
 {
+    // The entry that is about to be chosen is white on blue in both schemes.
+    const bool isActive = mode == QIcon::Active;
+    const QPalette colors = isActive ? paletteFor({ColorScheme::Dark}) : menu.palette();
+    Theme theme = themeFor(menu.palette());
+    if (isActive)
+        theme.outline = Qt::white; // or blue would be on blue
     const QFont font = fonts::caption(menu.font());
     const QRect whole({}, iconSize(font));
     QPixmap pixmap(whole.size() * menu.devicePixelRatioF());
@@ -55,8 +61,8 @@ QPixmap drawIcon(DayState state, bool isCurrent, const QWidget& menu, const QPal
     painter.setRenderHint(QPainter::Antialiasing);
     if (isCurrent)
         drawSymbol(painter, place(Qt::AlignLeft, tickSize), Symbol::Tick, themeFor(colors).text);
-    drawDaySwatch(painter, QStyle::alignedRect(menu.layoutDirection(), Qt::AlignRight, swatchSize, swatch),
-                  themeFor(menu.palette()), {1, state, true});
+    drawDaySwatch(painter, QStyle::alignedRect(menu.layoutDirection(), Qt::AlignRight, swatchSize, swatch), theme,
+                  {1, state, true});
     if (const QString key = keyName(modifierFor(state)); !key.isEmpty())
         drawKeyCap(painter, place(Qt::AlignRight, keySize(font)), key, colors);
     return pixmap;
@@ -65,9 +71,8 @@ QPixmap drawIcon(DayState state, bool isCurrent, const QWidget& menu, const QPal
 QIcon iconOf(DayState state, bool isCurrent, const QWidget& menu)
 {
     QIcon icon;
-    icon.addPixmap(drawIcon(state, isCurrent, menu, menu.palette()), QIcon::Normal);
-    // The entry that is about to be chosen is white on blue in both schemes.
-    icon.addPixmap(drawIcon(state, isCurrent, menu, paletteFor({ColorScheme::Dark})), QIcon::Active);
+    for (const auto mode : {QIcon::Normal, QIcon::Active})
+        icon.addPixmap(drawIcon(state, isCurrent, mode, menu), mode);
     return icon;
 }
 
