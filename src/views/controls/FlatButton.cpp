@@ -4,22 +4,19 @@
 #include "ReturnKey.h"
 #include "Theme.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
+
+#include <utility>
 
 FlatButton::FlatButton(QWidget* parent)
     : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void FlatButton::forgetPointer()
-{
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(this, &leave);
-    update();
 }
 
 void FlatButton::focusInEvent(QFocusEvent* event)
@@ -35,11 +32,39 @@ void FlatButton::keyPressEvent(QKeyEvent* event)
         QAbstractButton::keyPressEvent(event);
 }
 
+void FlatButton::leaveEvent(QEvent* event)
+{
+    setHovered(false);
+    QAbstractButton::leaveEvent(event);
+}
+
+void FlatButton::mouseMoveEvent(QMouseEvent* event)
+{
+    // Not on entering, because with Wayland a popup that closes makes Qt enter what was under the pointer before.
+    setHovered(rect().contains(event->position().toPoint()));
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+void FlatButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<FlatButton> self(this);
+    QAbstractButton::mouseReleaseEvent(event);
+    // A popup takes the pointer.
+    if (self && QApplication::activePopupWidget() != nullptr)
+        setHovered(false);
+}
+
+void FlatButton::setHovered(bool isHovered)
+{
+    if (std::exchange(m_isHovered, isHovered) != isHovered)
+        update();
+}
+
 void FlatButton::paintFace(QPainter& painter, const QColor& hovered) const
 {
     constexpr qreal radius = 6.0;
     painter.setRenderHint(QPainter::Antialiasing);
-    if (isEnabled() && (underMouse() || isDown())) {
+    if (isEnabled() && (m_isHovered || isDown())) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isDown() ? themeFor(palette()).pressed : hovered);
         painter.drawRoundedRect(rect(), radius, radius);

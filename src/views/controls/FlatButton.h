@@ -11,15 +11,19 @@ class FlatButton : public QAbstractButton {
 
 public:
     explicit FlatButton(QWidget* parent = nullptr);
-    /// For a button that opens a popup, which takes the pointer: the button would not be told that the pointer leaves.
-    void forgetPointer();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     /// Draws the background and the focus ring.
     void paintFace(QPainter& painter, const QColor& hovered) const;
 
 private:
+    void setHovered(bool isHovered);
+
     FocusVisible m_focusVisible;
+    bool m_isHovered = false;
 };

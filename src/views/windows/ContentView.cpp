@@ -101,7 +101,6 @@ QWidget* ContentView::makeIndicator()
         connect(popover, &TrackingPopover::setUpRequested, this, &ContentView::setUpRequested);
         popover->setBlended(m_parts.blendsWindows && m_parts.blendsWindows());
         popover->popUp();
-        indicator->forgetPointer();
     });
     return indicator;
 }
@@ -143,7 +142,6 @@ void ContentView::popUpMenu(FlatButton& button)
     const QRect above = button.rect().adjusted(0, 0, 0, menuGap);
     menu->popup(button.mapToGlobal(isLeftToRight ? above.bottomRight() + QPoint(1 - menu->sizeHint().width(), 0)
                                                  : above.bottomLeft()));
-    button.forgetPointer();
 }
 
 void ContentView::addShortcuts()
