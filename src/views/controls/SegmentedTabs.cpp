@@ -53,7 +53,7 @@ QSize SegmentedTabs::tabSizeHint(int index) const
     const QFontMetrics metrics(selectedFont(*this));
     const auto size = [&](int tab) {
         // A symbol brings some air of its own.
-        const int side = tabData(tab).isValid() ? 15 : 22;
+        const int side = tabData(tab).isValid() ? 12 : 22;
         return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({side + symbolRoom(tab), 8, side, 8});
     };
     QSize widest;
