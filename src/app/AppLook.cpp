@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QSettings>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -24,8 +25,11 @@ Look currentLook()
 void reduceMotion(bool isReduced)
 {
     const bool wasReduced = qobject_cast<StillStyle*>(QApplication::style()) != nullptr;
-    if (isReduced != wasReduced)
-        QApplication::setStyle(isReduced ? new StillStyle : QStyleFactory::create(u"Fusion"_s));
+    if (isReduced == wasReduced)
+        return;
+    // The first style was set before there was an application. The toolkit destroys only a style that belongs to it.
+    QApplication::style()->setParent(qApp);
+    QApplication::setStyle(isReduced ? new StillStyle : QStyleFactory::create(u"Fusion"_s));
 }
 
 } // namespace

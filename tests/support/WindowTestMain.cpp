@@ -18,9 +18,9 @@ int main(int argc, char** argv)
     tzset();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale::c());
-    QApplication::setStyle(u"Fusion"_s);
     testing::InitGoogleMock(&argc, argv);
     const QApplication application(argc, argv);
+    QApplication::setStyle(u"Fusion"_s);
     QApplication::setPalette(paletteFor({}));
     installAccessibleRoles();
     return RUN_ALL_TESTS();
