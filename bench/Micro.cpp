@@ -3,6 +3,7 @@
 #include "AttendanceStatistics.h"
 #include "AutostartEntry.h"
 #include "ContentView.h"
+#include "DayMarker.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
@@ -14,6 +15,7 @@
 #include "SampleStore.h"
 #include "SystemBus.h"
 #include "SystemClock.h"
+#include "UndoHistory.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "WindowId.h"
@@ -91,11 +93,13 @@ struct Parts {
     DesktopSystemSettings systemSettings;
     LocationManagerKey locationManager{authorization, systemSettings};
     FreedesktopNotifier notifier;
-    InOfficeCheck check{{*container, appSettings, wifiClient, notifier, clock}};
+    DayMarker marker{container->mainContext(), clock};
+    UndoHistory history{marker};
+    InOfficeCheck check{{*container, marker, appSettings, wifiClient, notifier, clock}};
     AutostartEntry loginItem{folder.path(), {}};
     LaunchAtLogin launchAtLogin{loginItem};
-    const ViewParts parts{container->mainContext(), appSettings, viewSettings, clock, wifiClient,
-                          locationManager,          check,       launchAtLogin};
+    const ViewParts parts{container->mainContext(), marker, history,      appSettings, viewSettings, clock, wifiClient,
+                          locationManager,          check,  launchAtLogin};
 };
 
 void monthChange(benchmark::State& state)

@@ -7,6 +7,7 @@
 #include "CommandLine.h"
 #include "Compositor.h"
 #include "Connection.h"
+#include "DayMarker.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
@@ -27,6 +28,7 @@
 #include "SystemBus.h"
 #include "SystemClock.h"
 #include "Translations.h"
+#include "UndoHistory.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 
@@ -98,8 +100,10 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
                    StartMode mode)
 {
     PlatformServices platform;
+    DayMarker marker(pellory.container().mainContext(), platform.clock);
+    UndoHistory history(marker);
     InOfficeCheck check(
-        {pellory.container(), pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
+        {pellory.container(), marker, pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
     QMetaObject::invokeMethod(
         &platform.clock, [&check] { check.start(); }, Qt::QueuedConnection);
 
@@ -107,6 +111,8 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     LocationManagerKey locationManager(platform.authorization, platform.systemSettings);
     LaunchAtLogin launchAtLogin(platform.loginItem);
     const ViewParts parts{pellory.container().mainContext(),
+                          marker,
+                          history,
                           pellory.settings(),
                           viewSettings,
                           platform.clock,

@@ -14,6 +14,7 @@
 
 class AppSettings;
 class Clock;
+class DayMarker;
 class ModelContainer;
 class Notifier;
 class WiFiClient;
@@ -21,6 +22,7 @@ class WiFiClient;
 /// What a check needs.
 struct CheckParts {
     ModelContainer& container;
+    DayMarker& marker;
     AppSettings& settings;
     WiFiClient& wifiClient;
     Notifier& notifier;

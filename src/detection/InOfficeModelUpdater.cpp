@@ -57,5 +57,5 @@ bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state)
     const auto index = month.indexOf(date.day());
     if (!index)
         qFatal("The month %d-%d has no day %d", date.year(), date.month(), date.day());
-    return DayMarker(m_container.mainContext()).mark(month, *index, state, MarkedBy::Check);
+    return m_marker.mark(month, *index, state, MarkedBy::Check) != 0;
 }

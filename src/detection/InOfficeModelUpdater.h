@@ -7,6 +7,7 @@
 #include <memory>
 
 class Clock;
+class DayMarker;
 class ModelContainer;
 class Month;
 class Notifier;
@@ -18,8 +19,9 @@ class InOfficeModelUpdater {
     Q_DECLARE_TR_FUNCTIONS(InOfficeModelUpdater)
 
 public:
-    InOfficeModelUpdater(ModelContainer& container, Clock& clock, Notifier& notifier)
+    InOfficeModelUpdater(ModelContainer& container, DayMarker& marker, Clock& clock, Notifier& notifier)
         : m_container(container)
+        , m_marker(marker)
         , m_clock(clock)
         , m_notifier(notifier)
     {
@@ -35,6 +37,7 @@ private:
     bool mark(Month& month, QDate date, DayState state);
 
     ModelContainer& m_container;
+    DayMarker& m_marker;
     Clock& m_clock;
     Notifier& m_notifier;
 };

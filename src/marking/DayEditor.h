@@ -7,8 +7,8 @@
 /// the program. A click operation ends with a save; if that fails, the change stays in memory.
 class DayEditor {
 public:
-    explicit DayEditor(ModelContext& context)
-        : m_marker(context)
+    explicit DayEditor(DayMarker& marker)
+        : m_marker(marker)
     {
     }
 
@@ -27,5 +27,5 @@ public:
 private:
     void toggle(Month& month, qsizetype index, DayState state);
 
-    DayMarker m_marker;
+    DayMarker& m_marker;
 };

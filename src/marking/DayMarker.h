@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtGlobal>
+#include "DayChange.h"
 
+#include <QList>
+#include <QObject>
+
+class Clock;
 class ModelContext;
 class Month;
-enum class DayState;
 
 /// Who marks a day.
 enum class MarkedBy {
@@ -13,24 +16,68 @@ enum class MarkedBy {
     Click,
     /// The menu of states: any day. It does not touch `isWorkday`, and is saved at the end of the turn.
     Menu,
-    /// The automatic check: only unknown and planned days. It is saved at the end of the turn.
+    /// The automatic check: only unknown and planned days, and not what a person has taken back today. It is saved at
+    /// the end of the turn.
     Check
 };
 
-/// The only class that changes the days of a stored month. `index` is the day's place in the grid of its month, 0 to
-/// 37; any other stops the program.
-class DayMarker {
+/// What one group of changes did. Its days have changed together and are taken back together.
+struct ChangedDays {
+    /// The group in the store.
+    qint64 group = 0;
+    ChangedBy by = ChangedBy::Hand;
+    /// In the order in which they changed, each once.
+    QList<QDate> dates = {};
+    /// Of the day that changed last.
+    DayState state = DayState::UNKNOWN;
+
+    bool operator==(const ChangedDays&) const = default;
+};
+
+struct DayMark {
+    QDate date;
+    DayState state = DayState::UNKNOWN;
+};
+
+/// The only class that changes the days of stored months. Each change is also a DayChange, which is saved with it. A
+/// month that is not stored, such as a sample, changes without one.
+class DayMarker : public QObject {
+    Q_OBJECT
+
 public:
-    explicit DayMarker(ModelContext& context)
+    DayMarker(ModelContext& context, const Clock& clock)
         : m_context(context)
+        , m_clock(clock)
     {
     }
 
+    [[nodiscard]] ModelContext& context() const { return m_context; }
+
+    /// The state of a cell. `index` is the day's place in the grid of its month, 0 to 37; any other stops the program.
     [[nodiscard]] static DayState stateOf(const Month& month, qsizetype index);
 
-    /// Returns whether the day was marked.
-    bool mark(Month& month, qsizetype index, DayState state, MarkedBy by);
+    /// Returns the group of the change, or 0 if nothing was recorded: the day is as it was, or its month is not stored.
+    /// Changes of one day by hand, each within two seconds of the last, are one group. `network` is what a check found.
+    /// A check throws a StoreError if the store cannot be read.
+    qint64 mark(Month& month, qsizetype index, DayState state, MarkedBy by, const QString& network = {});
+
+    /// Marks several days as one group, and saves. Returns the group, or 0 if every day is as it was. `revertedGroup`
+    /// is what an undo or redo takes back. Throws a StoreError, and changes nothing, if the store cannot be read.
+    qint64 mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup = 0);
+
+Q_SIGNALS:
+    /// Days have changed. It is also emitted for each further change of a group that is still open.
+    void changed(const ChangedDays& days);
 
 private:
+    void record(DayChange change);
+    [[nodiscard]] qint64 groupFor(QDate date, MarkedBy by) const;
+    [[nodiscard]] qint64 newGroup() const;
+    /// Whether a person has today taken back this mark of a check.
+    [[nodiscard]] bool isTakenBack(QDate date, DayState state) const;
+
     ModelContext& m_context;
+    const Clock& m_clock;
+    /// The last change that was recorded; its group is 0 before the first.
+    DayChange m_last;
 };

@@ -38,6 +38,12 @@ std::shared_ptr<Month> findOrCreateMonth(ModelContext& context, QDate date)
     return findOrCreate(context, date.year(), {&number, 1}, Duplicates::Refused).first();
 }
 
+std::shared_ptr<Month> firstOrNewMonth(ModelContext& context, QDate date)
+{
+    const int number = date.month();
+    return findOrCreate(context, date.year(), {&number, 1}, Duplicates::Ignored).first();
+}
+
 QList<std::shared_ptr<Month>> quarterMonths(ModelContext& context, const YearQuarter& quarter)
 {
     return findOrCreate(context, quarter.year, quarter.months(), Duplicates::Ignored);

@@ -39,7 +39,7 @@ void ModelContainer::open(const Schema& schema)
         connectToStore(m_configuration.path.toStdString(), m_configuration.lockTimeout));
     // One transaction, so that all of it sees the same store, and a migration is undone if anything fails.
     SQLite::Transaction transaction(*m_database);
-    const int version = verifyStore(*m_database, schema);
+    const int version = verifyStore(*m_database, schema, VerificationDepth::ForOpening);
     if (version < schema.version())
         migrateStore(*m_database, schema, version);
     m_context = std::make_unique<ModelContext>(*m_database);

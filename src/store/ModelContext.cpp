@@ -2,12 +2,11 @@
 #include "ModelContext.h"
 
 #include "Connection.h"
-#include "RecordFields.h"
-#include "RecordTable.h"
 #include "SaveProblem.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "StoreReplacement.h"
+#include "StoreTables.h"
 
 #include <QLoggingCategory>
 
@@ -45,21 +44,13 @@ const char* textOf(SaveState::File file)
 
 } // namespace
 
-struct ModelContext::Tables {
-    RecordTable<Month> months;
-    RecordTable<Goal> goals;
-    RecordTable<AppSettings> settings;
-};
-
 ModelContext::ModelContext(SQLite::Database& database)
     : m_database(database)
+    , m_tables(std::make_unique<StoreTables>(
+          database, [this] { scheduleSave(); }, [this] { return fetchGoals(); }))
     , m_watch(database.getFilename())
     , m_retry([this] { save(); })
 {
-    const auto changed = [this] { scheduleSave(); };
-    m_tables.reset(new Tables{{database, monthFields(), changed},
-                              {database, goalFields(), changed},
-                              {database, settingsFields([this] { return fetchGoals(); }), changed}});
     // Settings and goals are few and needed at once; reading them here lets opening fail if they are damaged.
     static_cast<void>(fetchSettings());
 }
@@ -90,12 +81,54 @@ QList<std::shared_ptr<Month>> ModelContext::fetchMonths(int year, int month)
     return fetch(m_tables->months, {" WHERE year = ? AND month = ?", {year, month}, matches});
 }
 
+QList<std::shared_ptr<DayNote>> ModelContext::fetchNotes(QDate from, QDate to)
+{
+    const auto stored = [](QDate date) { return std::get<std::int64_t>(toStored(date)); };
+    const auto matches = [=](const DayNote& candidate) { return from <= candidate.date && candidate.date <= to; };
+    return fetch(m_tables->notes, {" WHERE date BETWEEN ? AND ?", {stored(from), stored(to)}, matches});
+}
+
+void ModelContext::visitChanges(const ChangeVisitor& visit)
+{
+    if (isReadable())
+        withStoreErrors([&] { m_tables->changes.forEachBackward(visit); });
+}
+
+void ModelContext::visitChanges(QDate date, const ChangeVisitor& visit)
+{
+    if (isReadable())
+        withStoreErrors([&] { m_tables->changes.forEachBackward(date, visit); });
+}
+
+void ModelContext::append(const DayChange& change)
+{
+    m_tables->changes.append(change);
+    scheduleSave();
+}
+
+void ModelContext::thinChanges(qint64 before)
+{
+    if (!checkFile())
+        return;
+    try {
+        m_tables->changes.thin(before);
+    } catch (const SQLite::Exception& error) {
+        qCWarning(logStore, "Old changes could not be deleted: %s", error.what());
+    }
+    m_watch.accept();
+}
+
 // What has been overwritten would be taken for other records.
+bool ModelContext::isReadable()
+{
+    return checkFile() || !m_watch.isSameFile();
+}
+
 template <class Record>
 QList<std::shared_ptr<Record>> ModelContext::fetch(RecordTable<Record>& table,
                                                    const typename RecordTable<Record>::Condition& condition)
 {
-    if (checkFile() || !m_watch.isSameFile())
+    if (isReadable())
         return withStoreErrors([&] { return table.fetch(condition); });
     auto known = table.inMemory();
     known.removeIf([&](const auto& record) { return !condition.matches(*record); });
@@ -124,6 +157,21 @@ void ModelContext::remove(const std::shared_ptr<Month>& month)
 void ModelContext::remove(const std::shared_ptr<AppSettings>& settings)
 {
     m_tables->settings.remove(settings);
+}
+
+void ModelContext::insert(const std::shared_ptr<DayNote>& note)
+{
+    m_tables->notes.insert(note);
+}
+
+void ModelContext::remove(const std::shared_ptr<DayNote>& note)
+{
+    m_tables->notes.remove(note);
+}
+
+bool ModelContext::contains(const Month& month) const
+{
+    return m_tables->months.contains(month);
 }
 
 bool ModelContext::save()
@@ -173,7 +221,7 @@ bool ModelContext::checkFile()
 
 bool ModelContext::hasChanges() const
 {
-    return m_tables->months.hasChanges() || m_tables->goals.hasChanges() || m_tables->settings.hasChanges();
+    return m_tables->hasChanges();
 }
 
 void ModelContext::scheduleSave()
@@ -191,49 +239,22 @@ void ModelContext::scheduleSave()
         Qt::QueuedConnection);
 }
 
-// Needs no query, because all settings and goals are in memory.
-void ModelContext::matchGoalsToLists()
-{
-    if (!m_tables->settings.hasChanges())
-        return;
-    AppSettings::Goals listed;
-    for (const auto& settings : m_tables->settings.inMemory())
-        listed += settings->daysPerWeekGoals.value();
-    for (const auto& goal : listed)
-        m_tables->goals.insert(goal);
-    for (const auto& goal : m_tables->goals.inMemory()) {
-        if (!listed.contains(goal))
-            m_tables->goals.remove(goal);
-    }
-}
-
 // A connection to a file that was not writable stays read-only, even if the file has become writable since.
 void ModelContext::reconnectIfReadOnly()
 {
     if (sqlite3_db_readonly(m_database.getHandle(), "main") == 0)
         return;
-    releaseConnection();
+    m_tables->release();
     m_database = connectToStore(m_database.getFilename(), saveLockTimeout);
-}
-
-void ModelContext::releaseConnection()
-{
-    m_tables->months.release();
-    m_tables->goals.release();
-    m_tables->settings.release();
 }
 
 void ModelContext::writeChanges()
 {
-    matchGoalsToLists();
+    m_tables->matchGoalsToLists();
     SQLite::Transaction transaction(m_database, SQLite::TransactionBehavior::IMMEDIATE);
-    m_tables->months.write();
-    m_tables->goals.write();
-    m_tables->settings.write();
+    m_tables->write();
     transaction.commit();
-    m_tables->months.markSaved();
-    m_tables->goals.markSaved();
-    m_tables->settings.markSaved();
+    m_tables->markSaved();
     m_saveScheduled = false; // adding or deleting goals has scheduled another save
 }
 
@@ -260,36 +281,16 @@ void ModelContext::replaceFile()
         replacement.copyWhatLiesThere(pellorySchema());
     else
         replacement.copyFrom(m_database);
-    releaseConnection();
+    m_tables->release();
     auto ours = std::exchange(m_database, connectToStore(replacement.draftName(), saveLockTimeout));
     try {
-        writeAllRecords();
+        m_tables->writeAll(m_database);
         replacement.putInPlace();
         m_database = connectToStore(m_watch.path(), saveLockTimeout);
     } catch (...) {
-        releaseConnection();
+        m_tables->release();
         m_database = std::move(ours);
         throw;
     }
-    m_tables->months.markAllSaved();
-    m_tables->goals.markAllSaved();
-    m_tables->settings.markAllSaved();
-}
-
-void ModelContext::writeAllRecords()
-{
-    matchGoalsToLists();
-    SQLite::Transaction transaction(m_database, SQLite::TransactionBehavior::IMMEDIATE);
-    m_database.exec("DELETE FROM goal; DELETE FROM app_settings");
-    SQLite::Statement same(m_database, "DELETE FROM month WHERE year = ? AND month = ?");
-    m_tables->months.forEach([&](const Month& month) {
-        same.reset();
-        same.bind(1, month.year.value());
-        same.bind(2, month.month.value());
-        same.exec();
-    });
-    m_tables->months.writeAll();
-    m_tables->goals.writeAll();
-    m_tables->settings.writeAll();
-    transaction.commit();
+    m_tables->markAllSaved();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DayChange.h"
 #include "Retry.h"
 #include "SaveState.h"
 #include "StoreFileWatch.h"
@@ -9,11 +10,14 @@
 #include <QObject>
 #include <QProperty>
 
+#include <functional>
 #include <memory>
 
 class AppSettings;
+class DayNote;
 class Goal;
 class Month;
+struct StoreTables;
 template <typename Record> class RecordTable; // with "class", lupdate takes it for one
 
 namespace SQLite {
@@ -38,14 +42,31 @@ public:
     /// The months of a year and month number: none or one, unless the store holds duplicates.
     [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths(int year, int month);
 
+    /// The notes of the days from one date to another: one a day, unless the store holds duplicates.
+    [[nodiscard]] QList<std::shared_ptr<DayNote>> fetchNotes(QDate from, QDate to);
+
+    /// Visits every change of a day, or those of one day, the newest first, until the visitor returns false. Throws a
+    /// StoreError if the store cannot be read.
+    using ChangeVisitor = std::function<bool(const DayChange&)>;
+    void visitChanges(const ChangeVisitor& visit);
+    void visitChanges(QDate date, const ChangeVisitor& visit);
+    /// Adds a change of a day, for the next save.
+    void append(const DayChange& change);
+    /// Of the changes before a time, in milliseconds since 1970, keeps only the last of each day.
+    void thinChanges(qint64 before);
+
     /// Adds a record. Goals are added with the settings that list them, and deleted by the save of settings after which
     /// no settings list them. Inserting a removed record before the next save takes the removal back.
     void insert(const std::shared_ptr<Month>& month);
     void insert(const std::shared_ptr<AppSettings>& settings);
+    void insert(const std::shared_ptr<DayNote>& note);
+    /// Whether a month was fetched or inserted, and not removed.
+    [[nodiscard]] bool contains(const Month& month) const;
 
     /// Deletes a record from the store with the next save. It is not fetched any more.
     void remove(const std::shared_ptr<Month>& month);
     void remove(const std::shared_ptr<AppSettings>& settings);
+    void remove(const std::shared_ptr<DayNote>& note);
 
     /// Writes all changes in one transaction. True if everything is on disk; a failure is logged, leaves the store as
     /// it was, and the changes in memory.
@@ -63,23 +84,18 @@ public:
     bool keepRecords();
 
 private:
-    struct Tables;
-
     template <class Record>
     QList<std::shared_ptr<Record>> fetch(RecordTable<Record>& table,
                                          const typename RecordTable<Record>::Condition& condition);
     void scheduleSave();
-    void matchGoalsToLists();
     void writeChanges();
     void reconnectIfReadOnly();
-    void releaseConnection();
-    void requireReadableFile();
+    [[nodiscard]] bool isReadable();
     void replaceFile();
-    void writeAllRecords();
     bool report(const QString& problem);
 
     SQLite::Database& m_database;
-    std::unique_ptr<Tables> m_tables;
+    std::unique_ptr<StoreTables> m_tables;
     StoreFileWatch m_watch;
     QProperty<SaveState> m_saveState;
     Retry m_retry;

@@ -64,6 +64,30 @@ RecordFields<Goal> goalFields()
             }};
 }
 
+RecordFields<DayChange> dayChangeFields()
+{
+    return {"day_change",
+            {
+                field("time", &DayChange::time),
+                field("date", &DayChange::date),
+                field("before", &DayChange::before),
+                field("after", &DayChange::after),
+                field("changed_by", &DayChange::by),
+                field("change_group", &DayChange::group),
+                field("reverted_group", &DayChange::revertedGroup),
+                field("network", &DayChange::network),
+            }};
+}
+
+RecordFields<DayNote> dayNoteFields()
+{
+    return {"day_note",
+            {
+                field("date", &DayNote::date),
+                field("text", &DayNote::text),
+            }};
+}
+
 RecordFields<AppSettings> settingsFields(const std::function<AppSettings::Goals()>& storedGoals)
 {
     return {"app_settings",

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "AppSettings.h"
+#include "DayChange.h"
+#include "DayNote.h"
 #include "Field.h"
 #include "Month.h"
 
@@ -9,6 +11,8 @@
 
 [[nodiscard]] RecordFields<Month> monthFields();
 [[nodiscard]] RecordFields<Goal> goalFields();
+[[nodiscard]] RecordFields<DayChange> dayChangeFields();
+[[nodiscard]] RecordFields<DayNote> dayNoteFields();
 
 /// Settings name their goals by id. `storedGoals` returns the goals that they can name.
 [[nodiscard]] RecordFields<AppSettings> settingsFields(const std::function<AppSettings::Goals()>& storedGoals = {});

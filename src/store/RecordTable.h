@@ -81,6 +81,12 @@ public:
         markChanged(entry);
     }
 
+    [[nodiscard]] bool contains(const Record& record) const
+    {
+        const auto known = m_entries.find(&record);
+        return known != m_entries.end() && !known->second->removed;
+    }
+
     [[nodiscard]] bool hasChanges() const { return !m_dirty.empty(); }
 
     /// Writes every change. Must be called in a transaction, and followed by markSaved() after its commit.

@@ -30,6 +30,8 @@ struct Column {
 struct TableLayout {
     std::string name;
     std::vector<Column> columns;
+    /// Whether opening a store leaves it to later readers to verify the rows.
+    bool isLarge = false;
 
     [[nodiscard]] std::string createSql() const;
     /// Key, fields and checksum of every row.

@@ -24,6 +24,13 @@ void undo(const Migration& migration, Schema& schema)
     eraseNamed(schema.indexes, migration.newIndexes);
 }
 
+TableLayout dayChanges()
+{
+    TableLayout layout = dayChangeFields().layout();
+    layout.isLarge = true;
+    return layout;
+}
+
 } // namespace
 
 Schema Schema::atVersion(int version) const
@@ -40,8 +47,10 @@ Schema Schema::atVersion(int version) const
 Schema pellorySchema()
 {
     return {
-        .tables = {monthFields().layout(), goalFields().layout(), settingsFields().layout()},
-        .indexes = {{"month_by_period", "CREATE INDEX month_by_period ON month (year, month)"}},
-        .migrations = {},
+        .tables = {monthFields().layout(), goalFields().layout(), settingsFields().layout(), dayChanges(),
+                   dayNoteFields().layout()},
+        .indexes = {{"month_by_period", "CREATE INDEX month_by_period ON month (year, month)"},
+                    {"day_note_by_date", "CREATE INDEX day_note_by_date ON day_note (date)"}},
+        .migrations = {{.newTables = {"day_change", "day_note"}, .newIndexes = {"day_note_by_date"}}},
     };
 }

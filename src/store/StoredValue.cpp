@@ -42,6 +42,21 @@ Value toStored(const QList<Day>& grid)
     return encodedDays(grid);
 }
 
+Value toStored(QDate date)
+{
+    return toStored((date.year() * 100 + date.month()) * 100 + date.day());
+}
+
+Value toStored(DayState state)
+{
+    return std::string(rawValue(state).data());
+}
+
+Value toStored(ChangedBy who)
+{
+    return toStored(static_cast<int>(who));
+}
+
 template <> bool fromStored<bool>(const Value& value)
 {
     return std::get<std::int64_t>(value) != 0;
@@ -81,4 +96,29 @@ template <> QList<Day> fromStored<QList<Day>>(const Value& value)
     if (grid.size() != Month::cellCount)
         throw StoreError(StoreError::tr("it has %1 cells instead of %2").arg(grid.size()).arg(Month::cellCount));
     return grid;
+}
+
+template <> QDate fromStored<QDate>(const Value& value)
+{
+    const int number = fromStored<int>(value);
+    const QDate date(number / 10000, number / 100 % 100, number % 100);
+    if (!date.isValid())
+        throw StoreError(StoreError::tr("%1 is not a date").arg(number));
+    return date;
+}
+
+template <> DayState fromStored<DayState>(const Value& value)
+{
+    const QString raw = fromStored<QString>(value);
+    if (const auto state = dayStateFromRawValue(raw))
+        return *state;
+    throw StoreError(StoreError::tr("\"%1\" is not a state").arg(raw));
+}
+
+template <> ChangedBy fromStored<ChangedBy>(const Value& value)
+{
+    const int number = fromStored<int>(value);
+    if (number < static_cast<int>(ChangedBy::Hand) || number > static_cast<int>(ChangedBy::Import))
+        throw StoreError(StoreError::tr("a number is out of range"));
+    return static_cast<ChangedBy>(number);
 }

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "Day.h"
+#include "DayChange.h"
 #include "Row.h"
 
 #include <QStringList>
 #include <QUuid>
 
-/// The stored form of a field of each type. Booleans are 0 and 1, lists are JSON.
+/// The stored form of a field of each type. Booleans are 0 and 1, dates are numbers like 20261122, lists are JSON.
 [[nodiscard]] Value toStored(bool flag);
 [[nodiscard]] Value toStored(int number);
 [[nodiscard]] Value toStored(qint64 number);
@@ -15,6 +16,9 @@
 [[nodiscard]] Value toStored(const QUuid& id);
 [[nodiscard]] Value toStored(const QStringList& strings);
 [[nodiscard]] Value toStored(const QList<Day>& grid);
+[[nodiscard]] Value toStored(QDate date);
+[[nodiscard]] Value toStored(DayState state);
+[[nodiscard]] Value toStored(ChangedBy who);
 
 /// The reverse. Throws a StoreError when a field of this type cannot hold the value.
 template <class T> [[nodiscard]] T fromStored(const Value& value);
@@ -25,6 +29,9 @@ template <> QString fromStored<QString>(const Value& value);
 template <> QUuid fromStored<QUuid>(const Value& value);
 template <> QStringList fromStored<QStringList>(const Value& value);
 template <> QList<Day> fromStored<QList<Day>>(const Value& value);
+template <> QDate fromStored<QDate>(const Value& value);
+template <> DayState fromStored<DayState>(const Value& value);
+template <> ChangedBy fromStored<ChangedBy>(const Value& value);
 
 template <class T> [[nodiscard]] ColumnType columnType()
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "InOfficeCheck.h"
 #include "AppSettings.h"
+#include "DayMarker.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
 #include "ModelContainer.h"
@@ -53,7 +54,8 @@ protected:
     ModelContainer container{{.name = {}, .path = folder.filePath(u"Pellory.store"_s)}};
     ModelContext& context = container.mainContext();
     AppSettings settings;
-    InOfficeCheck check{{container, settings, client, *this, clock}};
+    DayMarker marker{container.mainContext(), clock};
+    InOfficeCheck check{{container, marker, settings, client, *this, clock}};
     QStringList posted;
 };
 

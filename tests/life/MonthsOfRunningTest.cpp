@@ -116,9 +116,11 @@ protected:
     }
 
     SystemClock systemClock;
-    InOfficeCheck liveCheck{{container, *settings, wifiClient, notifier, systemClock}};
-    const ViewParts liveParts{context,    *settings,       viewSettings, systemClock,
-                              wifiClient, locationManager, liveCheck,    launchAtLogin};
+    DayMarker liveMarker{context, systemClock};
+    UndoHistory liveHistory{liveMarker};
+    InOfficeCheck liveCheck{{container, liveMarker, *settings, wifiClient, notifier, systemClock}};
+    const ViewParts liveParts{context,     liveMarker, liveHistory,     *settings, viewSettings,
+                              systemClock, wifiClient, locationManager, liveCheck, launchAtLogin};
     ContentView window{liveParts};
     Marks expected;
     QDate shown;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DayEditor.h"
+#include "DayMarker.h"
+#include "FixedClock.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "Month.h"
@@ -11,12 +13,14 @@
 TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicates)
 {
     const QTemporaryDir folder(inMemory);
+    const FixedClock clock;
     ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
     ModelContext& context = container.mainContext();
     const auto november = findOrCreateMonth(context, {2026, 11, 20});
     november->days = {{20, DayState::UNKNOWN, false}};
     context.save();
-    DayEditor editor(context);
+    DayMarker marker(context, clock);
+    DayEditor editor(marker);
     editor.setDayState(*november, 0, DayState::VACATION_DAY);
     EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::VACATION_DAY, false}}));
     EXPECT_TRUE(context.hasChanges());

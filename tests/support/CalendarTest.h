@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppSettings.h"
+#include "DayMarker.h"
 #include "FixedClock.h"
 #include "Marking.h"
 #include "ModelContainer.h"
@@ -9,6 +10,7 @@
 #include "StoredMonths.h"
 #include "Testing.h"
 #include "Theme.h"
+#include "UndoHistory.h"
 #include "ViewSettings.h"
 #include "Widgets.h"
 
@@ -55,4 +57,6 @@ protected:
     QSettings stored{folder.filePath(u"views.ini"_s), QSettings::IniFormat};
     ViewSettings viewSettings{stored};
     FixedClock clock;
+    DayMarker marker{context, clock};
+    UndoHistory history{marker};
 };

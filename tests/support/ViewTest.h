@@ -49,8 +49,9 @@ protected:
     MockSystemSettings systemSettings;
     LocationManagerKey locationManager{authorization, systemSettings};
     testing::NiceMock<MockNotifier> notifier;
-    InOfficeCheck check{{container, *settings, wifiClient, notifier, clock}};
+    InOfficeCheck check{{container, marker, *settings, wifiClient, notifier, clock}};
     FakeLoginItem loginItem;
     LaunchAtLogin launchAtLogin{loginItem};
-    const ViewParts parts{context, *settings, viewSettings, clock, wifiClient, locationManager, check, launchAtLogin};
+    const ViewParts parts{context, marker,     history,         *settings, viewSettings,
+                          clock,   wifiClient, locationManager, check,     launchAtLogin};
 };

@@ -3,6 +3,7 @@
 
 #include "CalendarView.h"
 #include "Clock.h"
+#include "DayMarker.h"
 #include "Labels.h"
 #include "LinkButton.h"
 #include "MonthCard.h"
@@ -34,9 +35,9 @@ std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
 
 } // namespace
 
-CalendarPage::CalendarPage(ModelContext& context, const Clock& clock, QWidget* parent)
+CalendarPage::CalendarPage(DayMarker& marker, const Clock& clock, QWidget* parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_marker(marker)
     , m_clock(clock)
     , m_today(clock.today())
     , m_error(labels::announced(new QLabel(tr("Error loading month!"))))
@@ -150,7 +151,7 @@ std::optional<YearMonth> CalendarPage::monthAfter() const
 QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
 {
     try {
-        return quarterMonths(m_context, m_month.quarter());
+        return quarterMonths(m_marker.context(), m_month.quarter());
     } catch (const StoreError& error) {
         if (m_error->isHidden()) // the first time
             qCWarning(logCalendar, "Cannot load a month: %s", error.what());

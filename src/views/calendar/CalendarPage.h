@@ -12,7 +12,7 @@
 
 class CalendarView;
 class Clock;
-class ModelContext;
+class DayMarker;
 class Month;
 class MonthCard;
 class NavigationRow;
@@ -27,7 +27,7 @@ class CalendarPage : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarPage(ModelContext& context, const Clock& clock, QWidget* parent);
+    CalendarPage(DayMarker& marker, const Clock& clock, QWidget* parent);
 
     /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
     void previous(Qt::FocusReason reason = Qt::ShortcutFocusReason);
@@ -68,7 +68,7 @@ private:
     void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
     void followToday();
 
-    ModelContext& m_context;
+    DayMarker& m_marker;
     const Clock& m_clock;
     QDate m_today;
     YearMonth m_month;

@@ -34,12 +34,12 @@ constexpr float highlightOpacity = 0.1F;
 
 } // namespace
 
-CalendarView::CalendarView(ModelContext& context, const ViewSettings& viewSettings, const Clock& clock,
-                           bool highlighted, QWidget* parent)
+CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, const Clock& clock, bool highlighted,
+                           QWidget* parent)
     : QWidget(parent)
     , m_viewSettings(viewSettings)
     , m_clock(clock)
-    , m_editor(context)
+    , m_editor(marker)
     , m_highlighted(highlighted)
 {
     setAccessibleRole(*this, QAccessible::Grouping);

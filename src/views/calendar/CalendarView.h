@@ -21,7 +21,7 @@ class CalendarView : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarView(ModelContext& context, const ViewSettings& viewSettings, const Clock& clock, bool highlighted = false,
+    CalendarView(DayMarker& marker, const ViewSettings& viewSettings, const Clock& clock, bool highlighted = false,
                  QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);

@@ -4,10 +4,10 @@
 #include "CalendarView.h"
 #include "ViewSettings.h"
 
-MonthCard::MonthCard(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+MonthCard::MonthCard(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
                      const Clock& clock, NavigationRow* navigation, QWidget* parent)
     : TrackerCard(settings, viewSettings, PeriodWord::Month, viewSettings.showMonthStats, parent)
-    , m_calendar(new CalendarView(context, viewSettings, clock))
+    , m_calendar(new CalendarView(marker, viewSettings, clock))
 {
     addHeader(navigation, m_calendar);
 }

@@ -5,7 +5,7 @@
 
 class CalendarView;
 class Clock;
-class ModelContext;
+class DayMarker;
 class NavigationRow;
 
 /// The grid of a month with its progress tracker below.
@@ -14,7 +14,7 @@ class MonthCard : public TrackerCard {
 
 public:
     /// The navigation, if there is one, is above the grid.
-    MonthCard(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+    MonthCard(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
               NavigationRow* navigation = nullptr, QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);

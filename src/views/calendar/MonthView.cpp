@@ -9,13 +9,13 @@
 
 #include <QVBoxLayout>
 
-MonthView::MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+MonthView::MonthView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
                      const Clock& clock, QWidget* parent)
-    : CalendarPage(context, clock, parent)
+    : CalendarPage(marker, clock, parent)
     , m_quarter(new TrackerCard(settings, viewSettings, PeriodWord::Quarter, viewSettings.showQuarterStats))
 {
     auto* navigation = new NavigationRow(tr("Last Month"), tr("Next Month"));
-    auto* month = new MonthCard(context, settings, viewSettings, clock, navigation);
+    auto* month = new MonthCard(marker, settings, viewSettings, clock, navigation);
     connectNavigation(*navigation);
     connectCard(*month);
     contents().addWidget(month, 0, Qt::AlignHCenter);

@@ -12,7 +12,7 @@ class MonthView final : public CalendarPage {
     Q_OBJECT
 
 public:
-    MonthView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+    MonthView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
               QWidget* parent = nullptr);
 
 protected:

@@ -14,16 +14,16 @@ constexpr int monthsOfQuarter = 3;
 
 } // namespace
 
-QuarterView::QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
+QuarterView::QuarterView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
                          const Clock& clock, QWidget* parent)
-    : CalendarPage(context, clock, parent)
+    : CalendarPage(marker, clock, parent)
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));
     m_stats = new QuarterStatsView(settings, viewSettings, clock, navigation);
     connectNavigation(*navigation);
     for (int i = 0; i < monthsOfQuarter; ++i) {
-        auto* card = new MonthCard(context, settings, viewSettings, clock);
+        auto* card = new MonthCard(marker, settings, viewSettings, clock);
         m_row->addWidget(card);
         connectCard(*card);
     }

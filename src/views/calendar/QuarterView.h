@@ -14,8 +14,8 @@ class QuarterView final : public CalendarPage {
     Q_OBJECT
 
 public:
-    QuarterView(ModelContext& context, const AppSettings& settings, const ViewSettings& viewSettings,
-                const Clock& clock, QWidget* parent = nullptr);
+    QuarterView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
+                QWidget* parent = nullptr);
 
     /// The width of one month even while three are side by side, so that the window can be made narrower again.
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -114,7 +114,7 @@ std::shared_ptr<Month> makeSampleMonth(QDate today)
 
 } // namespace
 
-QWidget* WelcomeSteps::makeIntroduction(ModelContext& context, const AppSettings& settings,
+QWidget* WelcomeSteps::makeIntroduction(DayMarker& marker, const AppSettings& settings,
                                         const ViewSettings& viewSettings, const Clock& clock)
 {
     auto* step = new QWidget;
@@ -122,7 +122,7 @@ QWidget* WelcomeSteps::makeIntroduction(ModelContext& context, const AppSettings
                               tr("Mark where you spend each day, and see how far you are from your goals. Try it on "
                                  "this sample month: click a day to change it, or right-click it for all states."));
     const auto sample = makeSampleMonth(clock.today());
-    auto* calendar = new CalendarView(context, viewSettings, clock, true);
+    auto* calendar = new CalendarView(marker, viewSettings, clock, true);
     calendar->setContentsMargins(16, 12, 16, 12);
     calendar->setMonth(sample);
     auto* tracker = new ProgressWidgetView(settings, viewSettings, PeriodWord::Month);

@@ -5,10 +5,10 @@
 
 class AppSettings;
 class Clock;
+class DayMarker;
 class InOfficeCheck;
 class LaunchAtLogin;
 class LocationManager;
-class ModelContext;
 class QWidget;
 class ViewSettings;
 class WiFiClient;
@@ -19,7 +19,7 @@ class WelcomeSteps {
 
 public:
     /// What Pellory is, with a sample month to try out. That month is never stored.
-    [[nodiscard]] static QWidget* makeIntroduction(ModelContext& context, const AppSettings& settings,
+    [[nodiscard]] static QWidget* makeIntroduction(DayMarker& marker, const AppSettings& settings,
                                                    const ViewSettings& viewSettings, const Clock& clock);
     /// The goals, and what the sample month makes of them.
     [[nodiscard]] static QWidget* makeGoals(AppSettings& settings, const ViewSettings& viewSettings,

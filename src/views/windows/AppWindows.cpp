@@ -165,7 +165,7 @@ void AppWindows::makeWelcome()
     m_welcome = new WelcomeView(
         {
             [&parts] {
-                return WelcomeSteps::makeIntroduction(parts.context, parts.settings, parts.viewSettings, parts.clock);
+                return WelcomeSteps::makeIntroduction(parts.marker, parts.settings, parts.viewSettings, parts.clock);
             },
             [&parts] { return WelcomeSteps::makeGoals(parts.settings, parts.viewSettings, parts.clock); },
             [&parts] { return WelcomeSteps::makeGeneral(parts.settings, parts.launchAtLogin); },

@@ -43,7 +43,7 @@ constexpr int menuGap = 4;
 
 template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
 {
-    return [&parts] { return new Page(new Calendar(parts.context, parts.settings, parts.viewSettings, parts.clock)); };
+    return [&parts] { return new Page(new Calendar(parts.marker, parts.settings, parts.viewSettings, parts.clock)); };
 }
 
 } // namespace

@@ -5,16 +5,20 @@
 
 class AppSettings;
 class Clock;
+class DayMarker;
 class InOfficeCheck;
 class LaunchAtLogin;
 class LocationManagerKey;
 class ModelContext;
+class UndoHistory;
 class ViewSettings;
 class WiFiClient;
 
 /// What the windows hand out to their views, each of which asks for what it needs. All of it outlives them.
 struct ViewParts {
     ModelContext& context;
+    DayMarker& marker;
+    UndoHistory& history;
     AppSettings& settings;
     ViewSettings& viewSettings;
     Clock& clock;
