@@ -25,6 +25,7 @@ protected:
         for (int month = 4; month <= 12; ++month)
             context.insert(std::make_shared<Month>(2026, month));
         context.remove(context.fetchMonths(2026, 1).first());
+        context.append(exampleChange());
     }
 
     /// Puts an obstacle in the way of writing, or removes it.

@@ -16,8 +16,20 @@
 
 #include <algorithm>
 
-/// Every record that a context knows, as it is stored.
-inline std::vector<Row> contents(ModelContext& context)
+/// The changes of days that a context knows, as they are stored.
+inline std::vector<Row> changes(ModelContext& context)
+{
+    std::vector<Row> rows;
+    context.visitChanges([&rows](const DayChange& change) {
+        rows.push_back(dayChangeFields().row(change));
+        return true;
+    });
+    std::ranges::sort(rows);
+    return rows;
+}
+
+/// Every other record that a context knows, as it is stored.
+inline std::vector<Row> records(ModelContext& context)
 {
     std::vector<Row> rows;
     const auto add = [&rows](const auto& fields, const auto& records) {
@@ -27,8 +39,28 @@ inline std::vector<Row> contents(ModelContext& context)
     add(monthFields(), context.fetchMonths());
     add(goalFields(), context.fetchGoals());
     add(settingsFields(), context.fetchSettings());
+    add(dayNoteFields(), context.fetchNotes(QDate(1, 1, 1), QDate(9999, 12, 31)));
     std::ranges::sort(rows);
     return rows;
+}
+
+/// Everything that a context knows, as it is stored.
+inline std::vector<Row> contents(ModelContext& context)
+{
+    auto rows = records(context);
+    std::ranges::copy(changes(context), std::back_inserter(rows));
+    return rows;
+}
+
+/// A change that is not stored yet.
+inline DayChange exampleChange()
+{
+    return {.time = -1,
+            .date = {2026, 3, 31},
+            .after = DayState::IN_OFFICE,
+            .by = ChangedBy::Check,
+            .group = 1LL << 40,
+            .network = u"Büro 5G"_s};
 }
 
 /// A store in a folder of its own.
@@ -77,10 +109,28 @@ protected:
     }
 
     /// Puts the released program's store in the place of whatever is there.
-    void putSample() const
+    void putReleased() const
     {
         QFile::remove(path);
         SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(releasedStore);
+    }
+
+    /// The same, as this program writes it, with a record of each newer kind.
+    void putSample() const
+    {
+        static QByteArray sample;
+        if (!sample.isEmpty())
+            return setBytes(sample);
+        putReleased();
+        {
+            const auto container = open();
+            container->mainContext().append(exampleChange());
+            const auto note = std::make_shared<DayNote>(QDate(2026, 3, 31));
+            note->text = u"café 'x'\n"_s;
+            container->mainContext().insert(note);
+        }
+        sample = bytes();
+        QFile::remove(path + u".before-2"_s);
     }
 
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
