@@ -50,12 +50,19 @@ bool DayChangeLog::visitPending(QDate date, const Visitor& visit) const
 void DayChangeLog::visitStored(SQLite::Statement& rows, const Visitor& visit) const
 {
     while (rows.executeStep()) {
-        try {
-            if (!visit(*m_fields.record(readRow(rows, m_layout))))
-                return;
-        } catch (const StoreError& error) {
-            qCWarning(logChanges, "A change of a day cannot be read: %s", error.what());
-        }
+        const auto change = read(rows);
+        if (change && !visit(*change))
+            return;
+    }
+}
+
+std::shared_ptr<DayChange> DayChangeLog::read(SQLite::Statement& rows) const
+{
+    try {
+        return m_fields.record(readRow(rows, m_layout));
+    } catch (const StoreError& error) {
+        qCWarning(logChanges, "A change of a day cannot be read: %s", error.what());
+        return nullptr;
     }
 }
 

@@ -42,6 +42,8 @@ public:
 private:
     bool visitPending(QDate date, const Visitor& visit) const;
     void visitStored(SQLite::Statement& rows, const Visitor& visit) const;
+    /// Null if the row is damaged.
+    [[nodiscard]] std::shared_ptr<DayChange> read(SQLite::Statement& rows) const;
 
     SQLite::Database& m_database;
     RecordFields<DayChange> m_fields;

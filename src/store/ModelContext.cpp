@@ -90,14 +90,14 @@ QList<std::shared_ptr<DayNote>> ModelContext::fetchNotes(QDate from, QDate to)
 
 void ModelContext::visitChanges(const ChangeVisitor& visit)
 {
-    if (isReadable())
-        withStoreErrors([&] { m_tables->changes.forEachBackward(visit); });
+    requireReadable();
+    withStoreErrors([&] { m_tables->changes.forEachBackward(visit); });
 }
 
 void ModelContext::visitChanges(QDate date, const ChangeVisitor& visit)
 {
-    if (isReadable())
-        withStoreErrors([&] { m_tables->changes.forEachBackward(date, visit); });
+    requireReadable();
+    withStoreErrors([&] { m_tables->changes.forEachBackward(date, visit); });
 }
 
 void ModelContext::append(const DayChange& change)
@@ -124,6 +124,12 @@ bool ModelContext::isReadable()
     return checkFile() || !m_watch.isSameFile();
 }
 
+void ModelContext::requireReadable()
+{
+    if (!isReadable())
+        throw StoreError(StoreError::tr("Another program has changed the data file."));
+}
+
 template <class Record>
 QList<std::shared_ptr<Record>> ModelContext::fetch(RecordTable<Record>& table,
                                                    const typename RecordTable<Record>::Condition& condition)
@@ -133,7 +139,7 @@ QList<std::shared_ptr<Record>> ModelContext::fetch(RecordTable<Record>& table,
     auto known = table.inMemory();
     known.removeIf([&](const auto& record) { return !condition.matches(*record); });
     if (known.isEmpty())
-        throw StoreError(StoreError::tr("Another program has changed the data file."));
+        requireReadable();
     return known;
 }
 
@@ -286,6 +292,7 @@ void ModelContext::replaceFile()
     try {
         m_tables->writeAll(m_database);
         replacement.putInPlace();
+        m_tables->release();
         m_database = connectToStore(m_watch.path(), saveLockTimeout);
     } catch (...) {
         m_tables->release();

@@ -91,6 +91,7 @@ private:
     void writeChanges();
     void reconnectIfReadOnly();
     [[nodiscard]] bool isReadable();
+    void requireReadable();
     void replaceFile();
     bool report(const QString& problem);
 

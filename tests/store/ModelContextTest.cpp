@@ -6,6 +6,7 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <cstring>
+#include <random>
 
 using testing::ElementsAre;
 using testing::Key;
@@ -130,6 +131,33 @@ TEST_F(ModelContextTest, findsWhatIsInsertedBeforeAndAfterItIsSaved)
     const auto inserted = contents(container->mainContext());
     EXPECT_EQ(inserted.size(), 2 + 1 + 3);
     EXPECT_EQ(stored(), inserted);
+}
+
+TEST_F(ModelContextTest, ofOldChangesKeepsTheLastOfEachDayAndPassesOverWhatIsDamaged)
+{
+    std::mt19937 random(14);
+    const auto container = open();
+    std::vector<DayChange> all;
+    for (int i = 0; i < 200; ++i) {
+        all.push_back({.time = qint64(random() % 100), .date = {2026, 3, 1 + int(random() % 20)}, .group = i});
+        container->mainContext().append(all.back());
+    }
+    EXPECT_TRUE(container->mainContext().save());
+    for (const qint64 before : {0, 30, 60, 60, 200}) {
+        std::vector<Row> kept;
+        for (auto change = all.begin(); change != all.end(); ++change) {
+            if (change->time >= before || std::none_of(change + 1, all.end(), [&](const DayChange& later) {
+                    return later.date == change->date && later.time < before;
+                }))
+                kept.push_back(dayChangeFields().row(*change));
+        }
+        std::ranges::sort(kept);
+        container->mainContext().thinChanges(before);
+        EXPECT_EQ(changes(container->mainContext()), kept) << before;
+        EXPECT_EQ(stored(), kept);
+    }
+    connection().exec("UPDATE day_change SET network = 'x' WHERE pk % 2 = 1");
+    EXPECT_EQ(stored().size(), connection().execAndGet("SELECT count(*) FROM day_change WHERE network = ''").getInt());
 }
 
 TEST_F(ModelContextTest, deletesWhatIsRemovedAndGoalsThatNoSettingsList)

@@ -47,6 +47,7 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         if (there != none)
             setBytes(there);
         mark(*march, 31, DayState::IN_OFFICE);
+        context.append(exampleChange());
         EXPECT_FALSE(context.save());
         const SaveState state{there == none ? SaveState::File::Missing : SaveState::File::Replaced, true, {}};
         EXPECT_EQ(context.saveState().value(), state);
@@ -61,6 +62,7 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         EXPECT_EQ(files().size(), there == none ? 1 : 2);
         EXPECT_EQ(context.fetchMonths().size(), months);
         mark(*march, 30, DayState::IN_OFFICE);
+        context.append(exampleChange());
         EXPECT_TRUE(context.save());
         EXPECT_EQ(stored(), contents(context));
         container.reset();
