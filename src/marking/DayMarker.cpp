@@ -7,9 +7,13 @@
 #include "StoreError.h"
 #include "StoredMonths.h"
 
+#include <QDateTime>
+#include <QHash>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -29,6 +33,23 @@ ChangedBy changedBy(MarkedBy by)
     return by == MarkedBy::Check ? ChangedBy::Check : ChangedBy::Hand;
 }
 
+QDate firstOfMonth(QDate date)
+{
+    return {date.year(), date.month(), 1};
+}
+
+/// Returns the earlier state, or nothing if the day has this state already or the month lacks the day.
+std::optional<DayState> setState(Month& month, QDate date, DayState state)
+{
+    const auto index = month.indexOf(date.day());
+    if (!index || DayMarker::stateOf(month, *index) == state)
+        return {};
+    QList<Day> days = month.days;
+    const DayState before = std::exchange(days[*index].state, state);
+    month.days = days;
+    return before;
+}
+
 } // namespace
 
 DayState DayMarker::stateOf(const Month& month, qsizetype index)
@@ -42,52 +63,47 @@ DayState DayMarker::stateOf(const Month& month, qsizetype index)
 qint64 DayMarker::mark(Month& month, qsizetype index, DayState state, MarkedBy by, const QString& network)
 {
     const DayState before = stateOf(month, index);
-    const QDate date = month.dateOf(month.days.value().at(index).id);
-    if (by == MarkedBy::Check && (!isOpen(before) || isTakenBack(date, state)))
-        return 0;
     QList<Day> days = month.days;
     Day& day = days[index];
+    const QDate date = month.dateOf(day.id);
+    if (by == MarkedBy::Check && (!isOpen(before) || isTakenBack(date, state)))
+        return 0;
+    const bool isRecorded = before != state && day.isInMonth() && m_context.contains(month);
     day.state = state;
     if (by != MarkedBy::Menu)
         day.isWorkday = month.isWorkday(day.id);
     month.days = days;
-    qint64 group = 0;
-    if (before != state && m_context.contains(month)) {
-        group = groupFor(date, by);
+    const qint64 group = isRecorded ? groupFor(date, by) : 0;
+    if (isRecorded)
         record(
             {.date = date, .before = before, .after = state, .by = changedBy(by), .group = group, .network = network});
-    }
     if (by == MarkedBy::Click)
         m_context.save();
-    if (group != 0)
+    if (isRecorded)
         Q_EMIT changed({group, changedBy(by), {date}, state});
     return group;
 }
 
 qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup)
 {
-    struct Change {
-        std::shared_ptr<Month> month;
-        QList<Day> days;
-    };
     // Everything is read before anything changes.
-    std::map<QDate, Change> months;
+    std::map<QDate, std::shared_ptr<Month>> months;
     for (const DayMark& mark : marks) {
-        Change& change = months[QDate(mark.date.year(), mark.date.month(), 1)];
-        if (!change.month) {
-            change.month = firstOrNewMonth(m_context, mark.date);
-            change.days = change.month->days;
-        }
+        auto& month = months[firstOfMonth(mark.date)];
+        if (!month)
+            month = storedMonth(m_context, mark.date);
+        if (!month)
+            month = std::make_shared<Month>(mark.date.year(), mark.date.month());
     }
     ChangedDays result{.group = newGroup(), .by = by};
     for (const auto& [date, state] : marks) {
-        Change& change = months.at(QDate(date.year(), date.month(), 1));
-        Day& day = change.days[*change.month->indexOf(date.day())];
-        const DayState before = std::exchange(day.state, state);
-        if (before == state)
+        const auto& month = months.at(firstOfMonth(date));
+        const auto before = setState(*month, date, state);
+        if (!before)
             continue;
+        m_context.insert(month);
         record({.date = date,
-                .before = before,
+                .before = *before,
                 .after = state,
                 .by = by,
                 .group = result.group,
@@ -97,8 +113,7 @@ qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 reverte
     }
     if (result.dates.isEmpty())
         return 0;
-    for (const auto& entry : months)
-        entry.second.month->days = entry.second.days;
+    m_last.date = {}; // no click continues this group
     m_context.save();
     Q_EMIT changed(result);
     return result.group;
@@ -121,31 +136,35 @@ qint64 DayMarker::groupFor(QDate date, MarkedBy by) const
 
 qint64 DayMarker::newGroup() const
 {
-    qint64 last = 0;
+    qint64 last = m_last.group;
     try {
         m_context.visitChanges([&](const DayChange& newest) {
-            last = newest.group;
+            last = std::max(last, newest.group);
             return false;
         });
     } catch (const StoreError& error) {
         qCWarning(logMarking, "The last change cannot be read: %s", error.what());
-        last = m_clock.now().toMSecsSinceEpoch(); // greater than any number that is counted
+        last = std::max(last, m_clock.now().toMSecsSinceEpoch()); // which is greater than any number that is counted
     }
     return last + 1;
 }
 
 bool DayMarker::isTakenBack(QDate date, DayState state) const
 {
-    qint64 takenBack = 0;
-    bool isMarkOfCheck = false;
-    m_context.visitChanges(date, [&](const DayChange& change) {
-        if (takenBack == 0) {
-            const bool isToday = QDateTime::fromMSecsSinceEpoch(change.time).date() == m_clock.today();
-            takenBack = change.revertedGroup;
-            return change.by == ChangedBy::Undo && change.before == state && isToday;
-        }
-        isMarkOfCheck = change.group == takenBack && change.by == ChangedBy::Check;
-        return change.group != takenBack;
-    });
-    return isMarkOfCheck;
+    bool isTakenBack = false;
+    QHash<qint64, bool> reverted; // groups, and whether it was an undo of today
+    try {
+        m_context.visitChanges(date, [&](const DayChange& change) {
+            if (const auto found = reverted.constFind(change.group); found != reverted.constEnd()) {
+                isTakenBack = *found && change.by == ChangedBy::Check && change.after == state;
+                return !isTakenBack;
+            }
+            const auto day = QDateTime::fromMSecsSinceEpoch(change.time).date();
+            reverted.insert(change.revertedGroup, change.by == ChangedBy::Undo && day == m_clock.today());
+            return change.revertedGroup != 0;
+        });
+    } catch (const StoreError& error) {
+        qCWarning(logMarking, "What was taken back cannot be read: %s", error.what());
+    }
+    return isTakenBack;
 }

@@ -58,11 +58,11 @@ public:
 
     /// Returns the group of the change, or 0 if nothing was recorded: the day is as it was, or its month is not stored.
     /// Changes of one day by hand, each within two seconds of the last, are one group. `network` is what a check found.
-    /// A check throws a StoreError if the store cannot be read.
     qint64 mark(Month& month, qsizetype index, DayState state, MarkedBy by, const QString& network = {});
 
-    /// Marks several days as one group, and saves. Returns the group, or 0 if every day is as it was. `revertedGroup`
-    /// is what an undo or redo takes back. Throws a StoreError, and changes nothing, if the store cannot be read.
+    /// Marks several days, each of which is in the list once, as one group, and saves. Returns the group, or 0 if every
+    /// day is as it was. `revertedGroup` is what an undo or redo takes back. Throws a StoreError, and changes nothing,
+    /// if the store cannot be read.
     qint64 mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup = 0);
 
 Q_SIGNALS:
@@ -73,11 +73,11 @@ private:
     void record(DayChange change);
     [[nodiscard]] qint64 groupFor(QDate date, MarkedBy by) const;
     [[nodiscard]] qint64 newGroup() const;
-    /// Whether a person has today taken back this mark of a check.
+    /// Whether a person has today taken back this mark of a check, and not marked the day since.
     [[nodiscard]] bool isTakenBack(QDate date, DayState state) const;
 
     ModelContext& m_context;
     const Clock& m_clock;
-    /// The last change that was recorded; its group is 0 before the first.
+    /// The last change of a single day that was recorded. Its group is the last of all; 0 before the first.
     DayChange m_last;
 };

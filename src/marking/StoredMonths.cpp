@@ -38,10 +38,9 @@ std::shared_ptr<Month> findOrCreateMonth(ModelContext& context, QDate date)
     return findOrCreate(context, date.year(), {&number, 1}, Duplicates::Refused).first();
 }
 
-std::shared_ptr<Month> firstOrNewMonth(ModelContext& context, QDate date)
+std::shared_ptr<Month> storedMonth(ModelContext& context, QDate date)
 {
-    const int number = date.month();
-    return findOrCreate(context, date.year(), {&number, 1}, Duplicates::Ignored).first();
+    return context.fetchMonths(date.year(), date.month()).value(0);
 }
 
 QList<std::shared_ptr<Month>> quarterMonths(ModelContext& context, const YearQuarter& quarter)

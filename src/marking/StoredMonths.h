@@ -25,8 +25,9 @@ public:
 /// StoreError if the store cannot be read.
 [[nodiscard]] std::shared_ptr<Month> findOrCreateMonth(ModelContext& context, QDate date);
 
-/// The same, but of duplicates the first record. Throws a StoreError if the store cannot be read.
-[[nodiscard]] std::shared_ptr<Month> firstOrNewMonth(ModelContext& context, QDate date);
+/// The first record of the month of a date, null if the store has none. Throws a StoreError if the store cannot be
+/// read.
+[[nodiscard]] std::shared_ptr<Month> storedMonth(ModelContext& context, QDate date);
 
 /// The three months of a quarter in order, the first record of each. Those that the store does not hold yet are created
 /// and inserted. Throws a StoreError, and creates nothing, if the store cannot be read.

@@ -10,6 +10,7 @@
 #include <QLoggingCategory>
 
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -25,29 +26,92 @@ template <class Action> auto logErrors(Action action) -> decltype(action())
     return {};
 }
 
+/// Which changes have been taken back, as far as the changes have been read, the newest first.
+class Reversals {
+public:
+    [[nodiscard]] bool contains(const DayChange& change) const
+    {
+        return m_reverted.contains({change.group, change.date});
+    }
+
+    /// Returns whether the change has been taken back, or takes another back.
+    bool include(const DayChange& change)
+    {
+        if (contains(change))
+            return true;
+        if (change.revertedGroup != 0)
+            m_reverted.insert({change.revertedGroup, change.date});
+        return change.revertedGroup != 0;
+    }
+
+private:
+    QSet<std::pair<qint64, QDate>> m_reverted;
+};
+
 } // namespace
 
+/// A group of changes, as far as it can be taken back.
+struct UndoHistory::UndoStep {
+    struct Span {
+        DayState before;
+        DayState after;
+    };
+
+    qint64 group = 0;
+    bool isUndo = false;
+    std::map<QDate, Span> spans = {};
+
+    /// Must be called for the newest change first.
+    void add(const DayChange& change)
+    {
+        spans.try_emplace(change.date, change.before, change.after).first->second.before = change.before;
+        isUndo = change.by == ChangedBy::Undo;
+    }
+};
+
+// What cannot be taken back, such as clicks through all states, is passed over.
 bool UndoHistory::undo()
 {
     return logErrors([this] {
-        QSet<qint64> passedOver; // such as clicks through all states
-        qint64 group = groupToUndo(passedOver);
-        while (group != 0 && !revert(group)) {
-            passedOver.insert(group);
-            group = groupToUndo(passedOver);
-        }
-        return group != 0;
+        UndoStep step;
+        Reversals reversals;
+        m_marker.context().visitChanges([&](const DayChange& change) {
+            if (reversals.include(change))
+                return true;
+            if (change.group != step.group) {
+                if (!marksOf(step).isEmpty())
+                    return false;
+                step = {.group = change.group};
+            }
+            step.add(change);
+            return true;
+        });
+        return take(step);
     });
 }
 
 bool UndoHistory::undo(qint64 group)
 {
-    return logErrors([=, this] { return revert(group); });
+    return logErrors([=, this] {
+        UndoStep step{.group = group};
+        Reversals reversals;
+        QSet<QDate> changedLater;
+        m_marker.context().visitChanges([&](const DayChange& change) {
+            const bool isInForce = !reversals.contains(change) && !changedLater.contains(change.date);
+            if (change.group == group && isInForce)
+                step.add(change);
+            else if (change.group != group && !reversals.include(change))
+                changedLater.insert(change.date);
+            return change.group >= group;
+        });
+        return take(step);
+    });
 }
 
 bool UndoHistory::redo()
 {
-    return logErrors([this] { return revert(groupToRedo()); });
+    const qint64 group = logErrors([this] { return groupToRedo(); });
+    return group != 0 && undo(group);
 }
 
 QList<DayChange> UndoHistory::changesOf(QDate date) const
@@ -60,22 +124,6 @@ QList<DayChange> UndoHistory::changesOf(QDate date) const
         });
         return changes;
     });
-}
-
-qint64 UndoHistory::groupToUndo(const QSet<qint64>& passedOver) const
-{
-    qint64 found = 0;
-    QSet<qint64> reverted = passedOver;
-    m_marker.context().visitChanges([&](const DayChange& change) {
-        if (reverted.contains(change.group))
-            return true;
-        if (change.revertedGroup == 0)
-            found = change.group;
-        else
-            reverted.insert(change.revertedGroup);
-        return found == 0;
-    });
-    return found;
 }
 
 qint64 UndoHistory::groupToRedo() const
@@ -94,47 +142,25 @@ qint64 UndoHistory::groupToRedo() const
     return found;
 }
 
-bool UndoHistory::isInForce(QDate date, qint64 group) const
+QList<DayMark> UndoHistory::marksOf(const UndoStep& step) const
 {
-    bool isInForce = false;
-    QSet<qint64> reverted;
-    m_marker.context().visitChanges(date, [&](const DayChange& change) {
-        const bool isReverted = reverted.contains(change.group);
-        if (change.group == group) {
-            isInForce = !isReverted;
-            return false;
-        }
-        if (change.revertedGroup != 0 && !isReverted)
-            reverted.insert(change.revertedGroup);
-        return isReverted || change.revertedGroup != 0;
-    });
-    return isInForce;
-}
-
-bool UndoHistory::revert(qint64 group)
-{
-    if (group == 0)
-        return false;
-    struct Span {
-        DayState before;
-        DayState after;
-    };
-    std::map<QDate, Span> spans;
-    auto by = ChangedBy::Undo;
-    m_marker.context().visitChanges([&](const DayChange& change) {
-        if (change.group == group) {
-            // Backward, so that the last that is seen was the first.
-            spans.try_emplace(change.date, change.before, change.after).first->second.before = change.before;
-            if (change.by == ChangedBy::Undo)
-                by = ChangedBy::Redo;
-        }
-        return change.group >= group;
-    });
     QList<DayMark> marks;
-    for (const auto& [date, span] : spans) {
-        const auto month = firstOrNewMonth(m_marker.context(), date);
-        if (isInForce(date, group) && DayMarker::stateOf(*month, *month->indexOf(date.day())) == span.after)
+    for (const auto& [date, span] : step.spans) {
+        if (span.before != span.after && stateOn(date) == span.after)
             marks.append({date, span.before});
     }
-    return m_marker.mark(marks, by, group) != 0;
+    return marks;
+}
+
+DayState UndoHistory::stateOn(QDate date) const
+{
+    const auto month = storedMonth(m_marker.context(), date);
+    const auto index = month ? month->indexOf(date.day()) : std::nullopt;
+    return index ? DayMarker::stateOf(*month, *index) : DayState::UNKNOWN;
+}
+
+bool UndoHistory::take(const UndoStep& step)
+{
+    const auto by = step.isUndo ? ChangedBy::Redo : ChangedBy::Undo;
+    return m_marker.mark(marksOf(step), by, step.group) != 0;
 }

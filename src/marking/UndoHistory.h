@@ -3,10 +3,11 @@
 
 #include <QDate>
 #include <QList>
-#include <QSet>
 
 class DayMarker;
+enum class DayState;
 struct DayChange;
+struct DayMark;
 
 /// Takes back what the marker has recorded, across restarts of the program. What it does is recorded like any change,
 /// so nothing is ever lost. A day that was changed later is left as it is.
@@ -28,10 +29,13 @@ public:
     [[nodiscard]] QList<DayChange> changesOf(QDate date) const;
 
 private:
-    [[nodiscard]] qint64 groupToUndo(const QSet<qint64>& passedOver) const;
+    struct UndoStep;
+
     [[nodiscard]] qint64 groupToRedo() const;
-    [[nodiscard]] bool isInForce(QDate date, qint64 group) const;
-    bool revert(qint64 group);
+    /// What takes the step back, on those days that are as it left them.
+    [[nodiscard]] QList<DayMark> marksOf(const UndoStep& step) const;
+    [[nodiscard]] DayState stateOn(QDate date) const;
+    bool take(const UndoStep& step);
 
     DayMarker& m_marker;
 };

@@ -10,10 +10,12 @@
 
 #include <QTemporaryDir>
 
+using namespace std::chrono_literals;
+
 TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicates)
 {
     const QTemporaryDir folder(inMemory);
-    const FixedClock clock;
+    FixedClock clock;
     ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
     ModelContext& context = container.mainContext();
     const auto november = findOrCreateMonth(context, {2026, 11, 20});
@@ -21,14 +23,27 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
     context.save();
     DayMarker marker(context, clock);
     DayEditor editor(marker);
+    QList<qint64> groups;
+    QObject::connect(&marker, &DayMarker::changed, [&](const ChangedDays& days) { groups.append(days.group); });
     editor.setDayState(*november, 0, DayState::VACATION_DAY);
     EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::VACATION_DAY, false}}));
     EXPECT_TRUE(context.hasChanges());
     editor.cycleDayState(*november, 0);
     EXPECT_EQ(november->days.value(), (QList<Day>{{20, DayState::WILL_BE_IN_OFFICE, true}}));
     EXPECT_FALSE(context.hasChanges());
+    for (const auto pause : {2s, 3s, 0s}) { // a group is open for two seconds, to changes of this day
+        clock.advance(pause);
+        editor.cycleDayState(*november, 0);
+    }
+    marker.mark({{{2026, 11, 20}, DayState::IN_OFFICE}, {{2026, 12, 20}, DayState::IN_OFFICE}}, ChangedBy::Hand);
+    editor.cycleDayState(*november, 0);
+    EXPECT_EQ(groups, QList<qint64>({1, 1, 1, 2, 2, 3, 4}));
+    Month sample(2026, 11);
+    editor.cycleDayState(sample, 20);
+    EXPECT_EQ(groups.size(), 7);
+    EXPECT_FALSE(context.hasChanges());
     context.insert(std::make_shared<Month>(2026, 11));
     EXPECT_EQ(quarterMonths(context, {2026, 4}).first()->month, 10);
-    EXPECT_EQ(context.fetchMonths().size(), 4);
+    EXPECT_EQ(context.fetchMonths().size(), 4); // with the second November
     EXPECT_THROW((void)findOrCreateMonth(context, {2026, 11, 20}), DuplicateMonthError);
 }
