@@ -246,6 +246,10 @@
         <source>Checks start when set-up is finished and automatic tracking is on.</source>
         <translation>Geprüft wird, sobald die Einrichtung abgeschlossen und die automatische Erfassung an ist.</translation>
     </message>
+    <message>
+        <source>An office network is in range. You took back today&apos;s mark.</source>
+        <translation>Ein Büronetzwerk ist in Reichweite. Sie haben den heutigen Eintrag zurückgenommen.</translation>
+    </message>
 </context>
 <context>
     <name>ContentView</name>
@@ -1043,6 +1047,14 @@
     <message>
         <source>The disk does not take the data (%1). Check it, and make a copy of your data.</source>
         <translation>Der Datenträger nimmt die Daten nicht an (%1). Bitte prüfen und eine Kopie der Daten anlegen.</translation>
+    </message>
+    <message>
+        <source>%1 is not a date</source>
+        <translation>%1 ist kein Datum</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a state</source>
+        <translation>„%1“ ist kein Status</translation>
     </message>
 </context>
 <context>

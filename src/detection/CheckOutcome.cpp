@@ -12,6 +12,8 @@ QString CheckOutcome::text() const
         return tr("Today was marked as in the office.");
     case MarkedBefore:
         return tr("An office network is in range. Today is already marked.");
+    case TakenBack:
+        return tr("An office network is in range. You took back today's mark.");
     case NotInRange:
         return tr("No office network is in range.");
     case Failed:

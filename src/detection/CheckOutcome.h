@@ -16,6 +16,8 @@ public:
         Marked,
         /// An office network is in range, and the state of today is not one that a check may change.
         MarkedBefore,
+        /// An office network is in range, and a person has taken back today's mark.
+        TakenBack,
         NotInRange,
         Failed,
         /// Not made, because tracking is off.

@@ -3,6 +3,7 @@
 
 #include "AppSettings.h"
 #include "Clock.h"
+#include "DayMarker.h"
 #include "Delay.h"
 #include "InOfficeDetector.h"
 #include "InOfficeModelUpdater.h"
@@ -131,9 +132,12 @@ QCoro::Task<CheckOutcome::Kind> InOfficeCheck::detectAndMark(bool markPreviousWo
     const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
     qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
     InOfficeModelUpdater updater(m_parts.container, m_parts.marker, m_parts.clock, m_parts.notifier);
-    if (updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday))
+    if (updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday, detector.network()))
         co_return CheckOutcome::Marked;
-    co_return inOfficeNow ? CheckOutcome::MarkedBefore : CheckOutcome::NotInRange;
+    if (!inOfficeNow)
+        co_return CheckOutcome::NotInRange;
+    const bool isTakenBack = m_parts.marker.isTakenBack(m_parts.clock.today(), DayState::IN_OFFICE);
+    co_return isTakenBack ? CheckOutcome::TakenBack : CheckOutcome::MarkedBefore;
 }
 
 void InOfficeCheck::logProblem(const QString& problem)

@@ -37,8 +37,9 @@ QCoro::Task<bool> InOfficeDetector::isInOffice(QStringList officeSsids)
         return network.ssid && wanted.contains(decomposed(*network.ssid));
     };
     const auto found = std::find_if(networks.begin(), networks.end(), isOffice);
+    m_network = found == networks.end() ? QString() : *found->ssid;
     qCDebug(logDetection) << "Networks found on" << interface->name << networks.size();
     if (found != networks.end())
-        qCDebug(logDetection) << "Of the office:" << *found->ssid;
+        qCDebug(logDetection) << "Of the office:" << m_network;
     co_return found != networks.end();
 }

@@ -20,6 +20,10 @@ public:
     /// if the scan fails.
     [[nodiscard]] QCoro::Task<bool> isInOffice(QStringList officeSsids);
 
+    /// The network that it found; empty if it found none.
+    [[nodiscard]] QString network() const { return m_network; }
+
 private:
     WiFiClient& m_client;
+    QString m_network;
 };

@@ -22,13 +22,14 @@ QDate workdayBefore(QDate date)
 
 } // namespace
 
-bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday)
+bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday,
+                                  const QString& network)
 {
     const QDate today = m_clock.today();
     const QDate previous = workdayBefore(today);
     const auto monthOfToday = monthOf(today);
 
-    const bool isMarked = inOfficeNow && mark(*monthOfToday, today, DayState::IN_OFFICE);
+    const bool isMarked = inOfficeNow && mark(*monthOfToday, today, DayState::IN_OFFICE, network);
     if (isMarked) {
         qCInfo(logDetection, "Logged as in office on %d-%d-%d", today.year(), today.month(), today.day());
         if (notificationsEnabled)
@@ -52,10 +53,10 @@ std::shared_ptr<Month> InOfficeModelUpdater::monthOf(QDate date)
     }
 }
 
-bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state)
+bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state, const QString& network)
 {
     const auto index = month.indexOf(date.day());
     if (!index)
         qFatal("The month %d-%d has no day %d", date.year(), date.month(), date.day());
-    return m_marker.mark(month, *index, state, MarkedBy::Check) != 0;
+    return m_marker.mark(month, *index, state, MarkedBy::Check, network) != 0;
 }

@@ -27,14 +27,14 @@ public:
     {
     }
 
-    /// Marks today as in the office if `inOfficeNow`, and the last workday before today as out of office if
-    /// `markPreviousWorkday`. Returns whether today was marked. Throws an InOfficeDetectionError if a month is stored
-    /// more than once, and a StoreError if the store cannot be read; marks made before that stay.
-    bool update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday);
+    /// Marks today as in the office if `inOfficeNow`, because of `network`, and the last workday before today as out of
+    /// office if `markPreviousWorkday`. Returns whether today was marked. Throws an InOfficeDetectionError if a month
+    /// is stored more than once, and a StoreError if the store cannot be read; marks made before that stay.
+    bool update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday, const QString& network = {});
 
 private:
     [[nodiscard]] std::shared_ptr<Month> monthOf(QDate date);
-    bool mark(Month& month, QDate date, DayState state);
+    bool mark(Month& month, QDate date, DayState state, const QString& network = {});
 
     ModelContainer& m_container;
     DayMarker& m_marker;

@@ -65,6 +65,10 @@ public:
     /// if the store cannot be read.
     qint64 mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup = 0);
 
+    /// Whether a person has today taken back this mark of a check, and not marked the day since. A check does not set
+    /// it again. False if the store cannot be read.
+    [[nodiscard]] bool isTakenBack(QDate date, DayState state) const;
+
 Q_SIGNALS:
     /// Days have changed. It is also emitted for each further change of a group that is still open.
     void changed(const ChangedDays& days);
@@ -73,8 +77,6 @@ private:
     void record(DayChange change);
     [[nodiscard]] qint64 groupFor(QDate date, MarkedBy by) const;
     [[nodiscard]] qint64 newGroup() const;
-    /// Whether a person has today taken back this mark of a check, and not marked the day since.
-    [[nodiscard]] bool isTakenBack(QDate date, DayState state) const;
 
     ModelContext& m_context;
     const Clock& m_clock;

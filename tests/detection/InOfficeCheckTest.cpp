@@ -10,6 +10,7 @@
 #include "Notifier.h"
 #include "StoredMonths.h"
 #include "Testing.h"
+#include "UndoHistory.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -143,6 +144,7 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
     const QString busy = u"busy|detection-problem|"_s, missing = u"missing|detection-problem|"_s,
                   absent = u"No office network is in range."_s, marked = u"Today was marked as in the office."_s,
                   before = u"An office network is in range. Today is already marked."_s,
+                  takenBack = u"An office network is in range. You took back today's mark."_s,
                   off = u"Automatic tracking is off, so Pellory did not check."_s;
     const auto answer = [](const QString& text) { return u"Pellory|"_s + text + u"|check-answer|"_s; };
     // What is in range or the matter, whether a person asks, what is posted, and what is kept.
@@ -162,12 +164,17 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         {u"not set up"_s, true, {}, before},
         {u"first"_s, true, answer(absent), absent}, // for whoever asked before it could be made
         {u"first"_s, true, {}, absent},
+        {u"undone"_s, true, answer(takenBack), takenBack},
     };
+    UndoHistory history(marker);
     const QSignalSpy postponed(&check, &InOfficeCheck::postponed);
     for (const auto& [matter, isAsked, expected, kept] : rows) {
         client.isServiceMissing = matter == u"missing"_s;
         client.failure = client.isServiceMissing || matter == u"busy"_s ? matter : QString();
-        client.networks = {{matter}};
+        client.networks = {{matter == u"undone"_s ? u"Office"_s : matter}};
+        if (matter == u"undone"_s) {
+            EXPECT_TRUE(history.undo());
+        }
         settings.notificationsEnabled = matter != u"quiet"_s;
         settings.wifiTrackingEnabled = matter != u"off"_s;
         settings.firstTime = matter == u"not set up"_s;
@@ -180,6 +187,7 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         EXPECT_EQ(check.lastOutcome.value().text(), kept) << qPrintable(matter);
     }
     EXPECT_EQ(postponed.size(), 1);
+    EXPECT_EQ(history.changesOf(clock.today()).last().network, u"Office"_s);
 }
 
 TEST_F(InOfficeCheckTest, runsAfterEachIntervalUnlessItIsTurnedOffAndAlsoWithABrokenClock)
