@@ -148,14 +148,14 @@ TEST_F(UndoHistoryTest, takesBackAndSetsAgainWhateverTheOrder)
     const auto below = [&](std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(random); };
     const QDate dates[]{{2026, 10, 30}, {2026, 11, 20}, {2026, 11, 23}};
     const auto anyState = [&] { return allDayStates.at(below(3)); }; // often the same again
-    const int count = 600 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
+    const int count = 800 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
     Expectation expected;
     for (int number = 0; number < count && !HasFailure(); ++number) {
         if (number % 50 == 0)
             restart();
         UndoHistory& history = parts->history;
         const QDate date = dates[below(3)], today = clock.today();
-        const std::size_t action = below(11);
+        const std::size_t action = below(14);
         SCOPED_TRACE(testing::Message() << number << ": " << action);
         if (action < 3) {
             const DayState state = anyState();
