@@ -10,6 +10,7 @@
 #include "SaveAlert.h"
 #include "TrayHost.h"
 #include "TrayIcon.h"
+#include "UndoHistory.h"
 #include "ViewParts.h"
 
 #include <QGuiApplication>
@@ -36,6 +37,7 @@ Background::Background(const ViewParts& parts, AppWindows& windows, Notifier& no
     connect(&windows, &AppWindows::quitRequested, this, &Background::requestQuit);
     connect(&windows, &AppWindows::lastClosed, this, &Background::handleLastClosed);
     connect(&notifier, &Notifier::activated, &windows, &AppWindows::openDay);
+    connect(&notifier, &Notifier::undoRequested, this, &Background::undo);
     connect(&trayHost, &TrayHost::appeared, this, &Background::showTrayIcon);
     connect(&trayHost, &TrayHost::gone, this, [this] { m_trayIcon.reset(); });
 }
@@ -57,6 +59,13 @@ void Background::handleLastClosed()
                      tr("Pellory keeps checking in the background whether you are in the office. Start it again to "
                         "open its window. To end it, choose Quit in the menu of the window."),
                      {}});
+}
+
+// Does nothing if it was done before, or the day was changed since.
+void Background::undo(qint64 group)
+{
+    if (m_parts.history.undo(group))
+        m_notifier.withdrawChanges(group);
 }
 
 void Background::runCheck()

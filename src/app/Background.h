@@ -40,6 +40,7 @@ Q_SIGNALS:
 
 private:
     void handleLastClosed();
+    void undo(qint64 group);
     void askToQuit();
     [[nodiscard]] bool isSaved();
     [[nodiscard]] bool isTracking() const;

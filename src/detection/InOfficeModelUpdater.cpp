@@ -26,22 +26,28 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
                                   const QString& network)
 {
     const QDate today = m_clock.today();
-    const QDate previous = workdayBefore(today);
     const auto monthOfToday = monthOf(today);
 
-    const bool isMarked = inOfficeNow && mark(*monthOfToday, today, DayState::IN_OFFICE, network);
-    if (isMarked) {
+    const qint64 group = inOfficeNow ? mark(*monthOfToday, today, DayState::IN_OFFICE, network) : 0;
+    if (group != 0) {
         qCInfo(logDetection, "Logged as in office on %d-%d-%d", today.year(), today.month(), today.day());
         if (notificationsEnabled)
-            m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today});
+            m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today, group});
     }
-    if (markPreviousWorkday && mark(*monthOf(previous), previous, DayState::OUT_OF_OFFICE)) {
-        qCInfo(logDetection, "Logged as out of office on %d-%d-%d", previous.year(), previous.month(), previous.day());
-        if (notificationsEnabled)
-            m_notifier.post(
-                {tr("(Not) Pellory"), tr("You have been marked as out of office for yesterday"), {}, previous});
-    }
-    return isMarked;
+    if (markPreviousWorkday)
+        markAsOut(workdayBefore(today), notificationsEnabled);
+    return group != 0;
+}
+
+void InOfficeModelUpdater::markAsOut(QDate date, bool notificationsEnabled)
+{
+    const qint64 group = mark(*monthOf(date), date, DayState::OUT_OF_OFFICE);
+    if (group == 0)
+        return;
+    qCInfo(logDetection, "Logged as out of office on %d-%d-%d", date.year(), date.month(), date.day());
+    if (notificationsEnabled)
+        m_notifier.post(
+            {tr("(Not) Pellory"), tr("You have been marked as out of office for yesterday"), {}, date, group});
 }
 
 std::shared_ptr<Month> InOfficeModelUpdater::monthOf(QDate date)
@@ -53,10 +59,10 @@ std::shared_ptr<Month> InOfficeModelUpdater::monthOf(QDate date)
     }
 }
 
-bool InOfficeModelUpdater::mark(Month& month, QDate date, DayState state, const QString& network)
+qint64 InOfficeModelUpdater::mark(Month& month, QDate date, DayState state, const QString& network)
 {
     const auto index = month.indexOf(date.day());
     if (!index)
         qFatal("The month %d-%d has no day %d", date.year(), date.month(), date.day());
-    return m_marker.mark(month, *index, state, MarkedBy::Check, network) != 0;
+    return m_marker.mark(month, *index, state, MarkedBy::Check, network);
 }

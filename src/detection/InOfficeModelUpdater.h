@@ -33,8 +33,10 @@ public:
     bool update(bool notificationsEnabled, bool inOfficeNow, bool markPreviousWorkday, const QString& network = {});
 
 private:
+    void markAsOut(QDate date, bool notificationsEnabled);
     [[nodiscard]] std::shared_ptr<Month> monthOf(QDate date);
-    bool mark(Month& month, QDate date, DayState state, const QString& network = {});
+    /// Returns the group of the change, or 0.
+    qint64 mark(Month& month, QDate date, DayState state, const QString& network = {});
 
     ModelContainer& m_container;
     DayMarker& m_marker;

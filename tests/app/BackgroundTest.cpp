@@ -41,6 +41,21 @@ TEST_F(BackgroundTest, leadsToTheSetUpThatTrackingWaitsFor)
     background.remindOfSetUp();
 }
 
+TEST_F(BackgroundTest, undoesTheMarkOfANotificationUnlessThePersonHasChangedTheDay)
+{
+    const auto november = month(2026, 11);
+    const auto index = *november->indexOf(20);
+    const auto markByCheck = [&] { return marker.mark(*november, index, DayState::IN_OFFICE, MarkedBy::Check); };
+    const qint64 group = markByCheck();
+    EXPECT_CALL(notifier, withdrawChanges(group));
+    for (const DayState state : {DayState::UNKNOWN, DayState::OUT_OF_OFFICE, DayState::IN_OFFICE}) {
+        Q_EMIT notifier.undoRequested(group);
+        EXPECT_EQ(DayMarker::stateOf(*november, index), state);
+        marker.mark(*november, index, state == DayState::UNKNOWN ? DayState::OUT_OF_OFFICE : DayState::IN_OFFICE,
+                    MarkedBy::Click);
+    }
+}
+
 TEST_F(BackgroundTest, asksBeforeItQuitsUnsavedButNotAtTheEndOfTheSession)
 {
     const QSignalSpy quit(&background, &Background::quitRequested);

@@ -40,9 +40,12 @@ protected:
     ~InOfficeCheckTest() override { qInstallMessageHandler(nullptr); }
     void post(const Notification& n) override
     {
+        if (n.group != 0)
+            lastMark = n.group;
         posted += QStringList{n.title, n.subtitle, n.topic, n.day.toString(Qt::ISODate)}.join(u'|');
     }
     void withdraw(const QString& topic) override { posted += u'-' + topic; }
+    void withdrawChanges(qint64 /*group*/) override {}
     bool checkNow(bool markPrevious = true)
     {
         auto task = check.check(markPrevious);
@@ -58,6 +61,7 @@ protected:
     DayMarker marker{container.mainContext(), clock};
     InOfficeCheck check{{container, marker, settings, client, *this, clock}};
     QStringList posted;
+    qint64 lastMark = 0;
 };
 
 TEST_F(InOfficeCheckTest, marksDaysThatAreUnknownOrPlannedAndNoOthers)
@@ -165,15 +169,20 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         {u"first"_s, true, answer(absent), absent}, // for whoever asked before it could be made
         {u"first"_s, true, {}, absent},
         {u"undone"_s, true, answer(takenBack), takenBack},
+        {u"marked by hand"_s, true, u"Pellory|You have been marked as in the office today||2026-11-20"_s, marked},
     };
     UndoHistory history(marker);
     const QSignalSpy postponed(&check, &InOfficeCheck::postponed);
     for (const auto& [matter, isAsked, expected, kept] : rows) {
         client.isServiceMissing = matter == u"missing"_s;
         client.failure = client.isServiceMissing || matter == u"busy"_s ? matter : QString();
-        client.networks = {{matter == u"undone"_s ? u"Office"_s : matter}};
+        client.networks = {{matter == u"undone"_s || matter == u"marked by hand"_s ? u"Office"_s : matter}};
         if (matter == u"undone"_s) {
-            EXPECT_TRUE(history.undo());
+            EXPECT_TRUE(history.undo(lastMark));
+        }
+        for (const auto state : {DayState::VACATION_DAY, DayState::UNKNOWN}) {
+            if (matter == u"marked by hand"_s)
+                marker.mark({{clock.today(), state}}, ChangedBy::Hand);
         }
         settings.notificationsEnabled = matter != u"quiet"_s;
         settings.wifiTrackingEnabled = matter != u"off"_s;

@@ -81,6 +81,8 @@ class FaultsTest(DesktopTest):
         expected = {f"{now:%F}": "IN_OFFICE", f"{before:%F}": "OUT_OF_OFFICE"}
         for number, name in enumerate(("Büro", "Neighbour")):
             self.play("AddNetwork", "ssayi", ("0", str(number), name.encode(), 0))
+        (self.folder / "dunst").mkdir()
+        (self.folder / "dunst/dunstrc").write_text('[undo]\nsummary = "(Not) Pellory"\naction_name = undo\n')
         self.start("dunst", service=NOTIFICATIONS)
         dunst = partial(self.tell, (NOTIFICATIONS, "/org/freedesktop/Notifications"))
 
@@ -90,6 +92,9 @@ class FaultsTest(DesktopTest):
         program = self.start_tracking()
         eventually(lambda: notices() == 2)  # about the day before, and to whoever has asked for the check
         self.press("Add \u2068Büro\u2069", "Run In-Office Check", then=lambda: notices() == 3)
+        eventually(lambda: self.marks() == expected)
+        dunst(DUNST, "NotificationAction", "u", 0)  # which undoes the mark of the day before, and closes it
+        del expected[f"{before:%F}"]
         eventually(lambda: self.marks() == expected)
         dunst(DUNST, "NotificationAction", "u", 0)
         eventually(lambda: self.titles(ACTIVE) == ["Pellory"])

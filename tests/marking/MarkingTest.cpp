@@ -15,8 +15,9 @@ using namespace std::chrono_literals;
 TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicates)
 {
     const QTemporaryDir folder(inMemory);
+    const QString path = folder.filePath(u"Pellory.store"_s);
     FixedClock clock;
-    ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
+    ModelContainer container({.name = {}, .path = path});
     ModelContext& context = container.mainContext();
     const auto november = findOrCreateMonth(context, {2026, 11, 20});
     november->days = {{20, DayState::UNKNOWN, false}};
@@ -35,7 +36,7 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
         clock.advance(pause);
         editor.cycleDayState(*november, 0);
     }
-    marker.mark({{{2026, 11, 20}, DayState::IN_OFFICE}, {{2026, 12, 20}, DayState::IN_OFFICE}}, ChangedBy::Hand);
+    marker.mark({{{2026, 12, 20}, DayState::IN_OFFICE}, {{2026, 11, 20}, DayState::IN_OFFICE}}, ChangedBy::Hand);
     editor.cycleDayState(*november, 0);
     EXPECT_EQ(groups, QList<qint64>({1, 1, 1, 2, 2, 3, 4}));
     Month sample(2026, 11);
@@ -46,4 +47,9 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
     EXPECT_EQ(quarterMonths(context, {2026, 4}).first()->month, 10);
     EXPECT_EQ(context.fetchMonths().size(), 4); // with the second November
     EXPECT_THROW((void)findOrCreateMonth(context, {2026, 11, 20}), DuplicateMonthError);
+    context.save();
+    QFile(path).resize(10); // and what is recorded now has groups of its own
+    for (const DayState state : {DayState::VACATION_DAY, DayState::IN_OFFICE})
+        marker.mark({{{2026, 12, 20}, state}}, ChangedBy::Hand);
+    EXPECT_GT(groups.at(8), groups.at(7));
 }

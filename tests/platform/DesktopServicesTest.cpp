@@ -40,12 +40,15 @@ TEST_F(FreedesktopNotifierTest, sendsWhatTheServerCanShowAndLeadsToItsDay)
     QString opened;
     QObject::connect(&notifier, &Notifier::activated, &notifier,
                      [&](QDate day, const QString& token) { opened += day.toString(u"d"_s) + u'.' + token + u' '; });
+    QObject::connect(&notifier, &Notifier::undoRequested, &notifier,
+                     [&](qint64 group) { opened += u"undo %1 "_s.arg(group); });
     const auto application = u"io.github.pellory.Pellory"_s, text = u"<b> & \"B\""_s;
-    for (const auto& [capability, body, actions] :
-         {std::tuple(u""_s, text, QStringList()),
-          {u"body-markup actions"_s, u"&lt;b&gt; &amp; &quot;B&quot;"_s, {u"default"_s, u"Open"_s}}}) {
+    for (const auto& [capability, body, actions] : {std::tuple(u""_s, text, QStringList()),
+                                                    {u"body-markup actions"_s,
+                                                     u"&lt;b&gt; &amp; &quot;B&quot;"_s,
+                                                     {u"default"_s, u"Open"_s, u"undo"_s, u"Undo"_s}}}) {
         startServer(capability);
-        QVariantList all = sent({u"A & B"_s, text, {}, {2026, 11, 1}});
+        QVariantList all = sent({u"A & B"_s, text, {}, {2026, 11, 1}, 5});
         const auto hints = qdbus_cast<QVariantMap>(all.takeAt(6));
         EXPECT_EQ(all, (QVariantList{u"Pellory"_s, 0U, application, u"A & B"_s, body, actions, -1}));
         EXPECT_EQ(hints, (QVariantMap{{u"desktop-entry"_s, application},
@@ -58,11 +61,17 @@ TEST_F(FreedesktopNotifierTest, sendsWhatTheServerCanShowAndLeadsToItsDay)
         for (const auto& [signal, number, argument] : {std::tuple("ActivationToken", 7U, "token"),
                                                        {"ActionInvoked", 7U, "default"},
                                                        {"ActionInvoked", 1U, "default"},
+                                                       {"ActionInvoked", 1U, "undo"},
+                                                       {"ActionInvoked", 2U, "undo"},
                                                        {"ActionInvoked", 2U, "settings"},
                                                        {"ActivationToken", 2U, "token"},
                                                        {"ActionInvoked", 2U, "default"}})
             server.emitSignal(server.name, signal, "us", {number, QLatin1StringView(argument)});
-        EXPECT_EQ(std::exchange(opened, {}), u"1. 2.token "_s);
+        EXPECT_EQ(std::exchange(opened, {}), u"1. undo 5 2.token "_s);
+        notifier.withdrawChanges(6);
+        notifier.withdrawChanges(5);
+        EXPECT_EQ(called("CloseNotification"), QVariantList{1U});
+        server.tell("ClearCalls");
         notifier.withdraw(u"b"_s);
         EXPECT_EQ(called("CloseNotification"), QVariantList{3U});
         EXPECT_EQ(sent({{}, {}, u"b"_s}).at(1), 0);

@@ -14,6 +14,7 @@ class MockNotifier : public Notifier {
 public:
     MOCK_METHOD(void, post, (const Notification&), (override));
     MOCK_METHOD(void, withdraw, (const QString&), (override));
+    MOCK_METHOD(void, withdrawChanges, (qint64), (override));
 };
 
 class FakeLoginItem : public LoginItem {

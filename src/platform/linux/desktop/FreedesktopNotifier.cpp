@@ -5,6 +5,7 @@
 #include <QDBusServiceWatcher>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,7 @@ constexpr auto notificationsService = "org.freedesktop.Notifications"_L1;
 constexpr auto notificationsPath = "/org/freedesktop/Notifications"_L1;
 constexpr auto applicationId = "io.github.pellory.Pellory"_L1;
 constexpr auto defaultAction = "default"_L1;
+constexpr auto undoAction = "undo"_L1;
 constexpr int serverDefaultTimeout = -1;
 constexpr uchar urgencyNormal = 1;
 
@@ -44,7 +46,16 @@ void FreedesktopNotifier::post(const Notification& notification)
 
 void FreedesktopNotifier::withdraw(const QString& topic)
 {
-    enqueue([this, topic] { return withdrawNow(topic); });
+    enqueue([this, topic] { return close(m_ids.take(topic)); });
+}
+
+void FreedesktopNotifier::withdrawChanges(qint64 group)
+{
+    enqueue([this, group] {
+        const auto found =
+            std::ranges::find(std::as_const(m_subjects), group, [](const Subject& about) { return about.group; });
+        return close(found == m_subjects.cend() ? 0 : found.key());
+    });
 }
 
 void FreedesktopNotifier::enqueue(const Job& job)
@@ -75,6 +86,8 @@ QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
         QStringList actions;
         if (supported.contains("actions"_L1))
             actions << defaultAction << tr("Open");
+        if (!actions.isEmpty() && notification.group != 0)
+            actions << undoAction << tr("Undo");
         auto call = methodCall(u"Notify"_s);
         call << u"Pellory"_s << m_ids.value(notification.topic) << applicationId << notification.title << body
              << actions << hints() << serverDefaultTimeout;
@@ -82,20 +95,20 @@ QCoro::Task<> FreedesktopNotifier::postNow(Notification notification)
         const auto id = reply.arguments().value(0).toUInt();
         if (!notification.topic.isEmpty())
             m_ids.insert(notification.topic, id);
-        m_days.insert(id, notification.day);
-        if (m_days.size() > 20) // some servers never report that one is closed
-            m_days.erase(m_days.begin());
+        m_subjects.insert(id, {notification.day, notification.group});
+        if (m_subjects.size() > 20) // some servers never report that one is closed
+            m_subjects.erase(m_subjects.begin());
     } catch (const BusError& error) {
         qCWarning(logNotifier, "Could not show a notification: %s", error.what());
     }
 }
 
-QCoro::Task<> FreedesktopNotifier::withdrawNow(QString topic)
+QCoro::Task<> FreedesktopNotifier::close(quint32 id)
 {
-    if (!m_ids.contains(topic))
+    if (id == 0) // which no notification has
         co_return;
     auto call = methodCall(u"CloseNotification"_s);
-    call << m_ids.take(topic);
+    call << id;
     try {
         co_await busCall(this, QDBusConnection::sessionBus(), call);
     } catch (const BusError& error) {
@@ -123,7 +136,7 @@ void FreedesktopNotifier::followServer()
     connect(m_serverWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
         m_capabilities.reset();
         m_ids.clear();
-        m_days.clear();
+        m_subjects.clear();
     });
     bus.connect(notificationsService, notificationsPath, notificationsService, u"ActivationToken"_s, this,
                 SLOT(handleActivationToken(uint, QString)));
@@ -136,6 +149,11 @@ void FreedesktopNotifier::followServer()
 void FreedesktopNotifier::handleActionInvoked(uint id, const QString& action)
 {
     const auto [tokenId, token] = std::exchange(m_token, {});
-    if (m_days.contains(id) && action == defaultAction)
-        Q_EMIT activated(m_days.value(id), tokenId == id ? token : QString());
+    const auto about = m_subjects.constFind(id);
+    if (about == m_subjects.constEnd())
+        return;
+    if (action == defaultAction)
+        Q_EMIT activated(about->day, tokenId == id ? token : QString());
+    else if (action == undoAction && about->group != 0)
+        Q_EMIT undoRequested(about->group);
 }

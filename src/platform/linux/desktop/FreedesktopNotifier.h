@@ -28,14 +28,21 @@ public:
 
     void post(const Notification& notification) override;
     void withdraw(const QString& topic) override;
+    void withdrawChanges(qint64 group) override;
 
 private:
+    /// What a notification on screen is about.
+    struct Subject {
+        QDate day;
+        qint64 group;
+    };
+
     using Job = std::function<QCoro::Task<>()>;
 
     void enqueue(const Job& job);
     QCoro::Task<> runJobs();
     QCoro::Task<> postNow(Notification notification);
-    QCoro::Task<> withdrawNow(QString topic);
+    QCoro::Task<> close(quint32 id);
     QCoro::Task<QStringList> capabilities();
     void followServer();
 
@@ -44,8 +51,8 @@ private:
     std::optional<QStringList> m_capabilities;
     /// The server's ids of the last notification of each topic.
     QHash<QString, quint32> m_ids;
-    /// What each notification on screen is about, by its id.
-    QMap<quint32, QDate> m_days;
+    /// By the server's ids.
+    QMap<quint32, Subject> m_subjects;
     /// The last token, with the id of the notification that it is for.
     std::pair<quint32, QString> m_token;
     std::unique_ptr<QDBusServiceWatcher> m_serverWatcher;
@@ -53,5 +60,5 @@ private:
 private Q_SLOTS:
     void handleActivationToken(uint id, const QString& token) { m_token = {id, token}; }
     void handleActionInvoked(uint id, const QString& action);
-    void handleNotificationClosed(uint id) { m_days.remove(id); }
+    void handleNotificationClosed(uint id) { m_subjects.remove(id); }
 };
