@@ -61,7 +61,7 @@ void CalendarView::addHeader(QGridLayout& grid)
     m_name->setAlignment(Qt::AlignCenter);
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long name would move the cells
     m_workdays = new QLabel;
-    m_workdays->setFont(fonts::subheadline(font()));
+    m_workdays->setFont(fonts::body(font()));
     m_workdays->setForegroundRole(QPalette::PlaceholderText);
     m_workdays->setAlignment(Qt::AlignCenter);
     m_workdays->setContentsMargins(0, 0, 0, 10);
@@ -77,7 +77,7 @@ void CalendarView::addWeekdays(QGridLayout& grid)
     };
     for (int column = 0; column < columns; ++column) {
         auto* letter = new QLabel(letters[column]);
-        letter->setFont(fonts::body(font(), QFont::Medium));
+        letter->setFont(fonts::body(font()));
         letter->setForegroundRole(QPalette::PlaceholderText);
         letter->setAlignment(Qt::AlignCenter);
         letter->setContentsMargins(0, 0, 0, 6);

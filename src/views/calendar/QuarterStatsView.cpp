@@ -20,7 +20,7 @@ QuarterStatsView::QuarterStatsView(const AppSettings& settings, const ViewSettin
     m_title->setFont(fonts::title(font()));
     m_title->setContentsMargins(0, 0, 0, 6);
     m_workdays->setObjectName("workdays"_L1);
-    m_workdays->setFont(fonts::subheadline(font()));
+    m_workdays->setFont(fonts::body(font()));
     m_workdays->setForegroundRole(QPalette::PlaceholderText);
     m_workdays->setAlignment(Qt::AlignCenter);
     addHeader(navigation, m_title);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QFontInfo>
 
 /// Text sizes in proportion to the desktop's font. There are few, because every size and weight that is shown adds
 /// about half a millisecond to start-up.
@@ -30,21 +29,12 @@ namespace fonts {
     return scaled(base, 1.05, weight);
 }
 
-[[nodiscard]] inline QFont subheadline(const QFont& base)
-{
-    return scaled(base, 0.95);
-}
-
 [[nodiscard]] inline QFont caption(const QFont& base)
 {
     return scaled(base, 0.9);
 }
 
 /// A length in proportion to the desktop's font, but never less than in a font of the usual size.
-[[nodiscard]] inline int grown(int length, const QFont& base)
-{
-    constexpr double usualPixelSize = 15.0;
-    return qRound(length * qMax(1.0, QFontInfo(base).pixelSize() / usualPixelSize));
-}
+[[nodiscard]] int grown(int length, const QFont& base);
 
 } // namespace fonts

@@ -47,6 +47,7 @@ MarkedProgressBar::MarkedProgressBar(QWidget* parent)
     : QWidget(parent)
 {
     setAccessibleRole(*this, QAccessible::Graphic);
+    m_contents.markerFont = fonts::body(font()); // or the empty bar would load a font that nothing else is drawn in
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_hoverDelay.setSingleShot(true);

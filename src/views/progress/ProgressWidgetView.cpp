@@ -121,7 +121,7 @@ ProgressWidgetView::Contents ProgressWidgetView::contents() const
                                     .markerColor = theme.dimText,
                                     .markerLineWidth = static_cast<qreal>(fonts::grown(usualLineWidth, font())),
                                     .markerLineHeight = static_cast<qreal>(fonts::grown(usualLineHeight, font())),
-                                    .markerFont = fonts::subheadline(font()),
+                                    .markerFont = fonts::body(font()),
                                     .barWidth = columnWidth(font())};
     for (qsizetype i = 0; i < fractions.markers.size(); ++i) {
         const ValuedGoal& goal = statistics.validGoals.at(i);
