@@ -2,7 +2,6 @@
 #include "Theme.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -138,15 +137,6 @@ constexpr Theme contrastingDark{
     .nonWorkday = rgb(0xaeb1b8),
 };
 
-// 0 to 1 (WCAG 2.1, "relative luminance").
-double relativeLuminance(const QColor& color)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
 } // namespace
 
 const Theme& themeFor(const Look& look)
@@ -210,12 +200,10 @@ QColor dayColor(const Theme& theme, const Day& day)
 
 QColor readableTextOn(const QColor& background)
 {
-    return contrastRatio(nearBlack, background) > contrastRatio(white, background) ? nearBlack : white;
-}
-
-double contrastRatio(const QColor& a, const QColor& b)
-{
-    const double first = relativeLuminance(a) + 0.05;
-    const double second = relativeLuminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
+    // Squares come near enough to the curve of sRGB, for which pow() and its tables would have to be loaded.
+    const auto square = [](float channel) { return channel * channel; };
+    const float luminance = 0.2126F * square(background.redF()) + 0.7152F * square(background.greenF()) +
+                            0.0722F * square(background.blueF());
+    constexpr float sameContrast = 0.25F;
+    return luminance > sameContrast ? nearBlack : white;
 }

@@ -64,7 +64,5 @@ struct Theme {
 /// The colour of a day's cell: that of its state, or gray for an unmarked non-workday.
 [[nodiscard]] QColor dayColor(const Theme& theme, const Day& day);
 
-/// Near-black or white, whichever contrasts more with the background.
+/// Near-black or white, whichever is easier to read on a background.
 [[nodiscard]] QColor readableTextOn(const QColor& background);
-/// The contrast ratio of two opaque colours, 1 to 21 (WCAG 2.1, "contrast ratio").
-[[nodiscard]] double contrastRatio(const QColor& a, const QColor& b);

@@ -6,6 +6,28 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
+namespace {
+
+// WCAG 2.1: "relative luminance", 0 to 1, and "contrast ratio", 1 to 21.
+double relativeLuminance(const QColor& color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrastRatio(const QColor& a, const QColor& b)
+{
+    const double first = relativeLuminance(a) + 0.05;
+    const double second = relativeLuminance(b) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+} // namespace
+
 TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
 {
     EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21.0, 0.01);
