@@ -2,6 +2,7 @@
 #include "AppWindows.h"
 #include "AttendanceStatistics.h"
 #include "AutostartEntry.h"
+#include "BackupService.h"
 #include "ContentView.h"
 #include "DayMarker.h"
 #include "DesktopSystemSettings.h"
@@ -98,8 +99,10 @@ struct Parts {
     InOfficeCheck check{{*container, marker, appSettings, wifiClient, notifier, clock}};
     AutostartEntry loginItem{folder.path(), {}};
     LaunchAtLogin launchAtLogin{loginItem};
-    const ViewParts parts{container->mainContext(), marker, history,      appSettings, viewSettings, clock, wifiClient,
-                          locationManager,          check,  launchAtLogin};
+    BackupService backups{marker, clock};
+    const ViewParts parts{
+        container->mainContext(), marker, history,      backups, appSettings, viewSettings, clock, wifiClient,
+        locationManager,          check,  launchAtLogin};
 };
 
 void monthChange(benchmark::State& state)

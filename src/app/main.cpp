@@ -4,6 +4,7 @@
 #include "AppWindows.h"
 #include "AutostartEntry.h"
 #include "Background.h"
+#include "BackupService.h"
 #include "CommandLine.h"
 #include "Compositor.h"
 #include "Connection.h"
@@ -78,16 +79,19 @@ void quit()
     QCoreApplication::exit();
 }
 
-void openFirstWindow(AppWindows& windows, Background& background, PlatformServices& platform, StartMode mode)
+void openFirstWindow(AppWindows& windows, Background& background, BackupService& backups, PlatformServices& platform,
+                     StartMode mode)
 {
     // What is asked of the desktop can wait until there is something to see.
     const auto afterFirstPaint = [&windows](auto* context, auto start) {
         QObject::connect(&windows, &AppWindows::mainPainted, context, start, Qt::SingleShotConnection);
     };
     afterFirstPaint(&platform.appearance, &Appearance::start);
+    afterFirstPaint(&backups, &BackupService::start);
     afterFirstPaint(&windows, [] { logStage("window painted"); });
     if (mode == StartMode::AtLogin) {
         platform.trayHost.start();
+        backups.start();
         background.remindOfSetUp();
     } else {
         afterFirstPaint(&platform.trayHost, &TrayHost::start);
@@ -102,6 +106,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     PlatformServices platform;
     DayMarker marker(pellory.container().mainContext(), platform.clock);
     UndoHistory history(marker);
+    BackupService backups(marker, platform.clock);
     InOfficeCheck check(
         {pellory.container(), marker, pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
     QMetaObject::invokeMethod(
@@ -113,6 +118,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     const ViewParts parts{pellory.container().mainContext(),
                           marker,
                           history,
+                          backups,
                           pellory.settings(),
                           viewSettings,
                           platform.clock,
@@ -130,11 +136,12 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     QObject::connect(&platform.quitSignals, &QuitSignals::requested, &background, &Background::end);
     QObject::connect(&background, &Background::quitRequested, &windows, quit);
     QObject::connect(&windows, &AppWindows::reloadRequested, &windows, [] { QCoreApplication::exit(reloads); });
+    QObject::connect(&backups, &BackupService::storeReplaced, &windows, &AppWindows::reloadRequested);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &background, &Background::prepareEnd);
     QObject::connect(&platform.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
-    openFirstWindow(windows, background, platform, mode);
+    openFirstWindow(windows, background, backups, platform, mode);
     return QApplication::exec();
 }
 

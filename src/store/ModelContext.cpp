@@ -197,7 +197,10 @@ bool ModelContext::save()
         problem = QString::fromUtf8(error.what());
     }
     m_watch.accept();
-    return report(problem);
+    const bool isSaved = report(problem);
+    if (isSaved)
+        Q_EMIT saved();
+    return isSaved;
 }
 
 bool ModelContext::report(const QString& problem)

@@ -29,6 +29,8 @@ class Database;
 /// event loop. A change that could not be saved is tried again by a timer, with the next save and in the destructor.
 /// Nothing is written while the file is not the one that was opened, or has been changed by another program.
 class ModelContext : public QObject {
+    Q_OBJECT
+
 public:
     /// Reads the settings and their goals. Throws a StoreError if it cannot.
     explicit ModelContext(SQLite::Database& database);
@@ -82,6 +84,10 @@ public:
     /// Puts a store with the records in memory where ours was. What lies there gets another name. Other records come
     /// from the file that was opened or, if that has been overwritten, from what it contains now. False if it failed.
     bool keepRecords();
+
+Q_SIGNALS:
+    /// Changes have reached the store.
+    void saved();
 
 private:
     template <class Record>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StoreFile.h"
 
+#include "Draft.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "Verification.h"
 
-#include <QDir>
-#include <QTemporaryFile>
+#include <QFile>
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
@@ -20,46 +20,6 @@ namespace {
 
 /// What the database keeps beside a store.
 constexpr std::array sideFiles{"-journal"_L1, "-wal"_L1, "-shm"_L1};
-
-/// A file that gets its name once it is whole, and is removed if it never does.
-class Draft {
-public:
-    explicit Draft(const QString& path)
-        : m_path(path)
-        , m_file(path + ".new-XXXXXX"_L1)
-    {
-        if (!m_file.open())
-            fail();
-    }
-
-    [[nodiscard]] std::string fileName() const { return m_file.fileName().toStdString(); }
-
-    /// False if there is a file of that name.
-    [[nodiscard]] bool take(const QString& path)
-    {
-        const bool isTaken = m_file.rename(path);
-        if (!isTaken && !QFile::exists(path))
-            fail();
-        m_file.setAutoRemove(!isTaken);
-        return isTaken;
-    }
-
-    [[nodiscard]] bool hasContentsOf(const QString& path)
-    {
-        QFile other(path);
-        return other.open(QFile::ReadOnly) && m_file.seek(0) && m_file.readAll() == other.readAll();
-    }
-
-private:
-    [[noreturn]] void fail() const
-    {
-        throw StoreError(StoreError::tr("The file %1 cannot be created: %2").arg(m_path, m_file.errorString()),
-                         StoreError::Cause::Obstacle);
-    }
-
-    QString m_path;
-    QTemporaryFile m_file;
-};
 
 /// A connection to a draft, which is dropped whole if writing fails and so needs no journal.
 SQLite::Database connectToDraft(const Draft& draft)
@@ -76,14 +36,6 @@ void copyStore(const QString& path, const Draft& draft)
     SQLite::Backup backup(copy, source);
     if (const int result = backup.executeStep(); result != SQLITE_DONE)
         throw SQLite::Exception("the store cannot be copied", result);
-}
-
-// Killed attempts leave theirs behind.
-void removeDrafts(const QString& path)
-{
-    const QFileInfo file(path);
-    for (const QString& name : file.dir().entryList({file.fileName() + ".new-??????"_L1}, QDir::Files))
-        file.dir().remove(name);
 }
 
 // Of a store that is gone. The database would take it for the journal of a new store, and play it into that.
@@ -110,7 +62,7 @@ void removeIfPresent(const QString& path)
 
 void createStoreFile(const QString& path, const Schema& schema)
 {
-    removeDrafts(path);
+    Draft::removeAbandoned(path);
     for (const auto suffix : sideFiles)
         putAside(path + suffix);
     Draft draft(path);
@@ -124,7 +76,7 @@ void createStoreFile(const QString& path, const Schema& schema)
 void keepStoreCopy(const QString& path, const Schema& schema)
 {
     const QString firstName = path + u".before-%1"_s.arg(schema.version());
-    removeDrafts(firstName);
+    Draft::removeAbandoned(firstName);
     Draft draft(firstName);
     copyStore(path, draft);
     {

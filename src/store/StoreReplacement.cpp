@@ -1,36 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StoreReplacement.h"
 
+#include "BackupContents.h"
+#include "BackupCopy.h"
 #include "Connection.h"
+#include "Draft.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "Verification.h"
+
+#include <QFileInfo>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
 #include <filesystem>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace fs = std::filesystem;
-
-namespace {
-
-// A rename survives a power cut only once its folder is on disk.
-void synchroniseFolder(const fs::path& folder)
-{
-    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    fsync(descriptor);
-    close(descriptor);
-}
-
-} // namespace
 
 StoreReplacement::StoreReplacement(const QString& path)
     : m_path(path)
@@ -46,6 +36,20 @@ void StoreReplacement::copyFrom(SQLite::Database& source)
     SQLite::Statement copy(source, "VACUUM INTO ?");
     copy.bind(1, draftName());
     copy.exec();
+}
+
+void StoreReplacement::copyBackup(const QString& path)
+{
+    static_cast<void>(readBackup(path));
+    try {
+        SQLite::Database backup = connectUnlocked(path);
+        copyFrom(backup);
+        SQLite::Database draft(draftName(), SQLite::OPEN_READWRITE);
+        static_cast<void>(verifyStore(draft, pellorySchema()));
+    } catch (const SQLite::Exception& error) {
+        throw storeError(error);
+    }
+    fsync(m_draft.handle());
 }
 
 void StoreReplacement::copyWhatLiesThere(const Schema& schema)
@@ -72,7 +76,7 @@ void StoreReplacement::putInPlace()
     if (error)
         throw StoreError(QString::fromStdString(error.message()));
     m_draft.setAutoRemove(false);
-    synchroniseFolder(fs::path(m_path.toStdString()).parent_path());
+    synchroniseFolder(QFileInfo(m_path).path());
 }
 
 // A second name first, so that at every moment there is a store in its place.

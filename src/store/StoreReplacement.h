@@ -20,6 +20,9 @@ public:
     [[nodiscard]] std::string draftName() const { return m_draft.fileName().toStdString(); }
 
     void copyFrom(SQLite::Database& source);
+    /// Copies a backup of this or an earlier version. Throws a StoreError unless it is sound. May be called on any
+    /// thread.
+    void copyBackup(const QString& path);
     /// Starts with what lies there, or empty if that is no sound store of the schema's version.
     void copyWhatLiesThere(const Schema& schema);
 

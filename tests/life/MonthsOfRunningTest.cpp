@@ -119,8 +119,9 @@ protected:
     DayMarker liveMarker{context, systemClock};
     UndoHistory liveHistory{liveMarker};
     InOfficeCheck liveCheck{{container, liveMarker, *settings, wifiClient, notifier, systemClock}};
-    const ViewParts liveParts{context,     liveMarker, liveHistory,     *settings, viewSettings,
-                              systemClock, wifiClient, locationManager, liveCheck, launchAtLogin};
+    BackupService liveBackups{liveMarker, systemClock};
+    const ViewParts liveParts{context,     liveMarker, liveHistory,     liveBackups, *settings,    viewSettings,
+                              systemClock, wifiClient, locationManager, liveCheck,   launchAtLogin};
     ContentView window{liveParts};
     Marks expected;
     QDate shown;

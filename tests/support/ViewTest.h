@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BackupService.h"
 #include "CalendarTest.h"
 #include "FakeWiFiClient.h"
 #include "InOfficeCheck.h"
@@ -53,6 +54,7 @@ protected:
     InOfficeCheck check{{container, marker, *settings, wifiClient, notifier, clock}};
     FakeLoginItem loginItem;
     LaunchAtLogin launchAtLogin{loginItem};
-    const ViewParts parts{context, marker,     history,         *settings, viewSettings,
-                          clock,   wifiClient, locationManager, check,     launchAtLogin};
+    BackupService backups{marker, clock};
+    const ViewParts parts{context, marker,     history,         backups, *settings,    viewSettings,
+                          clock,   wifiClient, locationManager, check,   launchAtLogin};
 };

@@ -4,6 +4,7 @@
 #include <functional>
 
 class AppSettings;
+class BackupService;
 class Clock;
 class DayMarker;
 class InOfficeCheck;
@@ -19,6 +20,7 @@ struct ViewParts {
     ModelContext& context;
     DayMarker& marker;
     UndoHistory& history;
+    BackupService& backups;
     AppSettings& settings;
     ViewSettings& viewSettings;
     Clock& clock;

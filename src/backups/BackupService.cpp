@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupService.h"
+
+#include "Clock.h"
+#include "DayMarker.h"
+#include "ModelContext.h"
+#include "StoreError.h"
+#include "StoreReplacement.h"
+
+#include <QFileInfo>
+#include <QPromise>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int yearsOfChanges = 3;
+
+} // namespace
+
+BackupService::BackupService(DayMarker& marker, const Clock& clock)
+    : m_marker(marker)
+    , m_clock(clock)
+    , m_folder(marker.context().filePath())
+{
+    m_worker.setMaxThreadCount(1);
+    m_worker.setExpiryTimeout(0);
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(1min);
+    m_quiet.setTimerType(Qt::VeryCoarseTimer);
+    connect(&m_quiet, &QTimer::timeout, this, &BackupService::makeDaily);
+}
+
+BackupService::~BackupService()
+{
+    m_stop.request_stop();
+    m_worker.clear();
+    m_worker.waitForDone();
+}
+
+void BackupService::start()
+{
+    connect(&m_marker.context(), &ModelContext::saved, this, &BackupService::waitForQuiet);
+    connect(&m_clock, &Clock::dayChanged, this, [this] {
+        if (m_isPending)
+            m_quiet.start();
+    });
+    m_quiet.start();
+}
+
+void BackupService::waitForQuiet()
+{
+    m_isPending = true;
+    if (m_doneOn != m_clock.today())
+        m_quiet.start();
+}
+
+void BackupService::makeDaily()
+{
+    if (!isDue())
+        return;
+    ModelContext& context = m_marker.context();
+    if (!context.saveState().value().isFine()) // which is shown already
+        return;
+    context.thinChanges(m_clock.now().addYears(-yearsOfChanges).toMSecsSinceEpoch());
+    make([this](const StoreError* error) {
+        if (error == nullptr)
+            m_doneOn = m_clock.today();
+        else if (error->cause() == StoreError::Cause::Lock)
+            m_quiet.start();
+        else
+            report(*error);
+    });
+}
+
+bool BackupService::isDue() const
+{
+    const QDateTime now = m_clock.now();
+    for (const BackupFile& backup : m_folder.backups()) {
+        if (!backup.isBeforeMigration && backup.made <= now)
+            return backup.made.date() != now.date() &&
+                   QFileInfo(m_marker.context().filePath()).lastModified() > backup.made;
+    }
+    return true;
+}
+
+void BackupService::makeNow()
+{
+    make([this](const StoreError* error) {
+        if (error != nullptr)
+            report(*error);
+    });
+}
+
+void BackupService::report(const StoreError& error)
+{
+    m_problem = error.description();
+    Q_EMIT failed(error.description());
+}
+
+void BackupService::make(const Ending& ending)
+{
+    ModelContext& context = m_marker.context();
+    if (!context.save() || !context.saveState().value().isFine()) {
+        const StoreError error(tr("The latest changes are not in the data file yet."), StoreError::Cause::Obstacle);
+        return ending(&error);
+    }
+    const auto end = [this, ending](const StoreError* error) {
+        m_isMaking = --m_running > 0;
+        ending(error);
+    };
+    ++m_running;
+    m_isMaking = true;
+    m_isPending = false;
+    const auto job = [folder = m_folder, now = m_clock.now()](const std::stop_token& stop) {
+        return folder.make(now, stop);
+    };
+    run<BackupFile>(job)
+        .then(this,
+              [this, end](const BackupFile& backup) {
+                  m_problem = QString();
+                  end(nullptr);
+                  Q_EMIT made(backup);
+              })
+        .onFailed(this, [this, end](const StoreError& error) {
+            m_isPending = true;
+            end(&error);
+        });
+}
+
+QFuture<DayStates> BackupService::read(const QString& path)
+{
+    return run<DayStates>([path](const std::stop_token&) { return readBackup(path); });
+}
+
+QFuture<std::optional<BackupFile>> BackupService::findNewestSound()
+{
+    return run<std::optional<BackupFile>>([folder = m_folder](const std::stop_token&) -> std::optional<BackupFile> {
+        for (const BackupFile& backup : folder.backups()) {
+            try {
+                static_cast<void>(readBackup(backup.path));
+                return backup;
+            } catch (const StoreError&) {
+                continue;
+            }
+        }
+        return {};
+    });
+}
+
+QList<DayDifference> BackupService::differencesTo(const DayStates& inBackup) const
+{
+    return differences(statesOf(m_marker.context().fetchMonths()), inBackup);
+}
+
+void BackupService::restore(const QList<DayDifference>& days)
+{
+    QList<DayMark> marks;
+    for (const DayDifference& day : days)
+        marks.append({day.date, day.after});
+    make([this, marks](const StoreError* error) {
+        try {
+            if (error != nullptr)
+                throw *error;
+            Q_EMIT restored(m_marker.mark(marks, ChangedBy::Restore));
+        } catch (const StoreError& reason) {
+            Q_EMIT restoreFailed(reason.description());
+        }
+    });
+}
+
+void BackupService::replaceStore(const QString& path)
+{
+    using Replacement = std::shared_ptr<StoreReplacement>;
+    const auto prepare = [path, store = m_marker.context().filePath()](const std::stop_token&) {
+        auto replacement = std::make_shared<StoreReplacement>(store);
+        replacement->copyBackup(path);
+        return replacement;
+    };
+    run<Replacement>(prepare)
+        .then(this,
+              [this](const Replacement& replacement) {
+                  m_marker.context().save(); // into the file that is kept
+                  replacement->putInPlace();
+                  Q_EMIT storeReplaced();
+              })
+        .onFailed(this, [this](const StoreError& error) { Q_EMIT restoreFailed(error.description()); });
+}
+
+template <class Result> QFuture<Result> BackupService::run(const Job<Result>& job)
+{
+    const auto promise = std::make_shared<QPromise<Result>>();
+    promise->start();
+    m_worker.start([promise, job, stop = m_stop.get_token()] {
+        try {
+            promise->addResult(job(stop));
+        } catch (...) {
+            promise->setException(std::current_exception());
+        }
+        promise->finish();
+    });
+    return promise->future();
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupContents.h"
+
+#include "BackupCopy.h"
+#include "Connection.h"
+#include "Month.h"
+#include "RecordFields.h"
+#include "Schema.h"
+#include "StoreError.h"
+#include "Verification.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <algorithm>
+
+namespace {
+
+template <class T> T valueOf(const Row& row, const TableLayout& table, const char* column)
+{
+    const auto found = std::ranges::find(table.columns, column, &Column::name);
+    return fromStored<T>(row.at(static_cast<std::size_t>(found - table.columns.begin())));
+}
+
+void add(DayStates& states, QSet<QDate>& months, int year, int month, const QList<Day>& days)
+{
+    const QDate first(year, month, 1);
+    if (!first.isValid() || months.contains(first))
+        return;
+    months.insert(first);
+    for (const Day& day : days) {
+        const QDate date(year, month, static_cast<int>(day.id));
+        if (day.isInMonth() && date.isValid())
+            states[date] = day.state;
+    }
+}
+
+DayStates readMonths(SQLite::Database& database, const TableLayout& table)
+{
+    DayStates states;
+    QSet<QDate> months;
+    SQLite::Statement rows(database, table.selectSql());
+    while (rows.executeStep()) {
+        const Row row = readRow(rows, table);
+        add(states, months, valueOf<int>(row, table, "year"), valueOf<int>(row, table, "month"),
+            valueOf<QList<Day>>(row, table, "days"));
+    }
+    return states;
+}
+
+// The connection does not write, so it accepts a header that a store must not have.
+void verifyHeader(const QString& path)
+{
+    QFile file(path);
+    constexpr int versions = 18; // for writing and for reading
+    if (!file.open(QFile::ReadOnly) || !file.seek(versions) || file.read(2) != QByteArray(2, 1))
+        throw StoreError(StoreError::tr("The data store is damaged: its header does not allow writing."));
+}
+
+} // namespace
+
+DayStates statesOf(const QList<std::shared_ptr<Month>>& months)
+{
+    DayStates states;
+    QSet<QDate> known;
+    for (const auto& month : months)
+        add(states, known, month->year, month->month, month->days);
+    return states;
+}
+
+DayStates readBackup(const QString& path)
+{
+    verifyHeader(path);
+    try {
+        SQLite::Database backup = connectUnlocked(path);
+        const Schema schema = pellorySchema();
+        const Schema stored = schema.atVersion(verifyStore(backup, schema));
+        const std::string name = monthFields().table;
+        return readMonths(backup, *std::ranges::find(stored.tables, name, &TableLayout::name));
+    } catch (const SQLite::Exception& error) {
+        throw storeError(error);
+    }
+}

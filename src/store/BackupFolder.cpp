@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupFolder.h"
+
+#include "BackupCopy.h"
+#include "Connection.h"
+#include "Draft.h"
+#include "KeptBackups.h"
+#include "Schema.h"
+#include "StoreError.h"
+#include "Verification.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <SQLiteCpp/Database.h>
+
+#include <algorithm>
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr auto timeFormat = "yyyy-MM-dd HH.mm.ss"_L1;
+
+// How often a copy is begun again because the store has changed meanwhile.
+constexpr int attempts = 3;
+
+QString fileName(const QDateTime& time, int number)
+{
+    const QString suffix = number > 1 ? u" (%1)"_s.arg(number) : QString();
+    return "Pellory "_L1 + time.toString(timeFormat) + suffix + ".store"_L1;
+}
+
+/// Invalid if the name is not that of a backup.
+QDateTime timeIn(const QString& fileName)
+{
+    static const QRegularExpression pattern(u"^Pellory (.{19})( \\(\\d+\\))?\\.store$"_s);
+    return QDateTime::fromString(pattern.match(fileName).captured(1), timeFormat);
+}
+
+void makeFolder(const QString& path)
+{
+    const fs::path folder = path.toStdString();
+    std::error_code error;
+    if (fs::create_directory(folder, error)) {
+        fs::permissions(folder, fs::perms::owner_all, error);
+        synchroniseFolder(QFileInfo(path).path());
+    }
+    if (!error && !fs::is_directory(folder))
+        error = std::make_error_code(std::errc::not_a_directory);
+    if (error)
+        throw StoreError(
+            StoreError::tr("The folder %1 cannot be used: %2").arg(path, QString::fromStdString(error.message())),
+            StoreError::Cause::Obstacle);
+}
+
+void copyAndVerify(const QString& store, Draft& draft, const std::stop_token& stop)
+{
+    for (int attempt = 1; !copyUnlocked(store, draft.fileName(), stop); ++attempt) {
+        if (attempt == attempts)
+            throw StoreError(StoreError::tr("The data file is being changed."), StoreError::Cause::Lock);
+        draft.clear();
+    }
+    SQLite::Database copy(draft.fileName(), SQLite::OPEN_READWRITE);
+    static_cast<void>(verifyStore(copy, pellorySchema()));
+    draft.synchronise();
+}
+
+QString takeName(Draft& draft, const QString& folder, const QDateTime& now)
+{
+    const auto path = [&](int number) { return folder + '/'_L1 + fileName(now, number); };
+    int number = 1;
+    while (!draft.take(path(number)))
+        ++number;
+    synchroniseFolder(folder);
+    return path(number);
+}
+
+BackupFile describe(const QFileInfo& file, const QDateTime& made)
+{
+    return {.path = file.filePath(), .made = made, .size = file.size()};
+}
+
+QList<BackupFile> backupsIn(const QString& folder)
+{
+    QList<BackupFile> backups;
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        if (const QDateTime made = timeIn(file.fileName()); made.isValid())
+            backups.append(describe(file, made));
+    }
+    return backups;
+}
+
+QList<BackupFile> copiesOfMigrations(const QFileInfo& store)
+{
+    QList<BackupFile> backups;
+    for (const QFileInfo& file :
+         store.dir().entryInfoList({store.fileName() + ".before-*"_L1}, QDir::Files | QDir::NoSymLinks)) {
+        if (!file.fileName().contains(".new-"_L1)) {
+            backups.append(describe(file, file.lastModified()));
+            backups.last().isBeforeMigration = true;
+        }
+    }
+    return backups;
+}
+
+void thin(const QString& folder, const QDateTime& now)
+{
+    const QList<BackupFile> backups = backupsIn(folder);
+    QList<QDateTime> times;
+    for (const BackupFile& backup : backups)
+        times.append(backup.made);
+    const QList<QDateTime> kept = keptBackups(times, now);
+    for (const BackupFile& backup : backups) {
+        if (!kept.contains(backup.made))
+            QFile::remove(backup.path);
+    }
+}
+
+} // namespace
+
+BackupFolder::BackupFolder(const QString& storePath)
+    : m_storePath(storePath)
+    , m_path(QFileInfo(storePath).path() + "/Backups"_L1)
+{
+}
+
+QList<BackupFile> BackupFolder::backups() const
+{
+    QList<BackupFile> backups = backupsIn(m_path) + copiesOfMigrations(QFileInfo(m_storePath));
+    std::ranges::sort(backups, [](const BackupFile& a, const BackupFile& b) {
+        return std::tie(a.made, a.path) > std::tie(b.made, b.path);
+    });
+    return backups;
+}
+
+BackupFile BackupFolder::make(const QDateTime& now, const std::stop_token& stop) const
+{
+    try {
+        makeFolder(m_path);
+        const QString draftPath = m_path + "/Pellory.store"_L1;
+        Draft::removeAbandoned(draftPath);
+        Draft draft(draftPath);
+        copyAndVerify(m_storePath, draft, stop);
+        const QString path = takeName(draft, m_path, now);
+        thin(m_path, now);
+        return describe(QFileInfo(path), now);
+    } catch (const SQLite::Exception& error) {
+        throw storeError(error);
+    }
+}
