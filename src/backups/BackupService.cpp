@@ -8,9 +8,8 @@
 #include "StoreReplacement.h"
 
 #include <QFileInfo>
+#include <QFutureWatcher>
 #include <QPromise>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -18,7 +17,7 @@ constexpr int yearsOfChanges = 3;
 
 } // namespace
 
-BackupService::BackupService(DayMarker& marker, const Clock& clock)
+BackupService::BackupService(DayMarker& marker, const Clock& clock, std::chrono::milliseconds quietTime)
     : m_marker(marker)
     , m_clock(clock)
     , m_folder(marker.context().filePath())
@@ -26,7 +25,7 @@ BackupService::BackupService(DayMarker& marker, const Clock& clock)
     m_worker.setMaxThreadCount(1);
     m_worker.setExpiryTimeout(0);
     m_quiet.setSingleShot(true);
-    m_quiet.setInterval(1min);
+    m_quiet.setInterval(quietTime);
     m_quiet.setTimerType(Qt::VeryCoarseTimer);
     connect(&m_quiet, &QTimer::timeout, this, &BackupService::makeDaily);
 }
@@ -115,14 +114,14 @@ void BackupService::make(const Ending& ending)
     const auto job = [folder = m_folder, now = m_clock.now()](const std::stop_token& stop) {
         return folder.make(now, stop);
     };
-    run<BackupFile>(job)
-        .then(this,
-              [this, end](const BackupFile& backup) {
-                  m_problem = QString();
-                  end(nullptr);
-                  Q_EMIT made(backup);
-              })
-        .onFailed(this, [this, end](const StoreError& error) {
+    run<BackupFile>(
+        job,
+        [this, end](const BackupFile& backup) {
+            m_problem = QString();
+            end(nullptr);
+            Q_EMIT made(backup);
+        },
+        [this, end](const StoreError& error) {
             m_isPending = true;
             end(&error);
         });
@@ -177,14 +176,14 @@ void BackupService::replaceStore(const QString& path)
         replacement->copyBackup(path);
         return replacement;
     };
-    run<Replacement>(prepare)
-        .then(this,
-              [this](const Replacement& replacement) {
-                  m_marker.context().save(); // into the file that is kept
-                  replacement->putInPlace();
-                  Q_EMIT storeReplaced();
-              })
-        .onFailed(this, [this](const StoreError& error) { Q_EMIT restoreFailed(error.description()); });
+    run<Replacement>(
+        prepare,
+        [this](const Replacement& replacement) {
+            m_marker.context().save(); // into the file that is kept
+            replacement->putInPlace();
+            Q_EMIT storeReplaced();
+        },
+        [this](const StoreError& error) { Q_EMIT restoreFailed(error.description()); });
 }
 
 template <class Result> QFuture<Result> BackupService::run(const Job<Result>& job)
@@ -200,4 +199,20 @@ template <class Result> QFuture<Result> BackupService::run(const Job<Result>& jo
         promise->finish();
     });
     return promise->future();
+}
+
+template <class Result>
+void BackupService::run(const Job<Result>& job, const std::function<void(const Result&)>& done,
+                        const std::function<void(const StoreError&)>& failed)
+{
+    auto* watcher = new QFutureWatcher<Result>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this, [watcher, done, failed] {
+        watcher->deleteLater();
+        try {
+            done(watcher->result());
+        } catch (const StoreError& error) {
+            failed(error);
+        }
+    });
+    watcher->setFuture(run(job));
 }

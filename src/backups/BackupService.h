@@ -10,6 +10,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -24,7 +25,8 @@ class BackupService : public QObject {
     Q_OBJECT
 
 public:
-    BackupService(DayMarker& marker, const Clock& clock);
+    /// `quietTime` is how long nothing must change before a daily backup.
+    BackupService(DayMarker& marker, const Clock& clock, std::chrono::milliseconds quietTime = std::chrono::minutes(1));
     ~BackupService() override;
 
     /// Starts to make a backup in the first quiet minute of each day on which something has changed. To be called once
@@ -40,8 +42,8 @@ public:
     /// Why the last backup failed, in words for the person. Empty if it succeeded, or none was made yet.
     [[nodiscard]] const QProperty<QString>& problem() const { return m_problem; }
 
-    /// Verifies and reads a backup. The future fails with a StoreError if the backup is not sound. It is cancelled if
-    /// this is destroyed.
+    /// Verifies and reads a backup. The future fails with a StoreError if the backup is not sound. It is to be awaited
+    /// with a QFutureWatcher: a continuation whose context has gone would stop the program.
     [[nodiscard]] QFuture<DayStates> read(const QString& path);
     /// Looks for the newest backup that is sound. The future has no value if there is none.
     [[nodiscard]] QFuture<std::optional<BackupFile>> findNewestSound();
@@ -69,6 +71,10 @@ private:
     template <class Result> using Job = std::function<Result(const std::stop_token&)>;
     /// Runs a job in the thread.
     template <class Result> [[nodiscard]] QFuture<Result> run(const Job<Result>& job);
+    /// The same, and calls one of the others with the outcome, also with the StoreError of `done` itself.
+    template <class Result>
+    void run(const Job<Result>& job, const std::function<void(const Result&)>& done,
+             const std::function<void(const StoreError&)>& failed);
     /// Called with null once a backup was made, otherwise with the reason.
     using Ending = std::function<void(const StoreError*)>;
     void make(const Ending& ending);

@@ -5,6 +5,7 @@
 #include "Connection.h"
 #include "Month.h"
 #include "RecordFields.h"
+#include "RecordTable.h"
 #include "Schema.h"
 #include "StoreError.h"
 #include "Verification.h"
@@ -51,6 +52,14 @@ DayStates readMonths(SQLite::Database& database, const TableLayout& table)
     return states;
 }
 
+// Rows that are sound one by one can still lack another one.
+void verifySettings(SQLite::Database& database)
+{
+    RecordTable<Goal> goals(database, goalFields(), [] {});
+    RecordTable<AppSettings> settings(database, settingsFields([&] { return goals.fetch({}); }), [] {});
+    static_cast<void>(settings.fetch({}));
+}
+
 // The connection does not write, so it accepts a header that a store must not have.
 void verifyHeader(const QString& path)
 {
@@ -77,7 +86,10 @@ DayStates readBackup(const QString& path)
     try {
         SQLite::Database backup = connectUnlocked(path);
         const Schema schema = pellorySchema();
-        const Schema stored = schema.atVersion(verifyStore(backup, schema));
+        const int version = verifyStore(backup, schema);
+        if (version == schema.version())
+            verifySettings(backup);
+        const Schema stored = schema.atVersion(version);
         const std::string name = monthFields().table;
         return readMonths(backup, *std::ranges::find(stored.tables, name, &TableLayout::name));
     } catch (const SQLite::Exception& error) {

@@ -58,6 +58,7 @@ bool copyUnlocked(const QString& path, const std::string& copy, const std::stop_
         return !isBeingWritten() && watch.look() == SaveState::File::Ours && changeCounter(store) == counter;
     };
     try {
+        store.exec("PRAGMA synchronous = OFF"); // the copy inherits it, and is of no use before it is whole
         SQLite::Statement statement(store, "VACUUM INTO ?");
         statement.bind(1, copy);
         statement.exec();

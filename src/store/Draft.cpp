@@ -45,7 +45,8 @@ bool Draft::take(const QString& path)
 void Draft::removeAbandoned(const QString& path)
 {
     const QFileInfo file(path);
-    for (const QString& name : file.dir().entryList({file.fileName() + ".new-??????"_L1}, QDir::Files))
+    const QString draft = file.fileName() + ".new-??????"_L1;
+    for (const QString& name : file.dir().entryList({draft, draft + "-journal"_L1}, QDir::Files))
         file.dir().remove(name);
 }
 

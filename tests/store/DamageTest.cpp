@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupContents.h"
 #include "StoreTest.h"
 
 #include <iostream>
@@ -19,13 +20,14 @@ protected:
         }
         m_records = records(container->mainContext());
         m_changes = changes(container->mainContext());
+        m_states = statesOf(container->mainContext().fetchMonths());
         sound = bytes();
         EXPECT_GT(sound.size() / pageSize, 10);
     }
 
     /// Whether a damaged store is refused, and left as it is. If it is not refused, it has all records; a change of a
     /// day may be missing.
-    [[nodiscard]] bool isRefused(const QByteArray& damaged) const
+    [[nodiscard]] bool isRefused(const QByteArray& damaged, bool asBackup = true) const
     {
         setBytes(damaged);
         bool isRefused = false;
@@ -37,9 +39,21 @@ protected:
             isRefused = true;
             EXPECT_FALSE(error.description().isEmpty());
         }
+        if (asBackup)
+            EXPECT_TRUE(!isSoundBackup() || !isRefused) << "a damaged backup would be offered";
         EXPECT_TRUE(bytes() == damaged);
         EXPECT_EQ(files(), QStringList(u"Pellory.store"_s));
         return isRefused;
+    }
+
+    [[nodiscard]] bool isSoundBackup() const
+    {
+        try {
+            EXPECT_EQ(readBackup(path), m_states);
+            return true;
+        } catch (const StoreError&) {
+            return false;
+        }
     }
 
     [[nodiscard]] QByteArray withFlippedBit(qsizetype at, qsizetype bit) const
@@ -53,6 +67,7 @@ protected:
 private:
     std::vector<Row> m_records;
     std::vector<Row> m_changes;
+    DayStates m_states;
 };
 
 TEST_F(DamageTest, isRecognisedInTheHeader)
@@ -100,7 +115,7 @@ TEST_F(DamageTest, isRecognisedAtRandom)
         }
         if (below(20) == 0)
             damaged.resize(below(2 * sound.size()));
-        refused += isRefused(damaged) ? 1 : 0;
+        refused += isRefused(damaged, number % 8 == 0) ? 1 : 0;
     }
     EXPECT_GT(refused, count / 2) << "of " << count;
 }

@@ -7,8 +7,10 @@
 
 #include <array>
 #include <csignal>
+#include <functional>
 #include <map>
 #include <set>
+#include <utility>
 
 #include <sqlite3.h>
 #include <sys/wait.h>
@@ -88,6 +90,9 @@ public:
         plan.isArmed = isArmed;
         unsynced.clear();
     }
+    /// Called once, before the next write.
+    static inline std::function<void()> beforeWrite;
+
     /// Whether all that was done since the disk was armed survives a power cut.
     [[nodiscard]] static bool isSynced() { return unsynced.empty(); }
     [[nodiscard]] static bool hasStruck() { return plan.hasStruck; }
@@ -109,6 +114,8 @@ private:
         innerMethods = inner;
         sqlite3_io_methods& methods = failingMethods[inner] = *inner;
         methods.xWrite = [](auto* file, const void* data, int size, sqlite3_int64 offset) {
+            if (const auto action = std::exchange(beforeWrite, {}))
+                action();
             const bool isFull = strikes(Write); // half of the data fits
             const int result = innerMethods->xWrite(file, data, isFull ? size / 2 : size, offset);
             unsynced.insert(file);

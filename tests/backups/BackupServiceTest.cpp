@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupService.h"
+#include "DayMarker.h"
+#include "Eventually.h"
+#include "FixedClock.h"
+#include "ModelContainer.h"
+#include "ModelContext.h"
+#include "StoreError.h"
+#include "Testing.h"
+#include "UndoHistory.h"
+
+#include <QTemporaryDir>
+
+using namespace std::chrono_literals;
+
+class BackupServiceTest : public testing::Test {
+protected:
+    BackupServiceTest() { follow(*service); }
+
+    void follow(BackupService& followed)
+    {
+        QObject::connect(&followed, &BackupService::made, &followed, [this] { ++made; });
+        QObject::connect(&followed, &BackupService::failed, &followed, [this] { ++failures; });
+        QObject::connect(&followed, &BackupService::restored, &followed, [this] { ++restores; });
+        QObject::connect(&followed, &BackupService::restoreFailed, &followed, [this] { ++failures; });
+    }
+    void mark(int day, DayState state) { marker.mark({{{2026, 11, day}, state}}, ChangedBy::Hand); }
+    [[nodiscard]] DayStates states() { return statesOf(container->mainContext().fetchMonths()); }
+    [[nodiscard]] bool isStill() const
+    {
+        QCoreApplication::processEvents();
+        return !service->isMaking();
+    }
+
+    const QTemporaryDir folder{inMemory};
+    const ModelConfiguration configuration{.name = {}, .path = folder.filePath(u"Pellory.store"_s)};
+    std::unique_ptr<ModelContainer> container = std::make_unique<ModelContainer>(configuration);
+    FixedClock clock;
+    DayMarker marker{container->mainContext(), clock};
+    UndoHistory history{marker};
+    std::unique_ptr<BackupService> service = std::make_unique<BackupService>(marker, clock, 0ms);
+    int made = 0;
+    int failures = 0;
+    int restores = 0;
+};
+
+TEST_F(BackupServiceTest, makesOneBackupOnEachDayWithAChangeAndTriesAgainAfterAFailure)
+{
+    QFile(service->folder().path()).open(QFile::WriteOnly); // in the way
+    service->start();
+    ASSERT_TRUE(eventually([&] { return failures == 1; }));
+    EXPECT_FALSE(service->problem().value().isEmpty());
+    EXPECT_TRUE(isStill()) << "it is not tried again and again";
+    QFile::remove(service->folder().path());
+    mark(2, DayState::IN_OFFICE);
+    ASSERT_TRUE(eventually([&] { return made == 1; }));
+    EXPECT_EQ(service->problem().value(), QString());
+    mark(3, DayState::IN_OFFICE);
+    EXPECT_TRUE(isStill());
+    clock.advance(24h);
+    ASSERT_TRUE(eventually([&] { return made == 2; }));
+    EXPECT_EQ(readBackup(service->folder().backups().first().path), states());
+    clock.advance(24h);
+    EXPECT_TRUE(isStill()) << "nothing has changed";
+}
+
+TEST_F(BackupServiceTest, restoresDaysAsOneUndoStepAfterABackup)
+{
+    mark(2, DayState::IN_OFFICE);
+    mark(3, DayState::OUT_OF_OFFICE);
+    service->makeNow();
+    ASSERT_TRUE(eventually([&] { return made == 1; }));
+    const auto read = service->read(service->folder().backups().first().path);
+    mark(3, DayState::VACATION_DAY);
+    mark(4, DayState::IN_OFFICE);
+    marker.mark({{{2027, 1, 4}, DayState::IN_OFFICE}}, ChangedBy::Hand); // a month that the backup does not hold
+    const auto before = states();
+    ASSERT_TRUE(eventually([&] { return read.isFinished(); }));
+    const auto differing = service->differencesTo(read.result());
+    EXPECT_EQ(differing, (QList<DayDifference>{{{2026, 11, 3}, DayState::VACATION_DAY, DayState::OUT_OF_OFFICE},
+                                               {{2026, 11, 4}, DayState::IN_OFFICE, DayState::UNKNOWN}}));
+
+    const QString backups = service->folder().path();
+    ASSERT_TRUE(QFile::rename(backups, backups + u"2"_s) && QFile(backups).open(QFile::WriteOnly));
+    service->restore(differing);
+    ASSERT_TRUE(eventually([&] { return failures == 1; }));
+    EXPECT_EQ(states(), before);
+    QFile::remove(backups);
+    ASSERT_TRUE(QFile::rename(backups + u"2"_s, backups));
+    clock.advance(1s);
+    service->restore(differing);
+    ASSERT_TRUE(eventually([&] { return restores == 1; }));
+    EXPECT_EQ(service->differencesTo(read.result()), QList<DayDifference>());
+    EXPECT_EQ(service->differencesTo(before).size(), 2);
+    EXPECT_EQ(readBackup(service->folder().backups().first().path), before);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(states(), before);
+}
+
+TEST_F(BackupServiceTest, putsTheNewestSoundBackupInTheStoresPlace)
+{
+    mark(2, DayState::IN_OFFICE);
+    const auto backedUp = states();
+    service->makeNow();
+    ASSERT_TRUE(eventually([&] { return made == 1; }));
+    QFile damaged(service->folder().path() + "/Pellory 2026-11-21 09.00.00.store"_L1);
+    ASSERT_TRUE(damaged.open(QFile::WriteOnly));
+    mark(2, DayState::OUT_OF_OFFICE);
+    const auto newest = service->findNewestSound();
+    ASSERT_TRUE(eventually([&] { return newest.isFinished(); }));
+    ASSERT_TRUE(newest.result());
+    service->replaceStore(damaged.fileName());
+    ASSERT_TRUE(eventually([&] { return failures == 1; }));
+    bool isReplaced = false;
+    QObject::connect(service.get(), &BackupService::storeReplaced, [&] { isReplaced = true; });
+    service->replaceStore(newest.result()->path);
+    ASSERT_TRUE(eventually([&] { return isReplaced; }));
+    service.reset();
+    container = std::make_unique<ModelContainer>(configuration);
+    EXPECT_EQ(states(), backedUp);
+    EXPECT_EQ(readBackup(configuration.path + ".replaced"_L1)[QDate(2026, 11, 2)], DayState::OUT_OF_OFFICE);
+}
+
+TEST_F(BackupServiceTest, leavesNothingBehindWhenTheProgramEnds)
+{
+    mark(2, DayState::IN_OFFICE);
+    const QString backups = service->folder().path();
+    service->makeNow();
+    service.reset();
+    for (const QString& file : QDir(backups).entryList(QDir::Files))
+        EXPECT_NO_THROW((void)readBackup(backups + '/'_L1 + file));
+}

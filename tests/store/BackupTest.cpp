@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackupContents.h"
+#include "BackupFolder.h"
+#include "FailingDisk.h"
+#include "KeptBackups.h"
+#include "StoreTest.h"
+
+#include <random>
+
+namespace {
+
+QDate weekOf(QDate date)
+{
+    return date.addDays(1 - date.dayOfWeek());
+}
+
+QDate monthOf(QDate date)
+{
+    return {date.year(), date.month(), 1};
+}
+
+} // namespace
+
+TEST(KeptBackupsTest, areTheNewestOfEachPeriodForAnySequenceOfDays)
+{
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    std::mt19937 random(seed);
+    for (int run = 0; run < 4; ++run) {
+        QDateTime now(QDate(2026, 1, 1), QTime(9, 0));
+        QList<QDateTime> made;
+        QList<QDateTime> kept;
+        for (int step = 0; step < 150; ++step) {
+            const unsigned hours = random() % 3 == 0 ? 24 * 40 : 40;
+            now = now.addSecs(3600 * (1 + random() % hours));
+            made.prepend(now);
+            kept = keptBackups(kept << now, now);
+            QSet<QDateTime> expected;
+            const auto expect = [&](int count, const auto& period) {
+                QSet<QDate> periods;
+                for (const QDateTime& time : made) {
+                    const auto before = periods.size();
+                    periods.insert(period(time.date()));
+                    if (periods.size() > before && before < count)
+                        expected.insert(time);
+                }
+            };
+            expect(7, [](QDate date) { return date; });
+            expect(5, weekOf);
+            expect(12, monthOf);
+            ASSERT_EQ(QSet<QDateTime>(kept.begin(), kept.end()), expected);
+        }
+        const QDateTime setBack = kept.at(5);
+        EXPECT_EQ(keptBackups(kept, setBack).first(5), kept.first(5)) << "what lies in the future stays";
+    }
+}
+
+class BackupTest : OrdinaryUser, public StoreTest {
+protected:
+    BackupTest() { putSample(); }
+
+    [[nodiscard]] DayStates states() const { return statesOf(open()->mainContext().fetchMonths()); }
+    [[nodiscard]] QString fileOf(const QString& time) const
+    {
+        return backups.path() + "/Pellory "_L1 + time + ".store"_L1;
+    }
+    static void write(const QString& file)
+    {
+        QFile stray(file);
+        EXPECT_TRUE(stray.open(QFile::WriteOnly));
+    }
+    [[nodiscard]] static bool isPrivate(const QString& file) { return (QFile::permissions(file) & 0x77) == 0; }
+
+    const BackupFolder backups{path};
+    const QDateTime now{QDate(2026, 3, 9), QTime(9, 15)};
+    FailingDisk disk;
+};
+
+TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
+{
+    putReleased();
+    const DayStates old = readBackup(path); // of version 1
+    EXPECT_EQ(old, states());
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Backups"_s));
+    const QString draft = backups.path() + "/Pellory.store.new-abcdef"_L1;
+    const QStringList foreign{backups.path() + "/notes.txt"_L1, fileOf(u"2026-02-30 09.15.00"_s)};
+    const QString future = fileOf(u"2027-01-01 00.00.00"_s);
+    for (const QString& file : foreign + QStringList{draft, future})
+        write(file);
+    ASSERT_TRUE(QFile::link(path, fileOf(u"2026-01-01 00.00.00"_s)));
+
+    const QByteArray before = bytes();
+    auto other = connection();
+    other.exec("BEGIN EXCLUSIVE");
+    const QString first = fileOf(u"2026-03-09 09.15.00"_s);
+    const QString second = fileOf(u"2026-03-09 09.15.00 (2)"_s);
+    EXPECT_EQ(backups.make(now).path, first);
+    EXPECT_EQ(backups.make(now).path, second);
+    other.exec("ROLLBACK");
+    EXPECT_EQ(readBackup(first), old);
+    EXPECT_TRUE(isPrivate(first));
+    EXPECT_TRUE(bytes() == before);
+    EXPECT_FALSE(QFile::exists(draft));
+    EXPECT_THAT(foreign, testing::Each(testing::Truly([](const auto& file) { return QFile::exists(file); })));
+    QStringList listed;
+    for (const BackupFile& backup : backups.backups())
+        listed.append(backup.path);
+    EXPECT_THAT(listed, testing::UnorderedElementsAre(future, second, first, path + ".before-2"_L1));
+}
+
+TEST_F(BackupTest, neverMakesASaveFailAndIsNeverAMixture)
+{
+    const auto container = open();
+    ModelContext& context = container->mainContext();
+    int saves = 0;
+    const auto save = [&] {
+        mark(*context.fetchMonths(2026, 3).first(), 1 + saves++ % 28, DayState::VACATION_DAY);
+        EXPECT_TRUE(context.save());
+    };
+    FailingDisk::beforeWrite = save;
+    const BackupFile made = backups.make(now);
+    EXPECT_EQ(saves, 1);
+    EXPECT_EQ(readBackup(made.path), statesOf(context.fetchMonths()));
+
+    const std::function<void()> saveAgain = [&] {
+        save();
+        FailingDisk::beforeWrite = saveAgain;
+    };
+    FailingDisk::beforeWrite = saveAgain;
+    EXPECT_THROW(backups.make(now), StoreError);
+    FailingDisk::beforeWrite = {};
+    EXPECT_EQ(backups.backups().size(), 1);
+}
+
+TEST_F(BackupTest, noFaultOrKillCostsTheStoreOrAnOlderBackup)
+{
+    const DayStates old = states();
+    const auto older = backups.make(now.addDays(-1));
+    const QByteArray before = bytes();
+    const auto calls = FailingDisk::strikeEverywhere(FailingDisk::failuresAndKill, [&] {
+        FailingDisk::run([&] {
+            try {
+                backups.make(now);
+            } catch (const StoreError& error) {
+                EXPECT_FALSE(error.description().isEmpty());
+            }
+        });
+        EXPECT_TRUE(bytes() == before);
+        const auto left = backups.backups();
+        EXPECT_EQ(left.size(), FailingDisk::hasStruck() ? 1 : 2);
+        EXPECT_EQ(left.last(), older);
+        for (const BackupFile& backup : left)
+            EXPECT_EQ(readBackup(backup.path), old);
+        if (left.first() != older)
+            QFile::remove(left.first().path);
+    });
+    EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(3), testing::Ge(5), 0, 0, testing::Ge(1)));
+    backups.make(now);
+    EXPECT_EQ(QDir(backups.path()).entryList(QDir::Files).size(), 2) << "no draft is left";
+
+    QDir(backups.path()).removeRecursively();
+    setFolderWritable(false);
+    EXPECT_THROW(backups.make(now), StoreError);
+    setFolderWritable(true);
+}
