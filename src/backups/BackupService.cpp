@@ -62,7 +62,7 @@ void BackupService::makeDaily()
     if (!context.saveState().value().isFine()) // which is shown already
         return;
     context.thinChanges(m_clock.now().addYears(-yearsOfChanges).toMSecsSinceEpoch());
-    make([this](const StoreError* error) {
+    make(Thinning::Yes, [this](const StoreError* error) {
         if (error == nullptr)
             m_doneOn = m_clock.today();
         else if (error->cause() == StoreError::Cause::Lock)
@@ -85,7 +85,7 @@ bool BackupService::isDue() const
 
 void BackupService::makeNow()
 {
-    make([this](const StoreError* error) {
+    make(Thinning::Yes, [this](const StoreError* error) {
         if (error != nullptr)
             report(*error);
     });
@@ -97,7 +97,7 @@ void BackupService::report(const StoreError& error)
     Q_EMIT failed(error.description());
 }
 
-void BackupService::make(const Ending& ending)
+void BackupService::make(Thinning thinning, const Ending& ending)
 {
     ModelContext& context = m_marker.context();
     if (!context.save() || !context.saveState().value().isFine()) {
@@ -111,8 +111,11 @@ void BackupService::make(const Ending& ending)
     ++m_running;
     m_isMaking = true;
     m_isPending = false;
-    const auto job = [folder = m_folder, now = m_clock.now()](const std::stop_token& stop) {
-        return folder.make(now, stop);
+    const auto job = [thinning, folder = m_folder, now = m_clock.now()](const std::stop_token& stop) {
+        BackupFile backup = folder.make(now, stop);
+        if (thinning == Thinning::Yes)
+            folder.thin(now);
+        return backup;
     };
     run<BackupFile>(
         job,
@@ -157,7 +160,8 @@ void BackupService::restore(const QList<DayDifference>& days)
     QList<DayMark> marks;
     for (const DayDifference& day : days)
         marks.append({day.date, day.after});
-    make([this, marks](const StoreError* error) {
+    // The backup that the days come from must not go.
+    make(Thinning::No, [this, marks](const StoreError* error) {
         try {
             if (error != nullptr)
                 throw *error;

@@ -77,7 +77,8 @@ private:
              const std::function<void(const StoreError&)>& failed);
     /// Called with null once a backup was made, otherwise with the reason.
     using Ending = std::function<void(const StoreError*)>;
-    void make(const Ending& ending);
+    enum class Thinning { Yes, No };
+    void make(Thinning thinning, const Ending& ending);
     void report(const StoreError& error);
     void waitForQuiet();
     void makeDaily();

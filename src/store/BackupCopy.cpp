@@ -3,7 +3,6 @@
 
 #include "StoreFileWatch.h"
 
-#include <QFile>
 #include <QUrl>
 
 #include <SQLiteCpp/Database.h>
@@ -12,7 +11,7 @@
 
 #include <array>
 
-using namespace Qt::StringLiterals;
+#include <unistd.h>
 
 namespace {
 
@@ -48,8 +47,10 @@ bool copyUnlocked(const QString& path, const std::string& copy, const std::stop_
     };
     std::stop_token token = stop;
     sqlite3_progress_handler(store.getHandle(), 1000, isStopped, &token);
-    const auto isBeingWritten = [&] { return QFile::exists(path + "-journal"_L1); };
-    StoreFileWatch watch(path.toStdString());
+    // The journal lies beside the file itself, which a link may name.
+    const char* file = sqlite3_db_filename(store.getHandle(), "main");
+    const auto isBeingWritten = [&] { return access(sqlite3_filename_journal(file), F_OK) == 0; };
+    StoreFileWatch watch(file);
     watch.accept();
     const ChangeCounter counter = changeCounter(store);
     if (isBeingWritten())

@@ -108,19 +108,6 @@ QList<BackupFile> copiesOfMigrations(const QFileInfo& store)
     return backups;
 }
 
-void thin(const QString& folder, const QDateTime& now)
-{
-    const QList<BackupFile> backups = backupsIn(folder);
-    QList<QDateTime> times;
-    for (const BackupFile& backup : backups)
-        times.append(backup.made);
-    const QList<QDateTime> kept = keptBackups(times, now);
-    for (const BackupFile& backup : backups) {
-        if (!kept.contains(backup.made))
-            QFile::remove(backup.path);
-    }
-}
-
 } // namespace
 
 BackupFolder::BackupFolder(const QString& storePath)
@@ -147,9 +134,21 @@ BackupFile BackupFolder::make(const QDateTime& now, const std::stop_token& stop)
         Draft draft(draftPath);
         copyAndVerify(m_storePath, draft, stop);
         const QString path = takeName(draft, m_path, now);
-        thin(m_path, now);
         return describe(QFileInfo(path), now);
     } catch (const SQLite::Exception& error) {
         throw storeError(error);
+    }
+}
+
+void BackupFolder::thin(const QDateTime& now) const
+{
+    const QList<BackupFile> backups = backupsIn(m_path);
+    QList<QDateTime> times;
+    for (const BackupFile& backup : backups)
+        times.append(backup.made);
+    const QList<QDateTime> kept = keptBackups(times, now);
+    for (const BackupFile& backup : backups) {
+        if (!kept.contains(backup.made))
+            QFile::remove(backup.path);
     }
 }

@@ -32,11 +32,12 @@ public:
     /// The newest first. No file is opened.
     [[nodiscard]] QList<BackupFile> backups() const;
 
-    /// Makes a verified backup, which appears whole or not at all, and removes those that are not kept any more (see
-    /// keptBackups()). Locks nothing in the store and never changes it. May be called on any thread, but only once at a
-    /// time. Throws a StoreError with the cause Lock if the store changes all the while, or if stopped; with another
-    /// cause, and the reason in words for the person, if it fails.
+    /// Makes a verified backup, which appears whole or not at all. Locks nothing in the store and never changes it. May
+    /// be called on any thread, but only once at a time. Throws a StoreError: with the cause Lock if the store changes
+    /// all the while, otherwise with the reason in words for the person.
     BackupFile make(const QDateTime& now, const std::stop_token& stop = {}) const;
+    /// Removes the backups that are not kept any more (see keptBackups()). To be called after a backup was made.
+    void thin(const QDateTime& now) const;
 
 private:
     QString m_storePath;

@@ -62,7 +62,7 @@ QList<QDateTime> keptBackups(QList<QDateTime> times, const QDateTime& now)
         const QDate date = time.date();
         const bool isOfDay = days.passes(date);
         const bool isOfWeek = weeks.passes(date);
-        return !months.passes(date) && !isOfWeek && !isOfDay;
+        return !months.passes(date) && !isOfWeek && !isOfDay && date != now.date();
     });
     return times;
 }
