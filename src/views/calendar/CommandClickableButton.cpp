@@ -2,9 +2,9 @@
 #include "CommandClickableButton.h"
 
 #include "Accessibility.h"
+#include "DayCellPainter.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
-#include "Outline.h"
 #include "ReturnKey.h"
 #include "StateMark.h"
 #include "Theme.h"
@@ -12,28 +12,10 @@
 
 #include <QContextMenuEvent>
 #include <QPainter>
-#include <QStyle>
 
 namespace {
 
-constexpr QSize minimumFace(35, 26);
-constexpr int cellRadius = 8;
-constexpr QMargins cellMargins(6, 5, 6, 5);
-// The number stands a little above the middle, which leaves room for the mark below it.
-constexpr int numberLift = 4;
-constexpr int markInset = 2;
-constexpr qreal todayRingOutset = 2.5;
-constexpr qreal focusRingOutset = 4.0;
-
 constexpr HoverLabel::Style labelStyle{.padding = {10, 4, 10, 4}, .radius = 6.0, .backgroundOpacity = 0.9};
-
-void drawRing(QPainter& painter, const QRectF& face, qreal outset, const QPen& pen)
-{
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(face.marginsAdded({outset, outset, outset, outset}), cellRadius + outset,
-                            cellRadius + outset);
-}
 
 } // namespace
 
@@ -108,31 +90,22 @@ void CommandClickableButton::resetHover()
 
 QRect CommandClickableButton::face() const
 {
-    return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, faceSize(), rect());
+    return cellPainter().face();
 }
 
 QRect CommandClickableButton::markArea() const
 {
-    const int size = face().height() * 6 / minimumFace.height();
-    const QRect inner = face().adjusted(markInset, markInset, -markInset, -markInset);
-    return QStyle::alignedRect(layoutDirection(), Qt::AlignHCenter | Qt::AlignBottom, {size, size}, inner);
-}
-
-QRect CommandClickableButton::numberArea() const
-{
-    const QRect area(0, 0, face().width(), fontMetrics().capHeight());
-    return area.translated(face().center() - area.center() - QPoint(0, numberLift / 2));
-}
-
-QSize CommandClickableButton::faceSize() const
-{
-    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("30"));
-    return text.grownBy({8, 3, 8, 3}).expandedTo(minimumFace);
+    return cellPainter().markArea();
 }
 
 QSize CommandClickableButton::sizeHint() const
 {
-    return faceSize().grownBy(cellMargins);
+    return DayCellPainter::sizeHint(fontMetrics());
+}
+
+DayCellPainter CommandClickableButton::cellPainter() const
+{
+    return {rect(), fontMetrics(), layoutDirection()};
 }
 
 void CommandClickableButton::contextMenuEvent(QContextMenuEvent* /*event*/)
@@ -233,21 +206,9 @@ void CommandClickableButton::mouseReleaseEvent(QMouseEvent* event)
 
 void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
 {
-    const Theme& theme = themeFor(palette());
-    const QRectF area = face();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isDown() ? m_tint.darker(115) : m_tint);
-    painter.drawRoundedRect(area, cellRadius, cellRadius);
-    drawOutline(painter, area, cellRadius, theme);
-    painter.setPen(readableTextOn(m_tint));
-    painter.drawText(area.adjusted(0, 0, 0, -numberLift), Qt::AlignCenter, text());
-    drawStateMark(painter, markArea(), m_state, painter.pen().color());
-    if (m_ringed)
-        drawRing(painter, area, todayRingOutset, {theme.text, 1.75});
-    if (hasFocus() && m_focusVisible)
-        drawRing(painter, area, focusRingOutset, {theme.accent, 2.0});
+    cellPainter().paint(painter, {text(), m_tint, m_state, m_ringed, isDown(), hasFocus() && m_focusVisible},
+                        themeFor(palette()));
 }
 
 void CommandClickableButton::run(Qt::KeyboardModifiers held)
@@ -292,7 +253,7 @@ void CommandClickableButton::setHovered(bool inside)
 void CommandClickableButton::setShowTooltip(bool show)
 {
     if (show && m_tooltipText && !m_label) {
-        m_label = new HoverLabel(this, numberArea(), labelStyle);
+        m_label = new HoverLabel(this, cellPainter().numberArea(), labelStyle);
         updateLabel();
     } else if (!show && m_label) {
         m_label->dismiss();

@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 
+class DayCellPainter;
 class HoverLabel;
 class ViewSettings;
 
@@ -66,9 +67,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// Where the digits are.
-    [[nodiscard]] QRect numberArea() const;
-    [[nodiscard]] QSize faceSize() const;
+    [[nodiscard]] DayCellPainter cellPainter() const;
     void run(Qt::KeyboardModifiers held);
     [[nodiscard]] bool isPress(const QKeyEvent& event) const;
     void runWithFocus();
