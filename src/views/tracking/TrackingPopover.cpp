@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackingPopover.h"
 
-#include "Accessibility.h"
 #include "Button.h"
 #include "Clock.h"
 #include "Follow.h"
 #include "InOfficeCheck.h"
 #include "Labels.h"
-#include "Theme.h"
 #include "TrackingStatus.h"
 
 #include <QFormLayout>
 #include <QLocale>
-#include <QPainter>
-#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -22,21 +18,6 @@ namespace {
 
 // In the usual font, with which it grows.
 constexpr int resultWidth = 220;
-constexpr QMargins padding(20, 16, 20, 16);
-constexpr qreal cornerRadius = 12.0;
-constexpr int shadowReach = 14;
-constexpr int shadowDrop = 3;
-
-// Thin layers that add up to a soft edge.
-void drawShadow(QPainter& painter, const QRectF& panel)
-{
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 5));
-    const QRectF lower = panel.translated(0, shadowDrop);
-    for (int reach = shadowReach - shadowDrop; reach > 0; --reach)
-        painter.drawRoundedRect(lower.adjusted(-reach, -reach, reach, reach), cornerRadius + reach,
-                                cornerRadius + reach);
-}
 
 QLabel* addRow(QFormLayout& rows, const QString& name)
 {
@@ -60,7 +41,7 @@ QLabel* addResult(QFormLayout& rows, const QString& name)
 
 TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock,
                                  QWidget* anchor)
-    : QWidget(anchor, Qt::Popup | Qt::FramelessWindowHint)
+    : Popover(anchor, Side::Below)
     , m_status(status)
     , m_check(check)
     , m_clock(clock)
@@ -73,16 +54,11 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     , m_nextCheck(addRow(*m_rows, tr("Next check")))
     , m_setUp(new Button(tr("Finish Set-up")))
 {
-    setAccessibleRole(*this, QAccessible::Dialog);
-    setAttribute(Qt::WA_DeleteOnClose);
-    setFocusPolicy(Qt::TabFocus);
     m_rows->setHorizontalSpacing(24);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(padding);
-    column->setSpacing(12);
-    column->addWidget(m_title);
-    column->addLayout(m_rows);
-    column->addWidget(m_setUp, 0, Qt::AlignRight);
+    column().setSpacing(12);
+    column().addWidget(m_title);
+    column().addLayout(m_rows);
+    column().addWidget(m_setUp, 0, Qt::AlignRight);
     m_setUp->setObjectName("finishSetUp"_L1);
     m_setUp->setProminent(true);
     connect(m_setUp, &QAbstractButton::clicked, this, [this] {
@@ -93,33 +69,6 @@ TrackingPopover::TrackingPopover(TrackingStatus& status, const InOfficeCheck& ch
     follow(check.lastCheck, this, [this] { refresh(); });
     follow(check.lastOutcome, this, [this] { refresh(); });
     follow(check.nextCheck, this, [this] { refresh(); });
-}
-
-void TrackingPopover::setBlended(bool isBlended)
-{
-    m_isBlended = isBlended;
-    setAttribute(Qt::WA_TranslucentBackground, isBlended);
-    layout()->setContentsMargins(padding + shadow());
-}
-
-int TrackingPopover::shadow() const
-{
-    return m_isBlended ? shadowReach : 0;
-}
-
-void TrackingPopover::popUp()
-{
-    adjustSize();
-    const QWidget& anchor = *parentWidget();
-    const QPoint below = layoutDirection() == Qt::LeftToRight
-                             ? anchor.mapToGlobal(anchor.rect().bottomLeft()) - QPoint(shadow(), 0)
-                             : anchor.mapToGlobal(anchor.rect().bottomRight()) - QPoint(width() - shadow(), 0);
-    // The shadow may leave the screen.
-    const QRect room = anchor.screen()->availableGeometry().marginsAdded(QMargins() + shadow());
-    move(qBound(room.left(), below.x(), qMax(room.left(), room.right() - width())),
-         qBound(room.top(), below.y() + 4 - shadow(), qMax(room.top(), room.bottom() - height())));
-    show();
-    setFocus(Qt::PopupFocusReason); // so that a screen reader says it
 }
 
 void TrackingPopover::refresh()
@@ -169,20 +118,4 @@ QString TrackingPopover::timeText(const QDateTime& time) const
     const bool isToday = time.date() == m_clock.today();
     return isToday ? QLocale().toString(time.time(), QLocale::ShortFormat)
                    : QLocale().toString(time, QLocale::ShortFormat);
-}
-
-void TrackingPopover::paintEvent(QPaintEvent* /*event*/)
-{
-    const Theme& theme = themeFor(palette());
-    const QRectF panel = QRectF(rect()).marginsRemoved(QMarginsF(QMargins() + shadow()));
-    const qreal radius = m_isBlended ? cornerRadius : 0.0;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (m_isBlended)
-        drawShadow(painter, panel);
-    // In a dark window a shadow is hardly seen.
-    const bool isSetOff = m_isBlended && lookOf(palette()).scheme == ColorScheme::Light;
-    painter.setPen(isSetOff ? theme.border : theme.controlBorder);
-    painter.setBrush(theme.card);
-    painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "Popover.h"
 
 class Button;
 class Clock;
@@ -10,26 +10,17 @@ class QFormLayout;
 class QLabel;
 class TrackingStatus;
 
-/// A small window below its anchor with the status of the automatic tracking. It deletes itself when it is closed.
-class TrackingPopover : public QWidget {
+/// The status of the automatic tracking, below its indicator.
+class TrackingPopover : public Popover {
     Q_OBJECT
 
 public:
     TrackingPopover(TrackingStatus& status, const InOfficeCheck& check, const Clock& clock, QWidget* anchor);
 
-    /// Gives it round corners and a shadow, which need a windowing system that blends windows.
-    void setBlended(bool isBlended);
-    void popUp();
-
 Q_SIGNALS:
     void setUpRequested();
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
-    /// The room for the shadow on each side.
-    [[nodiscard]] int shadow() const;
     void refresh();
     void showResult();
     [[nodiscard]] QString spokenRows() const;
@@ -46,5 +37,4 @@ private:
     QLabel* m_result;
     QLabel* m_nextCheck;
     Button* m_setUp;
-    bool m_isBlended = false;
 };
