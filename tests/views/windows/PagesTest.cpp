@@ -17,8 +17,8 @@ protected:
         show(quarterPage);
     }
 
-    MonthView monthPage{context, *settings, viewSettings, clock};
-    QuarterView quarterPage{context, *settings, viewSettings, clock};
+    MonthView monthPage{marker, *settings, viewSettings, clock};
+    QuarterView quarterPage{marker, *settings, viewSettings, clock};
     CalendarPage* const pages[2]{&monthPage, &quarterPage};
 };
 
