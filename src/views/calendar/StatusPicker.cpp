@@ -97,15 +97,22 @@ StatusPicker::StatusPicker(DayState current, QWidget* parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     MenuStyle::apply(*this, iconSize(fonts::caption(font())));
-    QString taken;
-    for (const DayState state : allDayStates) {
-        QString text = description(state);
-        if (const qsizetype letter = accessLetter(text, taken); letter >= 0) {
-            taken.append(text.at(letter));
-            text.insert(letter, u'&');
-        }
-        addState(state, text);
+    for (const DayState state : allDayStates)
+        addState(state, withAccessLetter(description(state)));
+}
+
+QString StatusPicker::withAccessLetter(QString text)
+{
+    if (const qsizetype letter = accessLetter(text, m_taken); letter >= 0) {
+        m_taken.append(text.at(letter));
+        text.insert(letter, u'&');
     }
+    return text;
+}
+
+QAction* StatusPicker::addEntry(const QString& text)
+{
+    return addAction(withAccessLetter(text));
 }
 
 void StatusPicker::addState(DayState state, const QString& text)

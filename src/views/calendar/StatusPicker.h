@@ -15,6 +15,9 @@ public:
     /// `current` is checked.
     StatusPicker(DayState current, QWidget* parent);
 
+    /// Adds an entry below the states.
+    QAction* addEntry(const QString& text);
+
     /// Opens the menu beside a cell, which is in global coordinates: after it, or before it if there is no room.
     void popUpBeside(const QRect& cell);
 
@@ -28,8 +31,12 @@ protected:
 private:
     void addState(DayState state, const QString& text);
     [[nodiscard]] QAction* currentAction() const;
+    /// Marks the letter that chooses an entry.
+    [[nodiscard]] QString withAccessLetter(QString text);
 
     DayState m_current;
+    /// The letters that choose the entries so far.
+    QString m_taken;
     /// Where the button was pressed that opened the menu, until it is released.
     std::optional<QPoint> m_pressedAt;
 };
