@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DayChange.h"
+#include "DayNotes.h"
 
 #include <QList>
 #include <QObject>
@@ -48,10 +49,12 @@ public:
     DayMarker(ModelContext& context, const Clock& clock)
         : m_context(context)
         , m_clock(clock)
+        , m_notes(context)
     {
     }
 
     [[nodiscard]] ModelContext& context() const { return m_context; }
+    [[nodiscard]] DayNotes& notes() { return m_notes; }
 
     /// The state of a cell. `index` is the day's place in the grid of its month, 0 to 37; any other stops the program.
     [[nodiscard]] static DayState stateOf(const Month& month, qsizetype index);
@@ -81,5 +84,8 @@ private:
     ModelContext& m_context;
     const Clock& m_clock;
     /// The last change of a single day that was recorded. Its group is the last of all; 0 before the first.
+
+    DayNotes m_notes;
+    /// The last change that was recorded; its group is 0 before the first.
     DayChange m_last;
 };
