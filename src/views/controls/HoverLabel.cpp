@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "HoverLabel.h"
 
+#include "ElidedLines.h"
 #include "Fonts.h"
 #include "Outline.h"
 #include "Theme.h"
@@ -13,6 +14,9 @@
 namespace {
 
 constexpr int fadeMilliseconds = 120;
+constexpr qsizetype mostLinesBelow = 4;
+// In the usual font, with which it grows.
+constexpr int widestBelow = 240;
 
 } // namespace
 
@@ -40,10 +44,11 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
     window()->installEventFilter(this);
 }
 
-void HoverLabel::setText(const QString& text, const Mark& mark)
+void HoverLabel::setText(const QString& text, const Mark& mark, const QString& below)
 {
     m_text = text;
     m_mark = mark;
+    m_below = below;
     reposition();
     raise();
     show();
@@ -59,8 +64,19 @@ void HoverLabel::dismiss()
 
 QSize HoverLabel::sizeHint() const
 {
-    const QSize text = fontMetrics().size(Qt::TextSingleLine, m_text);
-    return text.grownBy(m_style.padding).grownBy({markRoom(), 0, 0, 0});
+    QSize text = fontMetrics().size(Qt::TextSingleLine, m_text).grownBy({markRoom(), 0, 0, 0});
+    for (const QString& line : linesBelow()) {
+        const QSize size = fontMetrics().size(Qt::TextSingleLine, line);
+        text = {qMax(text.width(), size.width()), text.height() + size.height()};
+    }
+    return text.grownBy(m_style.padding);
+}
+
+QStringList HoverLabel::linesBelow() const
+{
+    const QMargins& padding = m_style.padding;
+    const int room = window()->width() - padding.left() - padding.right();
+    return elidedLines(m_below, font(), qMin(fonts::grown(widestBelow, font()), room), mostLinesBelow);
 }
 
 int HoverLabel::markSize() const
@@ -98,12 +114,19 @@ void HoverLabel::paintEvent(QPaintEvent* /*event*/)
     painter.drawRoundedRect(rect(), m_style.radius, m_style.radius);
     drawOutline(painter, rect(), m_style.radius, themeFor(palette()));
     const QRect contents = rect().marginsRemoved(m_style.padding);
+    const QStringList below = linesBelow();
+    QRect line = contents;
+    line.setHeight(contents.height() / static_cast<int>(1 + below.size()));
     painter.setPen(Qt::white);
-    painter.drawText(QStyle::visualRect(layoutDirection(), contents, contents.adjusted(markRoom(), 0, 0, 0)),
-                     Qt::AlignCenter, m_text);
+    painter.drawText(QStyle::visualRect(layoutDirection(), line, line.adjusted(markRoom(), 0, 0, 0)),
+                     below.isEmpty() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter, m_text);
     if (m_mark)
         m_mark(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
-                                            {markSize(), markSize()}, contents));
+                                            {markSize(), markSize()}, line));
+    for (const QString& words : below) {
+        line.translate(0, line.height());
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, words);
+    }
 }
 
 void HoverLabel::fadeTo(qreal opacity)

@@ -8,9 +8,9 @@
 
 class QPropertyAnimation;
 
-/// A short text that fades in over a widget and out again. A window has one at a time: a new one takes the place of
-/// another. It is a child of the window, so that neighbours cannot cover
-/// it, stays inside the window and ignores the mouse.
+/// A short text that fades in over a widget and out again, with the first lines of another below it. A window has one
+/// at a time: a new one takes the place of another. It is a child of the window, so that neighbours cannot cover it,
+/// stays inside the window and ignores the mouse.
 class HoverLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(qreal opacity READ opacity WRITE setOpacity)
@@ -29,7 +29,7 @@ public:
     /// Paints a mark before the text, in a square area.
     using Mark = std::function<void(QPainter& painter, const QRectF& area)>;
 
-    void setText(const QString& text, const Mark& mark = {});
+    void setText(const QString& text, const Mark& mark = {}, const QString& below = {});
     [[nodiscard]] QString text() const { return m_text; }
     /// Fades out, then deletes the label.
     void dismiss();
@@ -48,12 +48,14 @@ private:
     /// The sides of the square of the mark, and the room it takes with its distance from the text.
     [[nodiscard]] int markSize() const;
     [[nodiscard]] int markRoom() const;
+    [[nodiscard]] QStringList linesBelow() const;
 
     QPointer<QWidget> m_anchor;
     QRect m_area;
     Style m_style;
     QString m_text;
     Mark m_mark;
+    QString m_below;
     qreal m_opacity = 0.0;
     QPropertyAnimation* m_fade;
 };

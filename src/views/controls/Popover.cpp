@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr QMargins padding(20, 16, 20, 16);
+constexpr QMargins popoverPadding(20, 16, 20, 16);
 constexpr qreal popoverRadius = 12.0;
 constexpr int popoverGap = 4;
 constexpr int shadowReach = 14;
@@ -37,14 +37,14 @@ Popover::Popover(QWidget* anchor, Side side)
     setAccessibleRole(*this, QAccessible::Dialog);
     setAttribute(Qt::WA_DeleteOnClose);
     setFocusPolicy(Qt::TabFocus);
-    m_column->setContentsMargins(padding);
+    m_column->setContentsMargins(popoverPadding);
 }
 
 void Popover::setBlended(bool isBlended)
 {
     m_isBlended = isBlended;
     setAttribute(Qt::WA_TranslucentBackground, isBlended);
-    m_column->setContentsMargins(padding + shadow());
+    m_column->setContentsMargins(popoverPadding + shadow());
 }
 
 int Popover::shadow() const
@@ -54,7 +54,7 @@ int Popover::shadow() const
 
 void Popover::popUp()
 {
-    adjustSize();
+    fitToContents();
     const QRect anchor(parentWidget()->mapToGlobal(QPoint()), parentWidget()->size());
     // The shadow may leave the screen.
     const QRect room = parentWidget()->screen()->availableGeometry().marginsAdded(QMargins() + shadow());
@@ -63,6 +63,15 @@ void Popover::popUp()
          qBound(room.top(), place.y(), qMax(room.top(), room.bottom() - height())));
     show();
     setFocus(Qt::PopupFocusReason); // so that a screen reader says it
+}
+
+void Popover::fitToContents()
+{
+    layout()->activate(); // or labels would have the heights of their last texts
+    QSize size = sizeHint();
+    if (layout()->hasHeightForWidth())
+        size.setHeight(layout()->totalHeightForWidth(size.width()));
+    resize(size.boundedTo(parentWidget()->screen()->availableSize() + 2 * QSize(shadow(), shadow())));
 }
 
 QPoint Popover::placeBelow(const QRect& anchor) const

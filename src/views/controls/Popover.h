@@ -21,6 +21,8 @@ public:
 
 protected:
     [[nodiscard]] QVBoxLayout& column() { return *m_column; }
+    /// To be called after the contents have changed.
+    void fitToContents();
 
     void paintEvent(QPaintEvent* event) override;
 

@@ -83,8 +83,7 @@ void TrackingPopover::refresh()
     m_setUp->setVisible(!m_status.isSetUp());
     setAccessibleName(m_title->text());
     setAccessibleDescription(spokenRows());
-    layout()->activate(); // or the rows would have the heights of their last texts
-    adjustSize();
+    fitToContents();
 }
 
 void TrackingPopover::showResult()

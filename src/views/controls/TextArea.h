@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// A field for several lines of plain text, with a rounded border.
+class TextArea : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    /// It is so many lines high. Longer texts scroll.
+    explicit TextArea(int lines, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// The focus has left the field.
+    void left();
+
+protected:
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void paintBorder();
+};
