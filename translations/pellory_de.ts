@@ -196,6 +196,15 @@
         <comment>date and state</comment>
         <translation>%1, %2</translation>
     </message>
+    <message>
+        <source>%1, has a note</source>
+        <comment>date and state</comment>
+        <translation>%1, mit Notiz</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Details …</translation>
+    </message>
 </context>
 <context>
     <name>CalendarViewSettingsView</name>
@@ -300,6 +309,83 @@
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>DayDetails</name>
+    <message>
+        <source>The note of this day cannot be read.</source>
+        <translation>Die Notiz dieses Tages kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Set before changes were recorded</source>
+        <translation>Gesetzt, bevor Änderungen aufgezeichnet wurden</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>state, and who set it when</comment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message>
+        <source>Set Back</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Set back to %1. %2</source>
+        <comment>state, and who set it when</comment>
+        <translation>Zurücksetzen auf %1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>DayHistory</name>
+    <message>
+        <source>Before the first recorded change</source>
+        <translation>Vor der ersten aufgezeichneten Änderung</translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>A date in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMMM</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Automatically</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Undone</source>
+        <translation>Rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>Redone</source>
+        <translation>Wiederholt</translation>
+    </message>
+    <message>
+        <source>Restored from a backup</source>
+        <translation>Aus einer Sicherung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>By a pattern</source>
+        <translation>Nach einem Muster</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>Importiert</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,7 @@ void CalendarPage::connectCard(MonthCard& card)
 {
     m_cards.push_back(&card);
     connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
+    connect(&card.calendar(), &CalendarView::detailsRequested, this, &CalendarPage::detailsRequested);
 }
 
 void CalendarPage::previous(Qt::FocusReason reason)

@@ -43,6 +43,10 @@ public:
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
 
+Q_SIGNALS:
+    /// As CalendarView emits it.
+    void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
+
 protected:
     /// Adds the parts of the page, from top to bottom. They are hidden while the store cannot be read.
     [[nodiscard]] QVBoxLayout& contents() { return *m_column; }

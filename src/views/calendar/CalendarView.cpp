@@ -6,8 +6,10 @@
 #include "CommandClickableButton.h"
 #include "Follow.h"
 #include "Fonts.h"
+#include "ModelContext.h"
 #include "Month.h"
 #include "RestingPointer.h"
+#include "ReturnKey.h"
 #include "StateGestures.h"
 #include "StatisticsTexts.h"
 #include "StatusPicker.h"
@@ -37,9 +39,11 @@ constexpr float highlightOpacity = 0.1F;
 CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, const Clock& clock, bool highlighted,
                            QWidget* parent)
     : QWidget(parent)
+    , m_context(marker.context())
     , m_viewSettings(viewSettings)
     , m_clock(clock)
     , m_editor(marker)
+    , m_notes(marker.notes())
     , m_highlighted(highlighted)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
@@ -52,6 +56,7 @@ CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, 
     addCells(*grid);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&clock, &Clock::dayChanged, this, &CalendarView::refresh);
+    connect(&m_notes, &MonthNotes::changed, this, &CalendarView::refresh);
 }
 
 void CalendarView::addHeader(QGridLayout& grid)
@@ -116,12 +121,26 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
 
 void CalendarView::showPicker(qsizetype index)
 {
-    const auto& cell = *m_cells[static_cast<std::size_t>(index)];
+    auto& cell = *m_cells[static_cast<std::size_t>(index)];
     auto* picker = new StatusPicker(m_month->days.value().at(index).state, this);
     // Marks the month that was clicked, even if another is shown by then.
     connect(picker, &StatusPicker::chosen, this,
             [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
+    if (hasDetails()) {
+        picker->addSeparator();
+        QAction* details = picker->addEntry(tr("Details…"));
+        details->setShortcut(Qt::Key_Return); // of the focused day
+        details->setShortcutVisibleInContextMenu(true);
+        connect(details, &QAction::triggered, this,
+                [this, month = m_month, index, &cell] { Q_EMIT detailsRequested(month, index, &cell); });
+    }
     picker->popUpBeside({cell.mapToGlobal(QPoint()), cell.size()});
+}
+
+// A month that is not stored is a sample.
+bool CalendarView::hasDetails() const
+{
+    return m_context.contains(*m_month);
 }
 
 void CalendarView::setMonth(const std::shared_ptr<Month>& month)
@@ -132,6 +151,8 @@ void CalendarView::setMonth(const std::shared_ptr<Month>& month)
     onChange(month->name, m_monthFollowers.get(), [this] { refresh(); });
     for (CommandClickableButton* cell : m_cells)
         cell->resetHover();
+    if (hasDetails())
+        m_notes.read(*month);
     refresh();
     const QDate today = m_clock.today();
     const bool isThisMonth = today.year() == month->year && today.month() == month->month;
@@ -181,9 +202,11 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
     cell.setTint(dayColor(themeFor(palette()), day));
     cell.setState(day.state);
     cell.setTooltipText(description(day.state));
+    cell.setNote(m_notes.of(date));
     //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
-    cell.setSpokenName(tr("%1, %2", "date and state").arg(written, description(day.state)));
+    const QString spoken = tr("%1, %2", "date and state").arg(written, description(day.state));
+    cell.setSpokenName(m_notes.of(date).isEmpty() ? spoken : tr("%1, has a note", "date and state").arg(spoken));
 }
 
 int CalendarView::focusedDay() const
@@ -240,10 +263,22 @@ void CalendarView::keyPressEvent(QKeyEvent* event)
     default:
         break;
     }
-    if (const auto state = stateForKey(*event); state && focusedDay() > 0)
-        m_editor.setDayState(*m_month, *m_month->indexOf(focusedDay()), *state);
-    else
+    if (focusedDay() == 0 || !handleDayKey(*event))
         QWidget::keyPressEvent(event);
+}
+
+bool CalendarView::handleDayKey(const QKeyEvent& event)
+{
+    const qsizetype index = *m_month->indexOf(focusedDay());
+    if (const auto state = stateForKey(event)) {
+        m_editor.setDayState(*m_month, index, *state);
+        return true;
+    }
+    const bool asksForDetails = isReturn(event) && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!asksForDetails || !hasDetails())
+        return false;
+    Q_EMIT detailsRequested(m_month, index, m_cells[static_cast<std::size_t>(index)]);
+    return true;
 }
 
 void CalendarView::paintEvent(QPaintEvent* /*event*/)

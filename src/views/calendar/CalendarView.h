@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DayEditor.h"
+#include "MonthNotes.h"
 
 #include <QDate>
 #include <QWidget>
@@ -11,6 +12,7 @@
 
 class Clock;
 class CommandClickableButton;
+class ModelContext;
 class Month;
 class QGridLayout;
 class QLabel;
@@ -36,6 +38,8 @@ public:
 Q_SIGNALS:
     /// Emitted when an arrow key leads out of this month.
     void dayRequested(QDate date);
+    /// Emitted when a person wants to know more about the day of a cell. A month that is not stored has no details.
+    void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -50,16 +54,20 @@ private:
     void addWeekdays(QGridLayout& grid);
     void addCells(QGridLayout& grid);
     [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
+    [[nodiscard]] bool hasDetails() const;
     void showPicker(qsizetype index);
+    [[nodiscard]] bool handleDayKey(const QKeyEvent& event);
     void refresh();
     void refreshCell(qsizetype index, QDate today);
     void moveFocus(int days);
     void setTabStop(CommandClickableButton* cell);
     [[nodiscard]] QString title(QDate today) const;
 
+    const ModelContext& m_context;
     const ViewSettings& m_viewSettings;
     const Clock& m_clock;
     DayEditor m_editor;
+    MonthNotes m_notes;
     bool m_highlighted;
     std::shared_ptr<Month> m_month;
     /// Owner of the followers of the month that is shown.

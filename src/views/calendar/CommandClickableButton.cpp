@@ -5,7 +5,6 @@
 #include "DayCellPainter.h"
 #include "Fonts.h"
 #include "HoverLabel.h"
-#include "ReturnKey.h"
 #include "StateMark.h"
 #include "Theme.h"
 #include "ViewSettings.h"
@@ -60,6 +59,15 @@ void CommandClickableButton::setTooltipText(const std::optional<QString>& text)
     updateLabel();
 }
 
+void CommandClickableButton::setNote(const QString& note)
+{
+    if (m_note == note)
+        return;
+    m_note = note;
+    updateLabel();
+    update();
+}
+
 void CommandClickableButton::setSpokenName(const QString& name)
 {
     if (accessibleName() == name)
@@ -96,6 +104,11 @@ QRect CommandClickableButton::face() const
 QRect CommandClickableButton::markArea() const
 {
     return cellPainter().markArea();
+}
+
+QRect CommandClickableButton::noteArea() const
+{
+    return cellPainter().noteArea();
 }
 
 QSize CommandClickableButton::sizeHint() const
@@ -151,7 +164,7 @@ void CommandClickableButton::keyPressEvent(QKeyEvent* event)
         update();
     }
     // The grid handles all other keys.
-    if (!isPress(*event)) {
+    if (event->key() != Qt::Key_Space) {
         event->ignore();
         return;
     }
@@ -164,7 +177,7 @@ void CommandClickableButton::keyPressEvent(QKeyEvent* event)
 
 void CommandClickableButton::keyReleaseEvent(QKeyEvent* event)
 {
-    if (!isPress(*event) || event->isAutoRepeat() || !isDown()) {
+    if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !isDown()) {
         event->ignore();
         return;
     }
@@ -207,8 +220,9 @@ void CommandClickableButton::mouseReleaseEvent(QMouseEvent* event)
 void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    cellPainter().paint(painter, {text(), m_tint, m_state, m_ringed, isDown(), hasFocus() && m_focusVisible},
-                        themeFor(palette()));
+    const DayCellLook look{
+        text(), m_tint, m_state, !m_note.isEmpty(), m_ringed, isDown(), hasFocus() && m_focusVisible};
+    cellPainter().paint(painter, look, themeFor(palette()));
 }
 
 void CommandClickableButton::run(Qt::KeyboardModifiers held)
@@ -223,12 +237,6 @@ void CommandClickableButton::run(Qt::KeyboardModifiers held)
     case ClickModifier::None:
         return m_actions.action();
     }
-}
-
-bool CommandClickableButton::isPress(const QKeyEvent& event) const
-{
-    // After a click, Return is for the default button of the dialog.
-    return event.key() == Qt::Key_Space || (isReturn(event) && m_focusVisible);
 }
 
 void CommandClickableButton::runWithFocus()
@@ -270,5 +278,5 @@ void CommandClickableButton::updateLabel()
         mark = [state = m_state](QPainter& painter, const QRectF& area) {
             drawStateMark(painter, area, state, Qt::white);
         };
-    m_label->setText(*m_tooltipText, mark);
+    m_label->setText(*m_tooltipText, mark, m_note);
 }

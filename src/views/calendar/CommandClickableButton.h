@@ -15,7 +15,7 @@ class HoverLabel;
 class ViewSettings;
 
 /// A small coloured button that runs one of four actions, depending on the modifier key held, and can show a label on
-/// hover. Space and Return do the same as a click.
+/// hover. Space does the same as a click.
 class CommandClickableButton : public QAbstractButton {
     Q_OBJECT
 
@@ -36,6 +36,8 @@ public:
     /// Shows the mark of a state below the number, and before the text of the label.
     void setState(DayState state);
     void setTooltipText(const std::optional<QString>& text);
+    /// Shows a dot if there is a note, and its first lines in the label.
+    void setNote(const QString& note);
     /// Sets the accessible name. A screen reader says a change while the button has the focus.
     void setSpokenName(const QString& name);
     /// Draws a ring around the button, which marks today.
@@ -45,8 +47,9 @@ public:
     void resetHover();
     /// The coloured part. The margin around it is for the rings, and reacts like it.
     [[nodiscard]] QRect face() const;
-    /// Where the mark of the state is.
+    /// Where the mark of the state is, and the dot of a note.
     [[nodiscard]] QRect markArea() const;
+    [[nodiscard]] QRect noteArea() const;
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -69,7 +72,6 @@ protected:
 private:
     [[nodiscard]] DayCellPainter cellPainter() const;
     void run(Qt::KeyboardModifiers held);
-    [[nodiscard]] bool isPress(const QKeyEvent& event) const;
     void runWithFocus();
     void requestMenu();
     void setHovered(bool inside);
@@ -81,6 +83,7 @@ private:
     QColor m_tint;
     DayState m_state = DayState::UNKNOWN;
     std::optional<QString> m_tooltipText;
+    QString m_note;
     QPointer<HoverLabel> m_label;
     Qt::KeyboardModifiers m_heldAtKeyPress;
     FocusVisible m_focusVisible;

@@ -16,6 +16,7 @@ constexpr QMargins cellMargins(6, 5, 6, 5);
 // The number stands a little above the middle, which leaves room for the mark below it.
 constexpr int numberLift = 4;
 constexpr int markInset = 2;
+constexpr int noteInset = 4;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
 
@@ -54,6 +55,13 @@ QRect DayCellPainter::markArea() const
     return QStyle::alignedRect(m_direction, Qt::AlignHCenter | Qt::AlignBottom, {size, size}, inner);
 }
 
+QRect DayCellPainter::noteArea() const
+{
+    const int size = m_face.height() * 4 / minimumFace.height();
+    const QRect inner = m_face.adjusted(noteInset, noteInset, -noteInset, -noteInset);
+    return QStyle::alignedRect(m_direction, Qt::AlignRight | Qt::AlignTop, {size, size}, inner);
+}
+
 QRect DayCellPainter::numberArea() const
 {
     const QRect area(0, 0, m_face.width(), m_metrics.capHeight());
@@ -71,6 +79,11 @@ void DayCellPainter::paint(QPainter& painter, const DayCellLook& look, const The
     painter.setPen(readableTextOn(look.tint));
     painter.drawText(area.adjusted(0, 0, 0, -numberLift), Qt::AlignCenter, look.number);
     drawStateMark(painter, markArea(), look.state, painter.pen().color());
+    if (look.hasNote) {
+        painter.setBrush(painter.pen().color());
+        painter.setPen(Qt::NoPen);
+        painter.drawEllipse(noteArea());
+    }
     if (look.isToday)
         drawRing(painter, area, todayRingOutset, {theme.text, 1.75});
     if (look.isFocused)

@@ -16,6 +16,7 @@ struct DayCellLook {
     QString number = {};
     QColor tint = {};
     DayState state = DayState::UNKNOWN;
+    bool hasNote = false;
     bool isToday = false;
     bool isDown = false;
     bool isFocused = false;
@@ -32,6 +33,8 @@ public:
 
     [[nodiscard]] QRect face() const { return m_face; }
     [[nodiscard]] QRect markArea() const;
+    /// Where the dot is of a note.
+    [[nodiscard]] QRect noteArea() const;
     /// Where the digits are.
     [[nodiscard]] QRect numberArea() const;
 

@@ -4,6 +4,7 @@
 #include "AppSettings.h"
 #include "Bar.h"
 #include "Button.h"
+#include "DayDetails.h"
 #include "FocusOrder.h"
 #include "Follow.h"
 #include "IconButton.h"
@@ -41,11 +42,6 @@ namespace {
 constexpr int firstTab = 1;
 constexpr int menuGap = 4;
 
-template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
-{
-    return [&parts] { return new Page(new Calendar(parts.marker, parts.settings, parts.viewSettings, parts.clock)); };
-}
-
 } // namespace
 
 ContentView::ContentView(const ViewParts& parts, QWidget* parent)
@@ -54,7 +50,7 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     , m_status(new TrackingStatus(parts.settings, parts.wifiClient, parts.locationManager, this))
     , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
-    , m_pages(new LazyStack({pageOf<MonthView>(parts), pageOf<QuarterView>(parts)}))
+    , m_pages(new LazyStack({[this] { return makePage<MonthView>(); }, [this] { return makePage<QuarterView>(); }}))
 {
     m_column->setContentsMargins({});
     m_column->setSpacing(0);
@@ -99,8 +95,7 @@ QWidget* ContentView::makeIndicator()
     connect(indicator, &QAbstractButton::clicked, this, [this, indicator] {
         auto* popover = new TrackingPopover(*m_status, m_parts.check, m_parts.clock, indicator);
         connect(popover, &TrackingPopover::setUpRequested, this, &ContentView::setUpRequested);
-        popover->setBlended(m_parts.blendsWindows && m_parts.blendsWindows());
-        popover->popUp();
+        popUp(*popover);
     });
     return indicator;
 }
@@ -198,6 +193,24 @@ void ContentView::offerSetUp()
 CalendarPage& ContentView::page() const
 {
     return *m_pages->currentWidget()->findChild<CalendarPage*>();
+}
+
+template <class Calendar> QWidget* ContentView::makePage()
+{
+    auto* calendar = new Calendar(m_parts.marker, m_parts.settings, m_parts.viewSettings, m_parts.clock);
+    connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
+    return new Page(calendar);
+}
+
+void ContentView::openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell)
+{
+    popUp(*new DayDetails(m_parts.marker, m_parts.history, m_parts.clock, {month, index}, cell));
+}
+
+void ContentView::popUp(Popover& popover)
+{
+    popover.setBlended(m_parts.blendsWindows && m_parts.blendsWindows());
+    popover.popUp();
 }
 
 void ContentView::showDay(QDate date)

@@ -3,11 +3,15 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class AlertCard;
 class CalendarPage;
 class FlatButton;
 class LazyStack;
 class LocationAlert;
+class Month;
+class Popover;
 class QDate;
 class QHBoxLayout;
 class QVBoxLayout;
@@ -58,6 +62,9 @@ private:
     void focusTab(int index);
     void scrollToFocus();
     [[nodiscard]] CalendarPage& page() const;
+    template <class Calendar> [[nodiscard]] QWidget* makePage();
+    void openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
+    void popUp(Popover& popover);
 
     const ViewParts& m_parts;
     TrackingStatus* m_status;
