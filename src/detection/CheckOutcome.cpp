@@ -16,6 +16,8 @@ QString CheckOutcome::text() const
         return tr("An office network is in range. You took back today's mark.");
     case NotInRange:
         return tr("No office network is in range.");
+    case NoNetworkSet:
+        return tr("No office network is set.");
     case Failed:
         return problem;
     case TrackingOff:

@@ -19,6 +19,8 @@ public:
         /// An office network is in range, and a person has taken back today's mark.
         TakenBack,
         NotInRange,
+        /// No office network is in range because there is none in the settings.
+        NoNetworkSet,
         Failed,
         /// Not made, because tracking is off.
         TrackingOff,

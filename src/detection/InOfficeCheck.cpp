@@ -138,6 +138,10 @@ QCoro::Task<CheckOutcome::Kind> InOfficeCheck::detectAndMark(bool markPreviousWo
         co_return CheckOutcome::NotInRange;
     const bool isTakenBack = m_parts.marker.isTakenBack(m_parts.clock.today(), DayState::IN_OFFICE);
     co_return isTakenBack ? CheckOutcome::TakenBack : CheckOutcome::MarkedBefore;
+
+    if (inOfficeNow)
+        co_return CheckOutcome::MarkedBefore;
+    co_return settings.inOfficeSsids.value().isEmpty() ? CheckOutcome::NoNetworkSet : CheckOutcome::NotInRange;
 }
 
 void InOfficeCheck::logProblem(const QString& problem)

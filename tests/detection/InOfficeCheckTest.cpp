@@ -149,6 +149,8 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
                   absent = u"No office network is in range."_s, marked = u"Today was marked as in the office."_s,
                   before = u"An office network is in range. Today is already marked."_s,
                   takenBack = u"An office network is in range. You took back today's mark."_s,
+
+                  unset = u"No office network is set."_s,
                   off = u"Automatic tracking is off, so Pellory did not check."_s;
     const auto answer = [](const QString& text) { return u"Pellory|"_s + text + u"|check-answer|"_s; };
     // What is in range or the matter, whether a person asks, what is posted, and what is kept.
@@ -170,6 +172,8 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         {u"first"_s, true, {}, absent},
         {u"undone"_s, true, answer(takenBack), takenBack},
         {u"marked by hand"_s, true, u"Pellory|You have been marked as in the office today||2026-11-20"_s, marked},
+
+        {u"none"_s, true, answer(unset), unset},
     };
     UndoHistory history(marker);
     const QSignalSpy postponed(&check, &InOfficeCheck::postponed);
@@ -186,6 +190,7 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         }
         settings.notificationsEnabled = matter != u"quiet"_s;
         settings.wifiTrackingEnabled = matter != u"off"_s;
+        settings.inOfficeSsids = matter == u"none"_s ? QStringList() : QStringList(u"Office"_s);
         settings.firstTime = matter == u"not set up"_s;
         posted.clear();
         if (isAsked)
