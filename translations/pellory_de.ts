@@ -230,6 +230,59 @@
     </message>
 </context>
 <context>
+    <name>ChangeText</name>
+    <message>
+        <source>ddd d MMMM</source>
+        <extracomment>A short date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>ddd d. MMMM</translation>
+    </message>
+    <message>
+        <source>ddd d MMMM yyyy</source>
+        <translation>ddd d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1 is %2 again</source>
+        <comment>day and state</comment>
+        <translation>%1 ist wieder „%2“</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>day and state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days: %1</source>
+        <comment>state</comment>
+        <translation>
+            <numerusform>%n Tag: %1</numerusform>
+            <numerusform>%n Tage: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n Tag</numerusform>
+            <numerusform>%n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Marked automatically: %1</source>
+        <translation>Automatisch erfasst: %1</translation>
+    </message>
+    <message>
+        <source>Taken back: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Set again: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Restored: %1</source>
+        <translation>Wiederhergestellt: %1</translation>
+    </message>
+</context>
+<context>
     <name>CheckOutcome</name>
     <message>
         <source>Looking for networks...</source>
@@ -309,6 +362,14 @@
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -613,6 +674,11 @@
         <source>%1: %2</source>
         <comment>gesture and what it does</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo, with %1: Redo</source>
+        <extracomment>%1 is the Shift key.</extracomment>
+        <translation>Rückgängig, mit %1: Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1301,25 @@
     <message>
         <source>Pellory: %1</source>
         <translation>Pellory: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoLine</name>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Es gibt nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Es gibt nichts zu wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "DayMarker.h"
 #include "Labels.h"
 #include "LinkButton.h"
+#include "Month.h"
 #include "MonthCard.h"
 #include "NavigationRow.h"
 #include "StoreError.h"
@@ -164,6 +165,12 @@ bool CalendarPage::isShown(QDate date) const
 {
     const YearMonth month{date.year(), date.month()};
     return isQuarter() ? month.quarter() == m_month.quarter() : month == m_month;
+}
+
+QDate CalendarPage::focusedDate() const
+{
+    const CalendarView* calendar = focusedCalendar();
+    return calendar == nullptr ? QDate() : calendar->month()->dateOf(calendar->focusedDay());
 }
 
 CalendarView& CalendarPage::calendarOf(QDate date) const

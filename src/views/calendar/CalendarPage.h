@@ -21,6 +21,9 @@ class QVBoxLayout;
 
 /// The keys that lead back to today.
 inline constexpr QKeyCombination todayKeys = Qt::CTRL | Qt::Key_Home;
+/// The keys that take back the last change, and bring it back. The desktop may have others for the same.
+inline constexpr QKeyCombination undoKeys = Qt::CTRL | Qt::Key_Z;
+inline constexpr QKeyCombination redoKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_Z;
 
 /// A month or a quarter of the calendar, which can be turned like a page.
 class CalendarPage : public QWidget {
@@ -42,12 +45,16 @@ public:
 
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
+    [[nodiscard]] bool isShown(QDate date) const;
+    /// The day that has the keyboard focus, invalid if none has.
+    [[nodiscard]] QDate focusedDate() const;
 
 Q_SIGNALS:
     /// As CalendarView emits it.
     void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
 
 protected:
+    [[nodiscard]] DayMarker& marker() { return m_marker; }
     /// Adds the parts of the page, from top to bottom. They are hidden while the store cannot be read.
     [[nodiscard]] QVBoxLayout& contents() { return *m_column; }
     /// Makes the buttons turn the page.
@@ -65,7 +72,6 @@ private:
     [[nodiscard]] std::optional<YearMonth> monthBefore() const;
     [[nodiscard]] std::optional<YearMonth> monthAfter() const;
     [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
-    [[nodiscard]] bool isShown(QDate date) const;
     /// The grid of a day that is shown.
     [[nodiscard]] CalendarView& calendarOf(QDate date) const;
     [[nodiscard]] CalendarView* focusedCalendar() const;

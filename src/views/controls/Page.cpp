@@ -32,6 +32,30 @@ Page::Page(QWidget* contents, QWidget* parent)
     // The controls on the page take the focus, not the page.
     setFocusPolicy(Qt::NoFocus);
     qApp->installEventFilter(this);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &Page::applyFootRoom);
+}
+
+void Page::reveal(QWidget& widget)
+{
+    constexpr int surroundings = 50;
+    ensureWidgetVisible(&widget, surroundings, surroundings + m_footRoom);
+}
+
+void Page::setFootRoom(int room)
+{
+    m_footRoom = room;
+    applyFootRoom();
+}
+
+void Page::applyFootRoom()
+{
+    // Room that has been scrolled into stays until it is scrolled out of sight again, or the contents would jump.
+    const QScrollBar& bar = *verticalScrollBar();
+    const int present = widget()->contentsMargins().bottom();
+    const int inUse = bar.value() > 0 ? bar.value() - (bar.maximum() - present) : 0;
+    const int room = qMax(m_footRoom, qMin(inUse, present));
+    if (room != present)
+        widget()->setContentsMargins(0, 0, 0, room);
 }
 
 QSize Page::minimumSizeHint() const
@@ -52,7 +76,7 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         // For people who use the mouse, nothing moves. A window that becomes active stays as it was left.
         if (reason != Qt::MouseFocusReason && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            ensureWidgetVisible(static_cast<QWidget*>(watched));
+            reveal(*static_cast<QWidget*>(watched));
     }
     return QScrollArea::eventFilter(watched, event);
 }

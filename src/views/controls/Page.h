@@ -16,8 +16,18 @@ public:
     /// Large enough for all contents.
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// Scrolls until a widget on the page is in view.
+    void reveal(QWidget& widget);
+    /// Lets the page be scrolled so much further, for what covers its foot. The contents stay where they are.
+    void setFootRoom(int room);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void applyFootRoom();
+
+    int m_footRoom = 0;
 };
 
 /// A page with the contents on a card.

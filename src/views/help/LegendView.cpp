@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LegendView.h"
 
+#include "CalendarPage.h"
 #include "Day.h"
 #include "DaySwatch.h"
 #include "KeyCap.h"
@@ -60,6 +61,9 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
                tr("Menu key or right click"));
     const QString keys = keyText(allDayStates.front()) + u'\u2013' + keyText(allDayStates.back());
     addGesture(*grid, keys, Symbol::Keyboard, tr("Set Status of Focused Day"), tr("Keys %1").arg(keys));
+    const QString undo = QKeySequence(undoKeys).toString(QKeySequence::NativeText);
+    //: %1 is the Shift key.
+    addGesture(*grid, undo, Symbol::Keyboard, tr("Undo, with %1: Redo").arg(keyName(ClickModifier::Shift)), undo);
     rows->setSpokenText(tr("Legend"), m_spoken);
     auto* hoverSwitch = new Switch(tr("Show day status on hover"));
     bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);

@@ -21,6 +21,7 @@
 #include "TrackingIndicator.h"
 #include "TrackingPopover.h"
 #include "TrackingStatus.h"
+#include "UndoLine.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "WindowId.h"
@@ -42,6 +43,20 @@ namespace {
 constexpr int firstTab = 1;
 constexpr int menuGap = 4;
 
+// These, and the others that the desktop has for the same.
+QList<QKeySequence> withDesktopKeys(QKeySequence keys, QKeySequence::StandardKey standard)
+{
+    QList<QKeySequence> all = QKeySequence::keyBindings(standard);
+    all.removeAll(keys);
+    all.prepend(keys);
+    return all;
+}
+
+template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
+{
+    return [&parts] { return new Page(new Calendar(parts.marker, parts.settings, parts.viewSettings, parts.clock)); };
+}
+
 } // namespace
 
 ContentView::ContentView(const ViewParts& parts, QWidget* parent)
@@ -51,6 +66,9 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
     , m_pages(new LazyStack({[this] { return makePage<MonthView>(); }, [this] { return makePage<QuarterView>(); }}))
+
+    , m_pages(new LazyStack({pageOf<MonthView>(parts), pageOf<QuarterView>(parts)}))
+    , m_undoLine(new UndoLine(parts.marker, parts.history, parts.clock, *m_pages))
 {
     m_column->setContentsMargins({});
     m_column->setSpacing(0);
@@ -122,17 +140,21 @@ void ContentView::popUpMenu(FlatButton& button)
     auto* menu = new QMenu(this);
     MenuStyle::apply(*menu);
     connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
-    const auto add = [&](const QString& text, const QKeySequence& keys, auto signal, auto... arguments) {
+    const auto add = [&](const QString& text, const QKeySequence& keys, auto* receiver, auto method,
+                         auto... arguments) {
         QAction* action = menu->addAction(text);
         // The keys themselves are those of the window.
         action->setShortcut(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
-        connect(action, &QAction::triggered, this, [=, this] { Q_EMIT(this->*signal)(arguments...); });
+        connect(action, &QAction::triggered, receiver, [=] { (receiver->*method)(arguments...); });
     };
-    add(tr("Help"), Qt::Key_F1, &ContentView::windowRequested, WindowId::help);
-    add(tr("About Pellory"), {}, &ContentView::windowRequested, WindowId::about);
+    add(tr("Undo"), undoKeys, m_undoLine, &UndoLine::undo);
+    add(tr("Redo"), redoKeys, m_undoLine, &UndoLine::redo);
     menu->addSeparator();
-    add(tr("Quit"), Qt::CTRL | Qt::Key_Q, &ContentView::quitRequested);
+    add(tr("Help"), Qt::Key_F1, this, &ContentView::windowRequested, WindowId::help);
+    add(tr("About Pellory"), {}, this, &ContentView::windowRequested, WindowId::about);
+    menu->addSeparator();
+    add(tr("Quit"), Qt::CTRL | Qt::Key_Q, this, &ContentView::quitRequested);
     const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
     const QRect above = button.rect().adjusted(0, 0, 0, menuGap);
     menu->popup(button.mapToGlobal(isLeftToRight ? above.bottomRight() + QPoint(1 - menu->sizeHint().width(), 0)
@@ -153,6 +175,13 @@ void ContentView::addShortcuts()
     add(Qt::ALT | (isLeftToRight ? Qt::Key_Left : Qt::Key_Right), &CalendarPage::previous);
     add(Qt::ALT | (isLeftToRight ? Qt::Key_Right : Qt::Key_Left), &CalendarPage::next);
     add(todayKeys, &CalendarPage::showToday);
+    const auto addUndo = [this](const QList<QKeySequence>& keys, void (UndoLine::*action)()) {
+        auto* shortcut = new QShortcut(this);
+        shortcut->setKeys(keys);
+        connect(shortcut, &QShortcut::activated, m_undoLine, action);
+    };
+    addUndo(withDesktopKeys(undoKeys, QKeySequence::Undo), &UndoLine::undo);
+    addUndo(withDesktopKeys(redoKeys, QKeySequence::Redo), &UndoLine::redo);
 }
 
 void ContentView::alertIfNeeded()
@@ -233,7 +262,7 @@ void ContentView::scrollToFocus()
         this,
         [this] {
             if (focusWidget() != nullptr)
-                static_cast<Page*>(m_pages->currentWidget())->ensureWidgetVisible(focusWidget());
+                static_cast<Page*>(m_pages->currentWidget())->reveal(*focusWidget());
         },
         Qt::QueuedConnection);
 }

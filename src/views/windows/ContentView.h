@@ -18,6 +18,7 @@ class QVBoxLayout;
 class SaveAlert;
 class SegmentedTabs;
 class TrackingStatus;
+class UndoLine;
 struct ViewParts;
 enum class WindowId;
 
@@ -74,5 +75,6 @@ private:
     AlertCard* m_setUpAlert = nullptr;
     SegmentedTabs* m_tabs;
     LazyStack* m_pages;
+    UndoLine* m_undoLine;
     bool m_painted = false;
 };

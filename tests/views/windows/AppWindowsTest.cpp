@@ -84,7 +84,7 @@ TEST_F(AppWindowsTest, areOpenedOnceAndClosed)
     }
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible), 3);
     const QSignalSpy quit(windows.get(), &AppWindows::quitRequested);
-    for (const auto& keys : {QList{Qt::Key_Up, Qt::Key_Return}, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}}) {
+    for (const auto& keys : {QList{Qt::Key_Up, Qt::Key_Return}, {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return}}) {
         click(named<QWidget>(*shown<ContentView>(), "menu"));
         for (const Qt::Key key : keys)
             press(*QApplication::activePopupWidget(), key);
