@@ -228,6 +228,10 @@
         <source>Show day status on hover</source>
         <translation>Tagesstatus beim Darüberfahren anzeigen</translation>
     </message>
+    <message>
+        <source>Show Unmarked Workdays</source>
+        <translation>Offene Arbeitstage anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>ChangeText</name>
@@ -788,6 +792,39 @@
     <message>
         <source>NetworkManager did not complete the scan. It may have been stopped or restarted.</source>
         <translation>NetworkManager hat die Suche nicht abgeschlossen. Vielleicht wurde er beendet oder neu gestartet.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenDaysLine</name>
+    <message>
+        <source>Review</source>
+        <translation>Durchgehen</translation>
+    </message>
+    <message>
+        <source>1 past workday is unmarked</source>
+        <translation>1 vergangener Arbeitstag ist offen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n past workdays are unmarked</source>
+        <translation>
+            <numerusform>%n vergangener Arbeitstag ist offen</numerusform>
+            <numerusform>%n vergangene Arbeitstage sind offen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>OpenDaysReview</name>
+    <message>
+        <source>Skip This Day</source>
+        <translation>Diesen Tag überspringen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set All %n to %1</source>
+        <extracomment>The number of days, and a state.</extracomment>
+        <translation>
+            <numerusform>Alle %n auf „%1“ setzen</numerusform>
+            <numerusform>Alle %n auf „%1“ setzen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,24 @@ QList<std::shared_ptr<Month>> ModelContext::fetchMonths(int year, int month)
     return fetch(m_tables->months, {" WHERE year = ? AND month = ?", {year, month}, matches});
 }
 
+QDate ModelContext::firstMarkedDay()
+{
+    QDate first;
+    const auto look = [&first](const Month& month) {
+        for (const Day& day : month.days.value()) {
+            const QDate date = month.dateOf(day.id);
+            if (day.isInMonth() && day.state != DayState::UNKNOWN && (!first.isValid() || date < first))
+                first = date;
+        }
+        return first.isValid();
+    };
+    // In the order of the index, so that it usually ends after a row.
+    const std::string firstMarked = R"( WHERE days GLOB '*"state":"[^U]*' ORDER BY year, month LIMIT 1)";
+    for (const auto& month : fetch(m_tables->months, {firstMarked, {}, look}))
+        look(*month);
+    return first;
+}
+
 QList<std::shared_ptr<DayNote>> ModelContext::fetchNotes(QDate from, QDate to)
 {
     const auto stored = [](QDate date) { return std::get<std::int64_t>(toStored(date)); };

@@ -43,6 +43,9 @@ public:
 
     /// The months of a year and month number: none or one, unless the store holds duplicates.
     [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths(int year, int month);
+    /// The first day of all saved months that is not unknown; invalid if there is none. Throws a StoreError if the
+    /// store cannot be read.
+    [[nodiscard]] QDate firstMarkedDay();
 
     /// The notes of the days from one date to another: one a day, unless the store holds duplicates.
     [[nodiscard]] QList<std::shared_ptr<DayNote>> fetchNotes(QDate from, QDate to);

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "CalendarPage.h"
+#include "OpenDays.h"
 
 class AppSettings;
+class OpenDaysLine;
+class OpenDaysReview;
 class TrackerCard;
 class ViewSettings;
 
@@ -19,5 +22,14 @@ protected:
     void showQuarter(const QList<std::shared_ptr<Month>>& months) override;
 
 private:
+    /// Shows or hides the line of the days left open. It is built when there are some.
+    void refreshOpenDays(bool isTurned);
+    void buildOpenDaysLine();
+
+    const ViewSettings& m_viewSettings;
+    OpenDays m_openDays;
+    MonthCard* m_month;
     TrackerCard* m_quarter;
+    OpenDaysLine* m_openDaysLine = nullptr;
+    OpenDaysReview* m_review = nullptr;
 };

@@ -55,6 +55,12 @@ void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
     m_column->insertLayout(0, header);
 }
 
+void TrackerCard::addAboveTracker(QWidget* widget)
+{
+    widget->setFixedWidth(ProgressWidgetView::columnWidth(font()));
+    m_column->insertWidget(m_column->indexOf(m_tracker), widget, 0, Qt::AlignHCenter);
+}
+
 void TrackerCard::addBelowTracker(QWidget* widget)
 {
     m_column->addWidget(widget);

@@ -24,6 +24,8 @@ public:
                 const QProperty<bool>& isTrackerShown, QWidget* parent = nullptr);
 
     void setMonths(const QList<std::shared_ptr<Month>>& months);
+    /// Adds a line that begins and ends where the tracker does.
+    void addAboveTracker(QWidget* widget);
 
 protected:
     /// Adds what names the period above the tracker, and the navigation, if there is one, above that.

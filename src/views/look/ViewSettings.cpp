@@ -13,6 +13,7 @@ ViewSettings::ViewSettings(QSettings& settings)
     persist(showMonthStats, u"calendarViewShowMonthStats"_s);
     persist(showWillBeInOfficeStats, u"calendarViewShowWillBeInOfficeStats"_s);
     persist(showStatusLabelOnHover, u"calendarViewShowStatusLabelOnHover"_s);
+    persist(showUnmarkedWorkdays, u"calendarViewShowUnmarkedWorkdays"_s);
     persist(selectedTab, u"contentViewSelectedTab"_s);
 }
 

@@ -15,6 +15,7 @@ public:
     QProperty<bool> showMonthStats{true};
     QProperty<bool> showWillBeInOfficeStats{true};
     QProperty<bool> showStatusLabelOnHover{true};
+    QProperty<bool> showUnmarkedWorkdays{true};
     /// 1 is "Month", 2 is "Quarter".
     QProperty<int> selectedTab{1};
 

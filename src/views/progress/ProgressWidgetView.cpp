@@ -37,11 +37,6 @@ std::optional<double> predictedAverage(const AttendanceStatistics& statistics)
     return std::isfinite(prediction) && prediction > statistics.average ? std::optional(prediction) : std::nullopt;
 }
 
-int columnWidth(const QFont& font)
-{
-    return qMin(fonts::grown(usualColumnWidth, font), widestContents() - fonts::grown(usualRoomForCaptions, font));
-}
-
 QString captionOf(const ValuedGoal& goal)
 {
     return goal.goal->desc.value().isEmpty() ? goalValueText(goal.value) : goal.goal->desc;
@@ -81,6 +76,11 @@ ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSe
     column->addWidget(m_goal, 0, Qt::AlignHCenter);
     column->addWidget(m_bar);
     onChange(m_contents, this, [this] { refresh(); });
+}
+
+int ProgressWidgetView::columnWidth(const QFont& font)
+{
+    return qMin(fonts::grown(usualColumnWidth, font), widestContents() - fonts::grown(usualRoomForCaptions, font));
 }
 
 void ProgressWidgetView::setMonths(const QList<std::shared_ptr<Month>>& months)

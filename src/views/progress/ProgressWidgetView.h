@@ -23,6 +23,9 @@ public:
     ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
                        QWidget* parent = nullptr);
 
+    /// The width of texts and bar.
+    [[nodiscard]] static int columnWidth(const QFont& font);
+
     void setMonths(const QList<std::shared_ptr<Month>>& months);
 
 protected:

@@ -22,4 +22,5 @@ CalendarViewSettingsView::CalendarViewSettingsView(ViewSettings& settings, QWidg
     add(tr("Show Month Stats"), settings.showMonthStats);
     add(tr("Show \"Will be In Office\" in Progress Tracker"), settings.showWillBeInOfficeStats);
     add(tr("Show day status on hover"), settings.showStatusLabelOnHover);
+    add(tr("Show Unmarked Workdays"), settings.showUnmarkedWorkdays);
 }

@@ -165,6 +165,7 @@ TEST_F(AppWindowsTest, switchesAreTheSameInEveryWindowAndStoredAtOnce)
         {u"Show Month Stats"_s, u"MonthStats"_s},
         {u"Show \"Will be In Office\" in Progress Tracker"_s, u"WillBeInOfficeStats"_s},
         {u"Show day status on hover"_s, u"StatusLabelOnHover"_s},
+        {u"Show Unmarked Workdays"_s, u"UnmarkedWorkdays"_s},
     };
     qsizetype changed = 0;
     for (const auto& [text, key] : rows) {
@@ -176,7 +177,7 @@ TEST_F(AppWindowsTest, switchesAreTheSameInEveryWindowAndStoredAtOnce)
     EXPECT_FALSE(ViewSettings(stored).showMonthStats);
     click(*shown<HelpView>()->findChild<Switch*>());
     EXPECT_TRUE(viewSettings.showStatusLabelOnHover);
-    EXPECT_TRUE(switches.last()->isChecked());
+    EXPECT_TRUE(switches.at(4)->isChecked());
 }
 
 TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
