@@ -275,7 +275,7 @@
     </message>
     <message>
         <source>Taken back: %1</source>
-        <translation>Rückgängig gemacht: %1</translation>
+        <translation>Zurückgenommen: %1</translation>
     </message>
     <message>
         <source>Set again: %1</source>

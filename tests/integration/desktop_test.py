@@ -199,6 +199,9 @@ class DesktopTest(unittest.TestCase):
         self.press(quarter.name, "Tracking Off", then="Last check")
         self.hear(quarter.name, "Tracking Off Wi-Fi: ")
         key("Escape")
+        self.assertEqual([text for text in self.spoken if ": Vacation Day" in text], [])  # which the day has said
+        key("ctrl+z")
+        self.hear("Taken back: ")
         self.press("Help", then=lambda: self.hear("Legend: Unknown: Ctrl with a click, or key 1. In the"))
         self.press("Settings", "Add Goal", then=lambda: self.hear("Input must be a number between 0.0 and 7.0"))
         self.press("Office Networks", "Enable Automatic Tracking", then=lambda: self.hear("but Wi-Fi is turned off."))
