@@ -4,18 +4,17 @@
 #include "Fonts.h"
 #include "Outline.h"
 #include "ReturnKey.h"
+#include "SymbolLabel.h"
 #include "Theme.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyle>
 
 namespace {
 
 constexpr QMargins buttonPadding(16, 8, 16, 8);
 constexpr qreal buttonRadius = 8.0;
 constexpr int usualButtonSymbolSize = 14;
-constexpr int buttonSymbolGap = 6;
 
 } // namespace
 
@@ -42,15 +41,14 @@ void Button::setSymbol(std::optional<Symbol> symbol)
     update();
 }
 
-int Button::symbolRoom() const
+SymbolLabel Button::label() const
 {
-    return m_symbol ? fonts::grown(usualButtonSymbolSize, font()) + buttonSymbolGap : 0;
+    return {text(), m_symbol, fonts::grown(usualButtonSymbolSize, font())};
 }
 
 QSize Button::sizeHint() const
 {
-    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return words.grownBy(buttonPadding).grownBy({symbolRoom(), 0, 0, 0});
+    return label().size(fontMetrics()).grownBy(buttonPadding);
 }
 
 void Button::focusInEvent(QFocusEvent* event)
@@ -82,23 +80,10 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     if (isFilled)
         drawOutline(painter, area, buttonRadius, theme);
     painter.setPen(isFilled ? QColor(Qt::white) : isEnabled() ? theme.text : theme.disabledText);
-    paintLabel(painter, rect());
+    label().paint(painter, rect(), layoutDirection());
     // Inside, so that a button ends where its neighbours above and below do.
     if (isFilled)
         m_focusVisible.drawRing(painter, *this, area.adjusted(3, 3, -3, -3), buttonRadius - 3, Qt::white);
     else
         m_focusVisible.drawRing(painter, *this, area.adjusted(1, 1, -1, -1), buttonRadius);
-}
-
-void Button::paintLabel(QPainter& painter, const QRect& area) const
-{
-    const int room = symbolRoom();
-    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, text());
-    const QRect whole = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, words.grownBy({room, 0, 0, 0}), area);
-    painter.drawText(QStyle::visualRect(layoutDirection(), whole, whole.adjusted(room, 0, 0, 0)),
-                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
-    const QSize symbol(room - buttonSymbolGap, room - buttonSymbolGap);
-    if (m_symbol)
-        drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, whole),
-                   *m_symbol, painter.pen().color());
 }

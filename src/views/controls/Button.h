@@ -8,6 +8,8 @@
 
 #include <optional>
 
+struct SymbolLabel;
+
 /// A push button in the program's look. Default and prominent buttons are filled.
 class Button : public QPushButton {
     Q_OBJECT
@@ -28,9 +30,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void paintLabel(QPainter& painter, const QRect& area) const;
-    /// The width of the symbol and its distance from the text.
-    [[nodiscard]] int symbolRoom() const;
+    [[nodiscard]] SymbolLabel label() const;
 
     std::optional<Symbol> m_symbol;
     bool m_prominent = false;

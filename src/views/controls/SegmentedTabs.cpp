@@ -2,11 +2,11 @@
 #include "SegmentedTabs.h"
 
 #include "Fonts.h"
+#include "SymbolLabel.h"
 #include "Theme.h"
 #include "WindowSize.h"
 
 #include <QPainter>
-#include <QStyle>
 #include <QWheelEvent>
 
 namespace {
@@ -14,7 +14,6 @@ namespace {
 constexpr qreal segmentRadius = 7.0;
 constexpr int segmentGap = 3;
 constexpr int usualTabSymbolSize = 16;
-constexpr int tabSymbolGap = 6;
 
 QFont selectedFont(const QWidget& tabs)
 {
@@ -43,9 +42,11 @@ void SegmentedTabs::addTab(Symbol symbol, const QString& text)
     setTabText(index, text); // which also measures the tab
 }
 
-int SegmentedTabs::symbolRoom(int index) const
+SymbolLabel SegmentedTabs::label(int index) const
 {
-    return tabData(index).isValid() ? fonts::grown(usualTabSymbolSize, font()) + tabSymbolGap : 0;
+    const QVariant symbol = tabData(index);
+    return {tabText(index), symbol.isValid() ? std::optional(Symbol(symbol.toInt())) : std::nullopt,
+            fonts::grown(usualTabSymbolSize, font())};
 }
 
 QSize SegmentedTabs::tabSizeHint(int index) const
@@ -54,7 +55,7 @@ QSize SegmentedTabs::tabSizeHint(int index) const
     const auto size = [&](int tab) {
         // A symbol brings some air of its own.
         const int side = tabData(tab).isValid() ? 12 : 22;
-        return metrics.size(Qt::TextShowMnemonic, tabText(tab)).grownBy({side + symbolRoom(tab), 8, side, 8});
+        return label(tab).size(metrics).grownBy({side, 8, side, 8});
     };
     QSize widest;
     for (int i = 0; i < count(); ++i)
@@ -93,22 +94,8 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
         painter.setFont(isCurrent ? selectedFont(*this) : font());
-        paintTab(painter, i, segment.toRect());
+        label(i).paint(painter, segment.toRect(), layoutDirection());
     }
-}
-
-void SegmentedTabs::paintTab(QPainter& painter, int index, const QRect& segment) const
-{
-    const int room = symbolRoom(index);
-    const QSize text = painter.fontMetrics().size(Qt::TextShowMnemonic, tabText(index));
-    const QRect whole = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, text.grownBy({room, 0, 0, 0}), segment);
-    painter.drawText(QStyle::visualRect(layoutDirection(), whole, whole.adjusted(room, 0, 0, 0)),
-                     Qt::AlignCenter | Qt::TextShowMnemonic, tabText(index));
-    if (room == 0)
-        return;
-    const QSize symbol(room - tabSymbolGap, room - tabSymbolGap);
-    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, whole),
-               Symbol(tabData(index).toInt()), painter.pen().color());
 }
 
 void SegmentedTabs::wheelEvent(QWheelEvent* event)

@@ -6,6 +6,8 @@
 
 #include <QTabBar>
 
+struct SymbolLabel;
+
 /// A tab bar drawn as a segmented control. Keys and accessibility are those of a tab bar.
 class SegmentedTabs : public QTabBar {
     Q_OBJECT
@@ -26,9 +28,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void paintTab(QPainter& painter, int index, const QRect& segment) const;
-    /// The width of the symbol of a tab and its distance from the text.
-    [[nodiscard]] int symbolRoom(int index) const;
+    [[nodiscard]] SymbolLabel label(int index) const;
 
     FocusVisible m_focusVisible;
 };
