@@ -83,9 +83,7 @@ private:
 
     ModelContext& m_context;
     const Clock& m_clock;
-    /// The last change of a single day that was recorded. Its group is the last of all; 0 before the first.
-
     DayNotes m_notes;
-    /// The last change that was recorded; its group is 0 before the first.
+    /// The last change of a single day that was recorded. Its group is the last of all; 0 before the first.
     DayChange m_last;
 };

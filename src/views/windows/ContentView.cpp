@@ -52,11 +52,6 @@ QList<QKeySequence> withDesktopKeys(QKeySequence keys, QKeySequence::StandardKey
     return all;
 }
 
-template <class Calendar> LazyStack::PageBuilder pageOf(const ViewParts& parts)
-{
-    return [&parts] { return new Page(new Calendar(parts.marker, parts.settings, parts.viewSettings, parts.clock)); };
-}
-
 } // namespace
 
 ContentView::ContentView(const ViewParts& parts, QWidget* parent)
@@ -66,8 +61,6 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
     , m_pages(new LazyStack({[this] { return makePage<MonthView>(); }, [this] { return makePage<QuarterView>(); }}))
-
-    , m_pages(new LazyStack({pageOf<MonthView>(parts), pageOf<QuarterView>(parts)}))
     , m_undoLine(new UndoLine(parts.marker, parts.history, parts.clock, *m_pages))
 {
     m_column->setContentsMargins({});
