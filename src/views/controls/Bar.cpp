@@ -4,6 +4,7 @@
 #include "Theme.h"
 
 #include <QPainter>
+#include <QStyle>
 
 Bar::Bar(Qt::Edge border, QWidget* parent)
     : QWidget(parent)
@@ -16,5 +17,20 @@ void Bar::paintEvent(QPaintEvent* /*event*/)
     const Theme& theme = themeFor(palette());
     QPainter painter(this);
     painter.fillRect(rect(), theme.card);
-    painter.fillRect(0, m_border == Qt::TopEdge ? 0 : height() - 1, width(), 1, theme.border);
+    QRect line = rect();
+    switch (m_border) {
+    case Qt::TopEdge:
+        line.setHeight(1);
+        break;
+    case Qt::BottomEdge:
+        line.setTop(line.bottom());
+        break;
+    case Qt::LeftEdge:
+        line.setWidth(1);
+        break;
+    case Qt::RightEdge:
+        line.setLeft(line.right());
+        break;
+    }
+    painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), theme.border);
 }

@@ -8,7 +8,8 @@ class Bar : public QWidget {
     Q_OBJECT
 
 public:
-    /// Draws a line along `border`, the edge towards the rest of the window.
+    /// Draws a line along `border`, the edge towards the rest of the window. Left and right are swapped in
+    /// right-to-left layouts.
     explicit Bar(Qt::Edge border, QWidget* parent = nullptr);
 
 protected:

@@ -145,6 +145,24 @@ QPainterPath menu()
     return path;
 }
 
+QPainterPath target()
+{
+    constexpr QPointF centre(8.0, 8.0);
+    QPainterPath path;
+    for (const qreal radius : {6.6, 3.5, 0.35})
+        path.addEllipse(centre, radius, radius);
+    return path;
+}
+
+QPainterPath drawer()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(1.6, 2.4, 12.8, 4.2), 1.2, 1.2);
+    path.addPath(line({{2.8, 6.6}, {2.8, 13.6}, {13.2, 13.6}, {13.2, 6.6}}));
+    path.addPath(line({{6.4, 9.4}, {9.6, 9.4}}));
+    return path;
+}
+
 QPainterPath strokesOf(Symbol symbol)
 {
     switch (symbol) {
@@ -182,6 +200,10 @@ QPainterPath strokesOf(Symbol symbol)
         return keyboard();
     case Symbol::Menu:
         return menu();
+    case Symbol::Target:
+        return target();
+    case Symbol::Drawer:
+        return drawer();
     }
     Q_UNREACHABLE();
 }

@@ -24,6 +24,8 @@ enum class Symbol {
     RightClick,
     Keyboard,
     Menu,
+    Target,
+    Drawer,
 };
 
 /// Draws a symbol in a square area.

@@ -10,16 +10,19 @@
 #include "LazyStack.h"
 #include "LocationManager.h"
 #include "Page.h"
-#include "SegmentedTabs.h"
+#include "SideTabs.h"
 #include "SsidSettingsView.h"
 
 #include <QFocusEvent>
 #include <QLabel>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr QMargins sideMargins(8, 12, 9, 12);
 
 class LinkLabel : public QLabel {
 protected:
@@ -38,21 +41,68 @@ protected:
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
                            InOfficeCheck& check, LaunchAtLogin& launchAtLogin, QWidget* parent)
     : QWidget(parent)
+    , m_tabs(new SideTabs)
+    , m_pages(new LazyStack({
+          [&settings] { return makeCardPage(new DaysPerWeekGoalView(settings, true)); },
+          [&settings, &wifiClient, &locationManager, &check] {
+              return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
+          },
+          [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
+      }))
 {
-    auto* pages = new LazyStack({
-        [&settings] { return makeCardPage(new DaysPerWeekGoalView(settings, true)); },
-        [&settings, &wifiClient, &locationManager, &check] {
-            return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
-        },
-        [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
-    });
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins({});
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins({});
+    row->setSpacing(0);
+    row->addWidget(makeSide());
+    auto* column = new QVBoxLayout;
     column->setSpacing(0);
-    column->addWidget(makeHeader(pages));
     addLocationLine(*column, locationManager);
-    column->addWidget(pages);
-    pages->showPage(0);
+    column->addWidget(m_pages);
+    row->addLayout(column, 1);
+    addShortcuts();
+    showPage(0);
+}
+
+QWidget* SettingsView::makeSide()
+{
+    m_tabs->setObjectName("tabs"_L1);
+    m_tabs->setAccessibleName(tr("Settings page"));
+    m_tabs->addTab(Symbol::Target, tr("Goals"));
+    m_tabs->addTab(Symbol::Wifi, tr("Office Networks"));
+    m_tabs->addTab(Symbol::Gear, tr("General"));
+    connect(m_tabs, &QTabBar::currentChanged, this, &SettingsView::showPage);
+    auto* side = new Bar(Qt::RightEdge);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(sideMargins);
+    column->addWidget(m_tabs);
+    column->addStretch();
+    return side;
+}
+
+void SettingsView::addShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, int step) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, m_tabs, [this, step] {
+            m_tabs->setCurrentIndex((m_tabs->currentIndex() + step + m_tabs->count()) % m_tabs->count());
+        });
+    };
+    add(Qt::CTRL | Qt::Key_PageDown, 1);
+    add(Qt::CTRL | Qt::Key_Tab, 1);
+    add(Qt::CTRL | Qt::Key_PageUp, -1);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
+}
+
+void SettingsView::showPage(int index)
+{
+    m_pages->showPage(index);
+    arrange();
+}
+
+// On a small screen the pages need the room of the names.
+void SettingsView::arrange()
+{
+    const int side = m_tabs->widthWithNames() + sideMargins.left() + sideMargins.right();
+    m_tabs->setNamesShown(width() >= side + m_pages->minimumSizeHint().width());
 }
 
 bool SettingsView::focusNextPrevChild(bool next)
@@ -60,20 +110,10 @@ bool SettingsView::focusNextPrevChild(bool next)
     return moveFocus(*this, next);
 }
 
-QWidget* SettingsView::makeHeader(LazyStack* pages)
+void SettingsView::resizeEvent(QResizeEvent* event)
 {
-    auto* tabs = new SegmentedTabs;
-    tabs->setObjectName("tabs"_L1);
-    tabs->setAccessibleName(tr("Settings page"));
-    tabs->addTab(tr("Goals"));
-    tabs->addTab(tr("Office Networks"));
-    tabs->addTab(tr("General"));
-    connect(tabs, &QTabBar::currentChanged, pages, &LazyStack::showPage);
-    auto* header = new Bar(Qt::BottomEdge);
-    auto* row = new QHBoxLayout(header);
-    row->setContentsMargins(24, 8, 24, 9);
-    row->addWidget(tabs, 0, Qt::AlignCenter);
-    return header;
+    arrange();
+    QWidget::resizeEvent(event);
 }
 
 void SettingsView::addLocationLine(QVBoxLayout& column, LocationManager& manager)

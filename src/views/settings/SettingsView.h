@@ -9,9 +9,10 @@ class LaunchAtLogin;
 class LazyStack;
 class LocationManager;
 class QVBoxLayout;
+class SideTabs;
 class WiFiClient;
 
-/// The settings, on three pages.
+/// The settings: a list of pages at the side, of which one is shown.
 class SettingsView : public QWidget {
     Q_OBJECT
 
@@ -24,9 +25,16 @@ Q_SIGNALS:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    [[nodiscard]] QWidget* makeHeader(LazyStack* pages);
+    [[nodiscard]] QWidget* makeSide();
+    void addShortcuts();
+    void showPage(int index);
+    void arrange();
     void addLocationLine(QVBoxLayout& column, LocationManager& manager);
     [[nodiscard]] QWidget* makeGeneralPage(AppSettings& settings, LaunchAtLogin& launchAtLogin);
+
+    SideTabs* m_tabs;
+    LazyStack* m_pages;
 };

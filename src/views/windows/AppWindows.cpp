@@ -35,7 +35,7 @@ namespace {
 
 // In the usual font, with which they grow.
 constexpr QSize firstMainSize(534, 860);
-constexpr QSize firstSettingsSize(560, 660);
+constexpr QSize firstSettingsSize(740, 660);
 constexpr QSize firstAboutSize(420, 210);
 
 QSize grown(QSize size, const QFont& font)
