@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -23,12 +22,7 @@ Page::Page(QWidget* contents, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setWidget(contents);
-    auto* barStyle = new ThinScrollBarStyle;
-    barStyle->setParent(this);
-    for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
-        bar->setStyle(barStyle);
-        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    }
+    ThinScrollBarStyle::applyTo(*this);
     // The controls on the page take the focus, not the page.
     setFocusPolicy(Qt::NoFocus);
     qApp->installEventFilter(this);

@@ -3,8 +3,20 @@
 
 #include "Theme.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleOptionSlider>
+
+void ThinScrollBarStyle::applyTo(QAbstractScrollArea& area)
+{
+    auto* style = new ThinScrollBarStyle;
+    style->setParent(&area);
+    for (QScrollBar* bar : {area.horizontalScrollBar(), area.verticalScrollBar()}) {
+        bar->setStyle(style);
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    }
+}
 
 int ThinScrollBarStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
