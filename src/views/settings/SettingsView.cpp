@@ -2,6 +2,7 @@
 #include "SettingsView.h"
 
 #include "Bar.h"
+#include "DataPage.h"
 #include "DaysPerWeekGoalView.h"
 #include "FocusOrder.h"
 #include "Follow.h"
@@ -39,7 +40,8 @@ protected:
 } // namespace
 
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
-                           InOfficeCheck& check, LaunchAtLogin& launchAtLogin, QWidget* parent)
+                           InOfficeCheck& check, LaunchAtLogin& launchAtLogin, BackupService& backups,
+                           ModelContext& context, QWidget* parent)
     : QWidget(parent)
     , m_tabs(new SideTabs)
     , m_pages(new LazyStack({
@@ -48,6 +50,7 @@ SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, Locati
               return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
           },
           [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
+          [&backups, &context] { return new DataPage(backups, context); },
       }))
 {
     auto* row = new QHBoxLayout(this);
@@ -70,6 +73,7 @@ QWidget* SettingsView::makeSide()
     m_tabs->addTab(Symbol::Target, tr("Goals"));
     m_tabs->addTab(Symbol::Wifi, tr("Office Networks"));
     m_tabs->addTab(Symbol::Gear, tr("General"));
+    m_tabs->addTab(Symbol::Drawer, tr("Data"));
     connect(m_tabs, &QTabBar::currentChanged, this, &SettingsView::showPage);
     auto* side = new Bar(Qt::RightEdge);
     auto* column = new QVBoxLayout(side);

@@ -4,10 +4,12 @@
 #include <QWidget>
 
 class AppSettings;
+class BackupService;
 class InOfficeCheck;
 class LaunchAtLogin;
 class LazyStack;
 class LocationManager;
+class ModelContext;
 class QVBoxLayout;
 class SideTabs;
 class WiFiClient;
@@ -18,7 +20,8 @@ class SettingsView : public QWidget {
 
 public:
     SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager, InOfficeCheck& check,
-                 LaunchAtLogin& launchAtLogin, QWidget* parent = nullptr);
+                 LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context,
+                 QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void welcomeRequested();

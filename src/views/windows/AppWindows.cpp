@@ -217,7 +217,7 @@ QWidget* AppWindows::makeWindow(WindowId id)
 QWidget* AppWindows::makeSettings()
 {
     auto* window = new SettingsView(m_parts.settings, m_parts.wifiClient, m_parts.locationManager.defaultValue(),
-                                    m_parts.check, m_parts.launchAtLogin);
+                                    m_parts.check, m_parts.launchAtLogin, m_parts.backups, m_parts.context);
     prepare(*window, u"settings"_s, tr("Settings"), grown(firstSettingsSize, window->font()));
     connect(window, &SettingsView::welcomeRequested, this, [this, window] {
         openWelcome();

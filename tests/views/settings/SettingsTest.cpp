@@ -45,7 +45,7 @@ protected:
     }
     [[nodiscard]] QStringList networks() const { return settings->inOfficeSsids.value(); }
 
-    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin};
+    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context};
 };
 
 TEST_F(SettingsTest, aGoalIsAddedByReturnAndByTheButton)
