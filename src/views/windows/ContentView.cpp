@@ -2,6 +2,8 @@
 #include "ContentView.h"
 
 #include "AppSettings.h"
+#include "BackupAlert.h"
+#include "BackupService.h"
 #include "Bar.h"
 #include "Button.h"
 #include "DayDetails.h"
@@ -72,6 +74,7 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     connect(this, &ContentView::painted, m_status, &TrackingStatus::startMonitoring);
     connect(m_status, &TrackingStatus::changed, this, &ContentView::alertIfNeeded);
     follow(parts.context.saveState(), this, [this] { alertIfUnsaved(); });
+    follow(parts.backups.problem(), this, [this] { alertIfNotBackedUp(); });
 
     m_tabs->setCurrentIndex(std::clamp(parts.viewSettings.selectedTab - firstTab, 0, m_tabs->count() - 1));
     showTab(m_tabs->currentIndex());
@@ -194,6 +197,14 @@ void ContentView::alertIfUnsaved()
     connect(m_saveAlert, &SaveAlert::reloadRequested, this, &ContentView::reloadRequested);
     // Below the page: a click brings it up, and the next one may be meant for the same day.
     m_column->addWidget(m_saveAlert);
+}
+
+void ContentView::alertIfNotBackedUp()
+{
+    if (m_backupAlert != nullptr || m_parts.backups.problem().value().isEmpty())
+        return;
+    m_backupAlert = new BackupAlert(m_parts.backups, this);
+    m_column->addWidget(m_backupAlert);
 }
 
 void ContentView::offerSetUp()

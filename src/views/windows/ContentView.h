@@ -6,6 +6,7 @@
 #include <memory>
 
 class AlertCard;
+class BackupAlert;
 class CalendarPage;
 class FlatButton;
 class LazyStack;
@@ -59,6 +60,7 @@ private:
     void addShortcuts();
     void alertIfNeeded();
     void alertIfUnsaved();
+    void alertIfNotBackedUp();
     void showTab(int index);
     void focusTab(int index);
     void scrollToFocus();
@@ -73,6 +75,7 @@ private:
     LocationAlert* m_alert = nullptr;
     SaveAlert* m_saveAlert = nullptr;
     AlertCard* m_setUpAlert = nullptr;
+    BackupAlert* m_backupAlert = nullptr;
     SegmentedTabs* m_tabs;
     LazyStack* m_pages;
     UndoLine* m_undoLine;
