@@ -4,6 +4,7 @@
 #include "Alerts.h"
 #include "AppSettings.h"
 #include "InOfficeCheck.h"
+#include "LostStore.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "StoreError.h"
@@ -73,6 +74,8 @@ void PelloryApp::lockStore()
 void PelloryApp::openStore()
 {
     const QFileInfo file(m_storeFile);
+    if (!file.exists())
+        m_lostStore = LostStore::Missing;
     if (file.exists() && !file.isReadable()) {
         m_alerts.showCritical(tr("Fatal Error"),
                               tr("Cannot read app swift data store. You do not have read permissions on %1. Fix the "
@@ -138,6 +141,7 @@ void PelloryApp::offerToDelete(const StoreError& reason)
         return;
     try {
         removeStoreFile(m_storeFile);
+        m_lostStore = LostStore::Deleted;
     } catch (const StoreError& error) {
         m_alerts.showCritical(tr("Fatal Error"), tr("Could not remove app data store: %1").arg(error.description()));
         throw FatalStop(u"Could not remove app data store: "_s + error.description());

@@ -14,6 +14,7 @@ class Alerts;
 class AppSettings;
 class ModelContainer;
 class StoreError;
+enum class LostStore;
 
 /// The program cannot start, and the person has been told why.
 class FatalStop : public std::runtime_error {
@@ -40,6 +41,8 @@ public:
 
     [[nodiscard]] ModelContainer& container() { return *m_container; }
     [[nodiscard]] AppSettings& settings() { return *m_settings; }
+    /// Why the store is new, if it is.
+    [[nodiscard]] std::optional<LostStore> lostStore() const { return m_lostStore; }
 
 private:
     void createFolder();
@@ -55,6 +58,7 @@ private:
     QString m_storeFile;
     std::chrono::milliseconds m_lockTimeout;
     StoreLock m_lock;
+    std::optional<LostStore> m_lostStore;
     std::unique_ptr<ModelContainer> m_container;
     std::shared_ptr<AppSettings> m_settings;
 };

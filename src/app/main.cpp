@@ -141,6 +141,8 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     QObject::connect(&platform.systemSettings, &SystemSettings::cannotOpen, &windows, [&alerts](const QString& advice) {
         alerts.showCritical(QApplication::translate("main", "Location Settings"), advice);
     });
+    if (const auto lost = pellory.lostStore())
+        windows.offerBackup(*lost);
     openFirstWindow(windows, background, backups, platform, mode);
     return QApplication::exec();
 }

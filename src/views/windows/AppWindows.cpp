@@ -5,12 +5,14 @@
 #include "Accessibility.h"
 #include "AppIcon.h"
 #include "AppSettings.h"
+#include "BackupService.h"
 #include "CalendarViewSettingsView.h"
 #include "ContentView.h"
 #include "Fonts.h"
 #include "HelpView.h"
 #include "InOfficeCheck.h"
 #include "LocationManager.h"
+#include "LostStore.h"
 #include "Page.h"
 #include "SettingsView.h"
 #include "ViewParts.h"
@@ -86,6 +88,7 @@ AppWindows::AppWindows(const ViewParts& parts)
     : m_parts(parts)
 {
     connect(&parts.check, &InOfficeCheck::postponed, this, &AppWindows::explainPostponedCheck);
+    connect(&m_finding, &QFutureWatcherBase::finished, this, &AppWindows::showOffer);
 }
 
 AppWindows::~AppWindows()
@@ -136,9 +139,33 @@ void AppWindows::makeMain()
     connect(m_main, &ContentView::painted, this, &AppWindows::mainPainted);
     // The icon can wait until the window is visible.
     connect(m_main, &ContentView::painted, this, [] { QApplication::setWindowIcon(appIcon()); });
+    connect(m_main, &ContentView::painted, this, &AppWindows::findBackup);
+    connect(m_main, &ContentView::backupDeclined, this, &AppWindows::beginFirstRun);
+}
+
+void AppWindows::findBackup()
+{
+    if (m_lostStore && !m_parts.backups.folder().backups().isEmpty())
+        m_finding.setFuture(m_parts.backups.findNewestSound());
+    else
+        beginFirstRun();
+}
+
+void AppWindows::showOffer()
+{
+    const std::optional<BackupFile> found = m_finding.result();
+    if (!found)
+        beginFirstRun();
+    else if (m_main)
+        m_main->offerBackup(*m_lostStore, *found);
+}
+
+void AppWindows::beginFirstRun()
+{
+    m_lostStore.reset();
     // Until it is completed, the first run starts over with each main window.
-    if (m_parts.settings.firstTime)
-        connect(m_main, &ContentView::painted, this, &AppWindows::openWelcome);
+    if (m_parts.settings.firstTime && m_main)
+        openWelcome();
 }
 
 void AppWindows::open(WindowId id)

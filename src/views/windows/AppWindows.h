@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BackupFolder.h"
+
 #include <QDate>
+#include <QFutureWatcher>
 #include <QObject>
 #include <QPointer>
 
 #include <map>
+#include <optional>
 
 class ContentView;
 class WelcomeView;
 struct ViewParts;
+enum class LostStore;
 enum class WindowId;
 
 /// Opens the windows of the program. Each is built when it is first opened, and deleted when it is closed.
@@ -29,6 +34,9 @@ public:
     void open(WindowId id);
     /// Starts the first run, over the main window.
     void openWelcome();
+    /// To be called before the first window is opened, if the store is new. If there is a sound backup, the main window
+    /// offers it before the first run starts.
+    void offerBackup(LostStore how) { m_lostStore = how; }
 
 Q_SIGNALS:
     /// The contents of a main window have been drawn for the first time.
@@ -45,6 +53,9 @@ protected:
 private:
     void makeMain();
     void makeWelcome();
+    void beginFirstRun();
+    void findBackup();
+    void showOffer();
     void explainPostponedCheck();
     [[nodiscard]] QWidget* makeWindow(WindowId id);
     [[nodiscard]] QWidget* makeSettings();
@@ -57,4 +68,7 @@ private:
     QPointer<WelcomeView> m_welcome;
     std::map<WindowId, QPointer<QWidget>> m_others;
     QList<QWidget*> m_open;
+    /// Until a person has decided about a backup.
+    std::optional<LostStore> m_lostStore;
+    QFutureWatcher<std::optional<BackupFile>> m_finding;
 };

@@ -13,6 +13,7 @@
 #include "LazyStack.h"
 #include "LocationAlert.h"
 #include "LocationManager.h"
+#include "LostDataAlert.h"
 #include "MenuStyle.h"
 #include "ModelContext.h"
 #include "MonthView.h"
@@ -205,6 +206,13 @@ void ContentView::alertIfNotBackedUp()
         return;
     m_backupAlert = new BackupAlert(m_parts.backups, this);
     m_column->addWidget(m_backupAlert);
+}
+
+void ContentView::offerBackup(LostStore how, const BackupFile& backup)
+{
+    auto* alert = new LostDataAlert(m_parts.backups, how, backup, this);
+    connect(alert, &LostDataAlert::declined, this, &ContentView::backupDeclined);
+    m_column->addWidget(alert);
 }
 
 void ContentView::offerSetUp()

@@ -20,7 +20,10 @@ class SaveAlert;
 class SegmentedTabs;
 class TrackingStatus;
 class UndoLine;
+
+struct BackupFile;
 struct ViewParts;
+enum class LostStore;
 enum class WindowId;
 
 /// The contents of the main window: header, alerts, and the month or the quarter.
@@ -35,6 +38,8 @@ public:
     void showToday();
     /// Shows a card that offers to finish the first run, until it is complete.
     void offerSetUp();
+    /// Shows a card that offers a backup in the place of a store that was lost.
+    void offerBackup(LostStore how, const BackupFile& backup);
 
 Q_SIGNALS:
     /// A button of the toolbar was pressed.
@@ -44,6 +49,8 @@ Q_SIGNALS:
     void quitRequested();
     /// The file on disk is to be used instead of what is shown.
     void reloadRequested();
+    /// The backup that was offered is not wanted.
+    void backupDeclined();
     /// The contents have been drawn for the first time.
     void painted();
 
