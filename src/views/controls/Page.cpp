@@ -5,6 +5,7 @@
 #include "ThinScrollBarStyle.h"
 #include "WindowSize.h"
 
+#include <QScrollBar>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QVBoxLayout>
