@@ -41,12 +41,15 @@ Value readField(const SQLite::Column& field, ColumnType type)
 
 } // namespace
 
+// Each constraint is checked for each row when a store is opened. A large table does without, since its checksums show
+// the same when a row is read.
 std::string TableLayout::createSql() const
 {
+    const std::string constraint = isLarge ? "" : " NOT NULL";
     std::string sql = "CREATE TABLE " + name + " (pk INTEGER PRIMARY KEY, ";
     for (const Column& column : columns)
-        sql += column.name + (column.type == ColumnType::Text ? " TEXT" : " INTEGER") + " NOT NULL, ";
-    return sql + "checksum INTEGER NOT NULL) STRICT";
+        sql += column.name + (column.type == ColumnType::Text ? " TEXT" : " INTEGER") + constraint + ", ";
+    return sql + "checksum INTEGER" + constraint + (isLarge ? ")" : ") STRICT");
 }
 
 std::string TableLayout::selectSql() const
