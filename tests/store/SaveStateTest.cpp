@@ -42,6 +42,7 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         auto container = open();
         ModelContext& context = container->mainContext();
         const auto march = context.fetchMonths(2026, 3).first();
+        const auto note = context.fetchNotes({2026, 3, 31}, {2026, 3, 31}).first();
         if (!isOverwritten)
             QFile::remove(path);
         if (there != none)
@@ -61,6 +62,8 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         EXPECT_TRUE(there == none || bytes(u".replaced"_s) == there);
         EXPECT_EQ(files().size(), there == none ? 1 : 2);
         EXPECT_EQ(context.fetchMonths().size(), months);
+        EXPECT_EQ(context.fetchNotes({2026, 3, 1}, {2026, 3, 31}), QList{note});
+        EXPECT_EQ(changes(context).size(), there == damaged ? 1 : 2);
         mark(*march, 30, DayState::IN_OFFICE);
         context.append(exampleChange());
         EXPECT_TRUE(context.save());
