@@ -69,6 +69,37 @@ void openStoreOf1200Months(benchmark::State& state)
         benchmark::DoNotOptimize(openStore(path));
 }
 
+/// The history of a copy of that store, in which each workday is marked.
+struct Changes {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"store"_s);
+    const bool isCopied = QFile::copy(sampleStore(), path);
+    SystemClock clock;
+    std::unique_ptr<ModelContainer> container = openStore(path);
+    DayMarker marker{container->mainContext(), clock};
+    UndoHistory history{marker};
+};
+
+void changesOfADay(benchmark::State& state)
+{
+    const Changes changes;
+    QDate date(2026, 1, 1);
+    while (state.KeepRunning()) {
+        if (changes.history.changesOf(date).isEmpty() != (date.dayOfWeek() > 5))
+            state.SkipWithError("the changes of a day are not found");
+        date = date.addDays(1);
+    }
+}
+
+void undo(benchmark::State& state)
+{
+    Changes changes;
+    while (state.KeepRunning()) {
+        if (!changes.history.undo())
+            state.SkipWithError("nothing is left to undo");
+    }
+}
+
 class PaintCounter : public QObject {
 public:
     std::int64_t paints = 0;
@@ -150,6 +181,8 @@ BENCHMARK_CAPTURE(openWindow, views, WindowId::calendarViewSettings)
     ->Name("openWindow:calendar view settings")
     ->MeasureProcessCPUTime();
 BENCHMARK(openStoreOf1200Months)->MeasureProcessCPUTime();
+BENCHMARK(changesOfADay)->MeasureProcessCPUTime();
+BENCHMARK(undo)->MeasureProcessCPUTime();
 
 } // namespace
 
