@@ -64,7 +64,7 @@ struct UndoHistory::UndoStep {
     /// Must be called for the newest change first.
     void add(const DayChange& change)
     {
-        spans.try_emplace(change.date, change.before, change.after).first->second.before = change.before;
+        spans.try_emplace(change.date, Span{change.before, change.after}).first->second.before = change.before;
         isUndo = change.by == ChangedBy::Undo;
     }
 };

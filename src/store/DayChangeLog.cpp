@@ -6,7 +6,7 @@
 
 #include <QLoggingCategory>
 
-#include <ranges>
+#include <algorithm>
 
 namespace {
 
@@ -40,11 +40,9 @@ void DayChangeLog::forEachBackward(QDate date, const Visitor& visit) const
 
 bool DayChangeLog::visitPending(QDate date, const Visitor& visit) const
 {
-    for (const DayChange& change : m_pending | std::views::reverse) {
-        if ((!date.isValid() || change.date == date) && !visit(change))
-            return false;
-    }
-    return true;
+    return std::all_of(m_pending.crbegin(), m_pending.crend(), [&](const DayChange& change) {
+        return (date.isValid() && change.date != date) || visit(change);
+    });
 }
 
 void DayChangeLog::visitStored(SQLite::Statement& rows, const Visitor& visit) const

@@ -14,7 +14,6 @@
 #include <iostream>
 #include <map>
 #include <random>
-#include <ranges>
 #include <set>
 
 namespace {
@@ -32,11 +31,11 @@ struct Expectation {
 
     [[nodiscard]] bool isTakenBack(QDate date, DayState state, QDate today) const
     {
-        for (const Group& group : groups | std::views::reverse) {
-            if (group.inForce.contains(date))
+        for (auto group = groups.rbegin(); group != groups.rend(); ++group) {
+            if (group->inForce.contains(date))
                 return false;
-            if (group.by == ChangedBy::Check && group.undone == today && group.changes.contains(date) &&
-                group.changes.at(date).second == state)
+            if (group->by == ChangedBy::Check && group->undone == today && group->changes.contains(date) &&
+                group->changes.at(date).second == state)
                 return true;
         }
         return false;
