@@ -65,9 +65,7 @@ void BackupService::makeDaily()
     make(Thinning::Yes, [this](const StoreError* error) {
         if (error == nullptr)
             m_doneOn = m_clock.today();
-        else if (error->cause() == StoreError::Cause::Lock)
-            m_quiet.start();
-        else
+        else if (error->cause() != StoreError::Cause::Lock) // after the change there will be another quiet minute
             report(*error);
     });
 }

@@ -7,56 +7,32 @@
 
 #include <random>
 
-namespace {
-
-QDate weekOf(QDate date)
-{
-    return date.addDays(1 - date.dayOfWeek());
-}
-
-QDate monthOf(QDate date)
-{
-    return {date.year(), date.month(), 1};
-}
-
-} // namespace
-
 TEST(KeptBackupsTest, areTheNewestOfEachPeriodForAnySequenceOfDays)
 {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE(testing::Message() << "seed " << seed);
-    std::mt19937 random(seed);
-    for (int run = 0; run < 4; ++run) {
-        QDateTime now(QDate(2026, 1, 1), QTime(9, 0));
-        QList<QDateTime> made;
-        QList<QDateTime> kept;
-        for (int step = 0; step < 150; ++step) {
-            const unsigned hours = random() % 3 == 0 ? 24 * 40 : 40;
-            now = now.addSecs(3600 * (1 + random() % hours));
-            made.prepend(now);
-            kept = keptBackups(kept << now, now);
-            QSet<QDateTime> expected;
-            for (const QDateTime& time : made) {
-                if (time.date() == now.date())
-                    expected.insert(time);
+    using Period = QDate (*)(QDate);
+    const std::pair<qsizetype, Period> rules[]{{1, [](QDate) { return QDate(); }},
+                                               {7, [](QDate date) { return date; }},
+                                               {5, [](QDate date) { return date.addDays(-date.dayOfWeek()); }},
+                                               {12, [](QDate date) { return date.addDays(-date.day()); }}};
+    std::mt19937 random(std::random_device{}());
+    QDateTime now(QDate(2026, 1, 1), QTime(9, 0));
+    QList<QDateTime> made;
+    QList<QDateTime> kept;
+    for (int step = 0; step < 500; ++step) {
+        now = now.addSecs(3600 * (1 + random() % (random() % 3 == 0 ? 960 : 40)));
+        made.prepend(now);
+        kept = keptBackups(kept << now, now);
+        QSet<QDateTime> expected;
+        for (const auto& [count, period] : rules) {
+            QMap<QDate, QDateTime> newest; // of the last periods
+            for (auto time = made.begin(); time != made.end() && newest.size() <= count; ++time) {
+                if (time->date() == now.date() || (!newest.contains(period(time->date())) && newest.size() < count))
+                    expected.insert(newest[period(time->date())] = *time);
             }
-            const auto expect = [&](int count, const auto& period) {
-                QSet<QDate> periods;
-                for (const QDateTime& time : made) {
-                    const auto before = periods.size();
-                    periods.insert(period(time.date()));
-                    if (periods.size() > before && before < count)
-                        expected.insert(time);
-                }
-            };
-            expect(7, [](QDate date) { return date; });
-            expect(5, weekOf);
-            expect(12, monthOf);
-            ASSERT_EQ(QSet<QDateTime>(kept.begin(), kept.end()), expected);
         }
-        const QDateTime setBack = kept.at(5);
-        EXPECT_EQ(keptBackups(kept, setBack).first(5), kept.first(5)) << "what lies in the future stays";
+        ASSERT_EQ(QSet<QDateTime>(kept.begin(), kept.end()), expected) << now.toString().toStdString();
     }
+    EXPECT_EQ(keptBackups(kept, kept.at(5)).first(5), kept.first(5)) << "what lies in the future stays";
 }
 
 class BackupTest : OrdinaryUser, public StoreTest {
@@ -68,13 +44,6 @@ protected:
     {
         return backups.path() + "/Pellory "_L1 + time + ".store"_L1;
     }
-    static void write(const QString& file)
-    {
-        QFile stray(file);
-        EXPECT_TRUE(stray.open(QFile::WriteOnly));
-    }
-    [[nodiscard]] static bool isPrivate(const QString& file) { return (QFile::permissions(file) & 0x77) == 0; }
-
     const BackupFolder backups{path};
     const QDateTime now{QDate(2026, 3, 9), QTime(9, 15)};
     FailingDisk disk;
@@ -90,7 +59,7 @@ TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
     const QStringList foreign{backups.path() + "/notes.txt"_L1, fileOf(u"2026-02-30 09.15.00"_s)};
     const QString future = fileOf(u"2027-01-01 00.00.00"_s);
     for (const QString& file : foreign + QStringList{draft, future})
-        write(file);
+        EXPECT_TRUE(QFile(file).open(QFile::WriteOnly));
     ASSERT_TRUE(QFile::link(path, fileOf(u"2026-01-01 00.00.00"_s)));
 
     const QByteArray before = bytes();
@@ -102,7 +71,7 @@ TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
     EXPECT_EQ(backups.make(now).path, second);
     other.exec("ROLLBACK");
     EXPECT_EQ(readBackup(first), old);
-    EXPECT_TRUE(isPrivate(first));
+    EXPECT_EQ(int(QFile::permissions(first) & 0x77), 0); // nothing for group and others
     EXPECT_TRUE(bytes() == before);
     EXPECT_FALSE(QFile::exists(draft));
     EXPECT_THAT(foreign, testing::Each(testing::Truly([](const auto& file) { return QFile::exists(file); })));
@@ -110,6 +79,11 @@ TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
     for (const BackupFile& backup : backups.backups())
         listed.append(backup.path);
     EXPECT_THAT(listed, testing::UnorderedElementsAre(future, second, first, path + ".before-2"_L1));
+
+    connection().exec("UPDATE month SET name = 'x'");
+    EXPECT_THROW(backups.make(now), StoreError);
+    SQLite::Database(first.toStdString(), SQLite::OPEN_READWRITE).exec("DELETE FROM goal WHERE pk = 1");
+    EXPECT_THROW((void)readBackup(first), StoreError);
 }
 
 TEST_F(BackupTest, neverMakesASaveFailAndIsNeverAMixture)
