@@ -85,8 +85,8 @@ void DataSettingsView::addBackups(QVBoxLayout& column)
     column.addSpacing(8);
     m_backUp->setObjectName("backUp"_L1);
     column.addLayout(rowOf(labels::strong(tr("Backups")), m_backUp));
-    column.addWidget(labels::dim(tr("On each day on which something changed, a backup is made by itself. Those of the "
-                                    "last seven days, five weeks and twelve months are kept.")));
+    column.addWidget(labels::dim(tr("A backup is made on each day on which something has changed. Those of the last "
+                                    "seven days, five weeks and twelve months are kept.")));
     m_message->hide();
     m_problem->hide();
     column.addWidget(m_message);
