@@ -452,6 +452,10 @@
         <source>Imported</source>
         <translation>Importiert</translation>
     </message>
+    <message>
+        <source>Data file</source>
+        <translation>Datendatei</translation>
+    </message>
 </context>
 <context>
     <name>DayState</name>

@@ -8,6 +8,7 @@
 #include "Labels.h"
 #include "ModelContext.h"
 #include "StoreError.h"
+#include "TextField.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -19,12 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A line can be broken after each folder.
-QString breakablePath(QString path)
-{
-    return path.replace('/'_L1, u"/\u200b"_s);
-}
 
 QHBoxLayout* rowOf(QLabel* text, QWidget* button)
 {
@@ -72,9 +67,11 @@ void DataSettingsView::addFolder(QVBoxLayout& column)
     connect(open, &QAbstractButton::clicked, this, &DataSettingsView::openFolder);
     column.addLayout(rowOf(labels::heading(tr("Your Data")), open));
     column.addWidget(labels::dim(tr("All of it is in one file on this computer:")));
-    auto* path = labels::text(breakablePath(m_context.filePath()));
+    auto* path = new TextField(tr("Data file"));
     path->setObjectName("dataPath"_L1);
-    path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    path->setReadOnly(true);
+    path->setText(m_context.filePath());
+    path->setCursorPosition(0);
     column.addWidget(path);
     m_folderProblem->hide();
     column.addWidget(m_folderProblem);

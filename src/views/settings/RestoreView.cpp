@@ -83,7 +83,7 @@ void RestoreView::showDays()
     say(tr(
         "What each day is now, and what it was in the backup. Choose the months to restore. A backup of what is here "
         "now is made first."));
-    if (m_cancel->hasFocus())
+    if (window()->focusWidget() == m_cancel)
         m_tree->setFocus(Qt::OtherFocusReason);
 }
 
@@ -99,7 +99,7 @@ void RestoreView::refreshButton()
     m_restore->setText(count == 1 ? tr("Restore 1 Day") : tr("Restore %n Days", nullptr, static_cast<int>(count)));
     const bool isEnabled = count > 0 && m_restoring == 0;
     // Left alone, the focus would move on to a button that does something else.
-    if (!isEnabled && m_restore->hasFocus())
+    if (!isEnabled && window()->focusWidget() == m_restore)
         m_cancel->setFocus(Qt::OtherFocusReason);
     m_restore->setEnabled(isEnabled);
     m_tree->setEnabled(m_restoring == 0);
