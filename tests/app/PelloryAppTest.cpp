@@ -2,6 +2,7 @@
 #include "PelloryApp.h"
 #include "Alerts.h"
 #include "AppSettings.h"
+#include "LostStore.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "Testing.h"
@@ -156,6 +157,7 @@ TEST_F(PelloryAppTest, makesAStoreAndOpensADamagedOneAfterTheQuestionWhateverThe
 {
     {
         PelloryApp app(data, alerts);
+        EXPECT_EQ(app.lostStore(), LostStore::Missing);
         EXPECT_TRUE(app.settings().firstTime);
         app.settings().firstTime = false;
         EXPECT_TRUE(app.container().mainContext().fetchMonths().isEmpty());
@@ -171,6 +173,7 @@ TEST_F(PelloryAppTest, makesAStoreAndOpensADamagedOneAfterTheQuestionWhateverThe
         });
         PelloryApp app(data, alerts);
         EXPECT_EQ(app.settings().firstTime, isDelete);
+        EXPECT_EQ(app.lostStore(), isDelete ? std::optional(LostStore::Deleted) : std::nullopt);
         EXPECT_EQ(app.container().mainContext().fetchSettings().size(), 1);
     }
 }
