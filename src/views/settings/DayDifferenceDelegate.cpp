@@ -41,7 +41,7 @@ DayDifferenceDelegate::DayDifferenceDelegate(const QFont& font, QObject* parent)
 
 bool DayDifferenceDelegate::setWidth(int width)
 {
-    const bool isNarrow = width < m_dateWidth + 2 * differenceGap + 2 * m_stateWidth + arrowWidth;
+    const bool isNarrow = width < m_dateWidth + 3 * differenceGap + 2 * m_stateWidth + arrowWidth;
     return std::exchange(m_isNarrow, isNarrow) != isNarrow;
 }
 
