@@ -135,13 +135,9 @@ QCoro::Task<CheckOutcome::Kind> InOfficeCheck::detectAndMark(bool markPreviousWo
     if (updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday, detector.network()))
         co_return CheckOutcome::Marked;
     if (!inOfficeNow)
-        co_return CheckOutcome::NotInRange;
+        co_return settings.inOfficeSsids.value().isEmpty() ? CheckOutcome::NoNetworkSet : CheckOutcome::NotInRange;
     const bool isTakenBack = m_parts.marker.isTakenBack(m_parts.clock.today(), DayState::IN_OFFICE);
     co_return isTakenBack ? CheckOutcome::TakenBack : CheckOutcome::MarkedBefore;
-
-    if (inOfficeNow)
-        co_return CheckOutcome::MarkedBefore;
-    co_return settings.inOfficeSsids.value().isEmpty() ? CheckOutcome::NoNetworkSet : CheckOutcome::NotInRange;
 }
 
 void InOfficeCheck::logProblem(const QString& problem)

@@ -149,7 +149,6 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
                   absent = u"No office network is in range."_s, marked = u"Today was marked as in the office."_s,
                   before = u"An office network is in range. Today is already marked."_s,
                   takenBack = u"An office network is in range. You took back today's mark."_s,
-
                   unset = u"No office network is set."_s,
                   off = u"Automatic tracking is off, so Pellory did not check."_s;
     const auto answer = [](const QString& text) { return u"Pellory|"_s + text + u"|check-answer|"_s; };
@@ -172,7 +171,6 @@ TEST_F(InOfficeCheckTest, keepsAndTellsWhatCameOfEachCheck)
         {u"first"_s, true, {}, absent},
         {u"undone"_s, true, answer(takenBack), takenBack},
         {u"marked by hand"_s, true, u"Pellory|You have been marked as in the office today||2026-11-20"_s, marked},
-
         {u"none"_s, true, answer(unset), unset},
     };
     UndoHistory history(marker);
