@@ -42,7 +42,7 @@ QString changeText(const QList<ChangedDays>& changes, QDate today)
     QStringList parts;
     for (const ChangedDays& change : changes)
         parts += whatChanged(change, today);
-    const QString what = parts.join(QStringLiteral(", "));
+    QString what = parts.join(QStringLiteral(", "));
     switch (changes.last().by) {
     case ChangedBy::Check:
         return ChangeTexts::tr("Marked automatically: %1").arg(what);
