@@ -125,7 +125,7 @@ void HoverLabel::paintEvent(QPaintEvent* /*event*/)
                                             {markSize(), markSize()}, line));
     for (const QString& words : below) {
         line.translate(0, line.height());
-        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, words);
+        painter.drawText(line, (words.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, words);
     }
 }
 

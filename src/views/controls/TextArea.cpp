@@ -5,6 +5,7 @@
 #include "Theme.h"
 #include "ThinScrollBarStyle.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -16,9 +17,10 @@ constexpr qreal areaRadius = 7.0;
 } // namespace
 
 TextArea::TextArea(int lines, QWidget* parent)
-    : QPlainTextEdit(parent)
+    : QTextEdit(parent)
 {
     setFont(fonts::body(font()));
+    setAcceptRichText(false);
     setTabChangesFocus(true);
     // paintBorder() draws the border.
     setFrameShape(QFrame::NoFrame);
@@ -37,7 +39,7 @@ bool TextArea::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint)
         paintBorder();
-    return QPlainTextEdit::event(event);
+    return QTextEdit::event(event);
 }
 
 void TextArea::paintBorder()
@@ -53,13 +55,13 @@ void TextArea::paintBorder()
 
 void TextArea::focusInEvent(QFocusEvent* event)
 {
-    QPlainTextEdit::focusInEvent(event);
+    QTextEdit::focusInEvent(event);
     update();
 }
 
 void TextArea::focusOutEvent(QFocusEvent* event)
 {
-    QPlainTextEdit::focusOutEvent(event);
+    QTextEdit::focusOutEvent(event);
     update();
     Q_EMIT left();
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPlainTextEdit>
+#include <QTextEdit>
 
-/// A field for several lines of plain text, with a rounded border.
-class TextArea : public QPlainTextEdit {
+/// A field for several lines of plain text, with a rounded border. Unlike QPlainTextEdit it aligns each paragraph by its
+/// direction of writing.
+class TextArea : public QTextEdit {
     Q_OBJECT
 
 public:
