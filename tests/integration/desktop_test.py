@@ -195,6 +195,10 @@ class DesktopTest(unittest.TestCase):
         self.tell(place, ACTION, "DoAction", "i", 1)
         self.tell(eventually(lambda: self.shown("Vacation Day"))[0].place, ACTION, "DoAction", "i", 0)
         self.hear(day + "Vacation Day")
+        key("Right", "Return")
+        self.hear("2026 Unknown")  # the details of the next day
+        key("Tab", "n", "Escape")
+        self.hear("Unknown, has a note")
         quarter = next(node for node in self.shown() if node.name.startswith("Progress of the quarter: 0 days"))
         self.press(quarter.name, "Tracking Off", then="Last check")
         self.hear(quarter.name, "Tracking Off Wi-Fi: ")

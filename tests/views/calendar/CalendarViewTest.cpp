@@ -47,7 +47,8 @@ TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)
         QString items;
         for (const QAction* item : QApplication::activePopupWidget()->actions())
             items += item->text() + item->shortcut().toString() + (item->isChecked() ? u'*' : u' ');
-        QString expected = u"&Unknown1 &In the Office2 &Out of Office3 &Vacation Day4 &Will Be In Office5  &Details…Return "_s;
+        QString expected =
+            u"&Unknown1 &In the Office2 &Out of Office3 &Vacation Day4 &Will Be In Office5  &Details…Return "_s;
         expected[expected.indexOf(QString::number(current)) + 1] = u'*';
         EXPECT_EQ(items, expected);
         view.setMonth(month(2026, 8)); // the choice is for the day that was asked about
