@@ -7,16 +7,7 @@ pellory_test(views
         views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp
         views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/SaveAlertTest.cpp
-        views/windows/UndoLineTest.cpp
-
-    SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
-        views/calendar/CalendarViewTest.cpp views/calendar/DayClickTest.cpp views/calendar/HoverTest.cpp
-        views/help/LegendViewTest.cpp views/look/ThemeTest.cpp
-        views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
-        views/settings/DataSettingsTest.cpp views/settings/SettingsTest.cpp
-        views/tracking/TrackingTest.cpp
-        views/windows/AppWindowsTest.cpp views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp
-        views/windows/SaveAlertTest.cpp
+        views/windows/UndoLineTest.cpp views/settings/DataSettingsTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )
