@@ -138,6 +138,108 @@
     </message>
 </context>
 <context>
+    <name>BackupAlert</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Backup Not Made</source>
+        <translation>Keine Sicherung</translation>
+    </message>
+    <message>
+        <source>%1 Your data itself is saved. Pellory tries again.</source>
+        <translation>%1 Ihre Daten selbst sind gespeichert. Pellory versucht es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupService</name>
+    <message>
+        <source>The latest changes are not in the data file yet.</source>
+        <translation>Die letzten Änderungen sind noch nicht in der Datendatei.</translation>
+    </message>
+</context>
+<context>
+    <name>BackupTexts</name>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>A date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date, time of day</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation>1 Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days</source>
+        <translation>
+            <numerusform>%n Tag</numerusform>
+            <numerusform>%n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 marked day</source>
+        <translation>1 markierter Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marked days</source>
+        <translation>
+            <numerusform>%n markierter Tag</numerusform>
+            <numerusform>%n markierte Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 Monat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months</source>
+        <translation>
+            <numerusform>%n Monat</numerusform>
+            <numerusform>%n Monaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>same as now</source>
+        <translation>wie jetzt</translation>
+    </message>
+    <message>
+        <source>1 day differs</source>
+        <translation>1 Tag anders</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days differ</source>
+        <translation>
+            <numerusform>%n Tag anders</numerusform>
+            <numerusform>%n Tage anders</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Every day was as it should be. Nothing has changed.</source>
+        <translation>Jeder Tag war schon so. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>1 day was restored. Ctrl+Z in the main window takes it back.</source>
+        <translation>1 Tag wurde wiederhergestellt. Strg+Z im Hauptfenster nimmt es zurück.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days were restored. Ctrl+Z in the main window takes them back.</source>
+        <translation>
+            <numerusform>%n Tag wurde wiederhergestellt. Strg+Z im Hauptfenster nimmt es zurück.</numerusform>
+            <numerusform>%n Tage wurden wiederhergestellt. Strg+Z im Hauptfenster nimmt es zurück.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CalendarPage</name>
     <message>
         <source>Error loading month!</source>
@@ -316,6 +418,10 @@
         <source>An office network is in range. You took back today&apos;s mark.</source>
         <translation>Ein Büronetzwerk ist in Reichweite. Sie haben den heutigen Eintrag zurückgenommen.</translation>
     </message>
+    <message>
+        <source>No office network is set.</source>
+        <translation>Es ist kein Büronetzwerk eingetragen.</translation>
+    </message>
 </context>
 <context>
     <name>ContentView</name>
@@ -374,6 +480,74 @@
     <message>
         <source>Redo</source>
         <translation>Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>DataSettingsView</name>
+    <message>
+        <source>No program opens folders here. Use the path above.</source>
+        <translation>Hier öffnet kein Programm Ordner. Der Pfad steht oben.</translation>
+    </message>
+    <message>
+        <source>Back Up Now</source>
+        <translation>Jetzt sichern</translation>
+    </message>
+    <message>
+        <source>There is no backup yet.</source>
+        <translation>Es gibt noch keine Sicherung.</translation>
+    </message>
+    <message>
+        <source>Backed up at %1.</source>
+        <comment>time of day</comment>
+        <translation>Um %1 gesichert.</translation>
+    </message>
+    <message>
+        <source>Backing Up...</source>
+        <translation>Wird gesichert …</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Your Data</source>
+        <translation>Ihre Daten</translation>
+    </message>
+    <message>
+        <source>All of it is in one file on this computer:</source>
+        <translation>Alles liegt in einer Datei auf diesem Rechner:</translation>
+    </message>
+    <message>
+        <source>Data file</source>
+        <translation>Datendatei</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>A backup is made on each day on which something has changed. Those of the last seven days, five weeks and twelve months are kept.</source>
+        <translation>An jedem Tag, an dem sich etwas geändert hat, wird gesichert. Die Sicherungen der letzten sieben Tage, fünf Wochen und zwölf Monate bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>The last backup failed. %1 Pellory tries again.</source>
+        <translation>Die letzte Sicherung ist fehlgeschlagen. %1 Pellory versucht es erneut.</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>Wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>made before an update</source>
+        <translation>vor einer Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Restore the backup of %1</source>
+        <translation>Die Sicherung vom %1 wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Damaged</source>
+        <translation>Beschädigt</translation>
     </message>
 </context>
 <context>
@@ -451,10 +625,6 @@
     <message>
         <source>Imported</source>
         <translation>Importiert</translation>
-    </message>
-    <message>
-        <source>Data file</source>
-        <translation>Datendatei</translation>
     </message>
 </context>
 <context>
@@ -732,6 +902,41 @@
     </message>
 </context>
 <context>
+    <name>LostDataAlert</name>
+    <message>
+        <source>Your Data Was Reset</source>
+        <translation>Ihre Daten wurden zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Your Data Was Not Found</source>
+        <translation>Ihre Daten wurden nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>Wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>A backup of %1 can be brought back.</source>
+        <translation>Eine Sicherung vom %1 kann zurückgeholt werden.</translation>
+    </message>
+    <message>
+        <source>Nothing was restored. %1</source>
+        <translation>Nichts wurde wiederhergestellt. %1</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>In the backup: %1 in %2, and your goals and settings. It replaces what is here now, which is kept beside it as Pellory.store.replaced.</source>
+        <translation>In der Sicherung: %1 in %2, dazu Ihre Ziele und Einstellungen. Sie ersetzt, was jetzt hier ist; das bleibt daneben als Pellory.store.replaced erhalten.</translation>
+    </message>
+</context>
+<context>
     <name>MarkedProgressBar</name>
     <message>
         <source>%1: reached</source>
@@ -931,6 +1136,79 @@
     </message>
 </context>
 <context>
+    <name>RestoreModel</name>
+    <message>
+        <source>ddd d MMMM</source>
+        <translation>ddd, d. MMMM</translation>
+    </message>
+    <message>
+        <source>All Months</source>
+        <translation>Alle Monate</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <comment>date, state now, state in the backup</comment>
+        <extracomment>A short date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>month, year</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>month, number of days</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreView</name>
+    <message>
+        <source>Reading the backup...</source>
+        <translation>Die Sicherung wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Nothing was restored. %1</source>
+        <translation>Nichts wurde wiederhergestellt. %1</translation>
+    </message>
+    <message>
+        <source>Restore the Backup of %1</source>
+        <translation>Sicherung vom %1 wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Days that differ</source>
+        <translation>Tage, die anders sind</translation>
+    </message>
+    <message>
+        <source>Every day is as it was in this backup. There is nothing to restore.</source>
+        <translation>Jeder Tag ist wie in dieser Sicherung. Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>What each day is now, and what it was in the backup. Choose the months to restore. A backup of what is here now is made first.</source>
+        <translation>Jeder Tag, wie er jetzt ist und wie er in der Sicherung war. Wählen Sie die Monate, die wiederhergestellt werden sollen. Der jetzige Stand wird vorher gesichert.</translation>
+    </message>
+    <message>
+        <source>Restore 1 Day</source>
+        <translation>1 Tag wiederherstellen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restore %n Days</source>
+        <translation>
+            <numerusform>%n Tag wiederherstellen</numerusform>
+            <numerusform>%n Tage wiederherstellen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restoring...</source>
+        <translation>Wird wiederhergestellt …</translation>
+    </message>
+</context>
+<context>
     <name>SaveAlert</name>
     <message>
         <source>Try Again</source>
@@ -998,6 +1276,10 @@
     <message>
         <source>Location Settings</source>
         <translation>Standorteinstellungen</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
     </message>
 </context>
 <context>
@@ -1252,6 +1534,14 @@
     <message>
         <source>&quot;%1&quot; is not a state</source>
         <translation>„%1“ ist kein Status</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be used: %2</source>
+        <translation>Der Ordner %1 kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>The data file is being changed.</source>
+        <translation>Die Datendatei wird gerade geändert.</translation>
     </message>
 </context>
 <context>
