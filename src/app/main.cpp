@@ -39,11 +39,13 @@
 #include <QSessionManager>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <chrono>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -70,6 +72,9 @@ struct PlatformServices {
     StatusNotifierHost trayHost;
 };
 
+// The first check comes after this, so that it does not delay the window.
+constexpr auto timeToAppear = 100ms;
+
 // What the application returns when it is to start over with the file on disk.
 constexpr int reloads = 1000;
 
@@ -80,14 +85,16 @@ void quit()
 }
 
 void openFirstWindow(AppWindows& windows, Background& background, BackupService& backups, PlatformServices& platform,
-                     StartMode mode)
+                     std::jthread& fonts, StartMode mode)
 {
+    if (fonts.joinable())
+        fonts.join();
+    logStage("fonts read");
     // What is asked of the desktop can wait until there is something to see.
     const auto afterFirstPaint = [&windows](auto* context, auto start) {
         QObject::connect(&windows, &AppWindows::mainPainted, context, start, Qt::SingleShotConnection);
     };
     afterFirstPaint(&platform.appearance, &Appearance::start);
-    afterFirstPaint(&backups, &BackupService::start);
     afterFirstPaint(&windows, [] { logStage("window painted"); });
     if (mode == StartMode::AtLogin) {
         platform.trayHost.start();
@@ -95,13 +102,14 @@ void openFirstWindow(AppWindows& windows, Background& background, BackupService&
         background.remindOfSetUp();
     } else {
         afterFirstPaint(&platform.trayHost, &TrayHost::start);
+        afterFirstPaint(&backups, &BackupService::start);
         windows.openMain();
         logStage("window built");
     }
 }
 
 int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Alerts& alerts, SingleInstance& instance,
-                   StartMode mode)
+                   std::jthread& fonts, StartMode mode)
 {
     PlatformServices platform;
     DayMarker marker(pellory.container().mainContext(), platform.clock);
@@ -109,8 +117,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     BackupService backups(marker, platform.clock);
     InOfficeCheck check(
         {pellory.container(), marker, pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
-    QMetaObject::invokeMethod(
-        &platform.clock, [&check] { check.start(); }, Qt::QueuedConnection);
+    QTimer::singleShot(timeToAppear, &platform.clock, [&check] { check.start(); });
 
     ViewSettings viewSettings(settings);
     LocationManagerKey locationManager(platform.authorization, platform.systemSettings);
@@ -143,7 +150,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     });
     if (const auto lost = pellory.lostStore())
         windows.offerBackup(*lost);
-    openFirstWindow(windows, background, backups, platform, mode);
+    openFirstWindow(windows, background, backups, platform, fonts, mode);
     return QApplication::exec();
 }
 
@@ -204,10 +211,7 @@ int run(SingleInstance& instance)
     for (;;) {
         PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
         logStage("store open");
-        if (fonts.joinable())
-            fonts.join();
-        logStage("fonts read");
-        const int result = runApplication(pellory, settings, look, alerts, instance, mode);
+        const int result = runApplication(pellory, settings, look, alerts, instance, fonts, mode);
         if (result != reloads)
             return result;
         mode = StartMode::Shown;

@@ -5,9 +5,9 @@
 #include "ThinScrollBarStyle.h"
 #include "WindowSize.h"
 
-#include <QScrollBar>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {

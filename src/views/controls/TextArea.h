@@ -3,8 +3,8 @@
 
 #include <QTextEdit>
 
-/// A field for several lines of plain text, with a rounded border. Unlike QPlainTextEdit it aligns each paragraph by its
-/// direction of writing.
+/// A field for several lines of plain text, with a rounded border. Unlike QPlainTextEdit it aligns each paragraph by
+/// its direction of writing.
 class TextArea : public QTextEdit {
     Q_OBJECT
 
