@@ -24,6 +24,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int columns = 7;
@@ -61,11 +63,12 @@ CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, 
 
 void CalendarView::addHeader(QGridLayout& grid)
 {
-    m_name = new QLabel;
+    // Neither is ever empty: an empty line may be lower, which the layouts around a hidden grid would not forget.
+    m_name = new QLabel(u" "_s);
     m_name->setFont(fonts::title(font()));
     m_name->setAlignment(Qt::AlignCenter);
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long name would move the cells
-    m_workdays = new QLabel;
+    m_workdays = new QLabel(workdaysText(0));
     m_workdays->setFont(fonts::body(font()));
     m_workdays->setForegroundRole(QPalette::PlaceholderText);
     m_workdays->setAlignment(Qt::AlignCenter);

@@ -7,11 +7,12 @@
 namespace {
 
 // As QFontInfo does, but without loading a font that may never be drawn.
-double pixelSize(const QFont& font)
+int pixelSize(const QFont& font)
 {
     constexpr double pointsPerInch = 72.0;
-    return font.pixelSize() > 0 ? font.pixelSize()
-                                : font.pointSizeF() * qApp->primaryScreen()->logicalDotsPerInchY() / pointsPerInch;
+    return font.pixelSize() > 0
+               ? font.pixelSize()
+               : qRound(font.pointSizeF() * qApp->primaryScreen()->logicalDotsPerInchY() / pointsPerInch);
 }
 
 } // namespace
