@@ -546,8 +546,8 @@
         <translation>Die Sicherung vom %1 wiederherstellen</translation>
     </message>
     <message>
-        <source>Damaged</source>
-        <translation>Beschädigt</translation>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
     </message>
 </context>
 <context>
@@ -1492,8 +1492,8 @@
         <translation>er ist keine Liste</translation>
     </message>
     <message>
-        <source>The file %1 cannot be created: %2</source>
-        <translation>Die Datei %1 kann nicht angelegt werden: %2</translation>
+        <source>The file %1 cannot be created: %2.</source>
+        <translation>Die Datei %1 kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
         <source>The data store cannot be converted to the format of this version of Pellory, and is left as it was. %1</source>
@@ -1504,8 +1504,8 @@
         <translation>„%1“ ist im Datenspeicher anders definiert als erwartet.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be renamed: %2</source>
-        <translation>Die Datei %1 kann nicht umbenannt werden: %2</translation>
+        <source>The file %1 cannot be renamed: %2.</source>
+        <translation>Die Datei %1 kann nicht umbenannt werden: %2.</translation>
     </message>
     <message>
         <source>Another program has changed the data file.</source>
@@ -1536,8 +1536,8 @@
         <translation>„%1“ ist kein Status</translation>
     </message>
     <message>
-        <source>The folder %1 cannot be used: %2</source>
-        <translation>Der Ordner %1 kann nicht verwendet werden: %2</translation>
+        <source>The folder %1 cannot be used: %2.</source>
+        <translation>Der Ordner %1 kann nicht verwendet werden: %2.</translation>
     </message>
     <message>
         <source>The data file is being changed.</source>

@@ -54,7 +54,7 @@ void makeFolder(const QString& path)
         error = std::make_error_code(std::errc::not_a_directory);
     if (error)
         throw StoreError(
-            StoreError::tr("The folder %1 cannot be used: %2").arg(path, QString::fromStdString(error.message())),
+            StoreError::tr("The folder %1 cannot be used: %2.").arg(path, QString::fromStdString(error.message())),
             StoreError::Cause::Obstacle);
 }
 

@@ -52,7 +52,7 @@ void Draft::removeAbandoned(const QString& path)
 
 void Draft::fail(const QString& reason) const
 {
-    throw StoreError(StoreError::tr("The file %1 cannot be created: %2").arg(m_path, reason),
+    throw StoreError(StoreError::tr("The file %1 cannot be created: %2.").arg(m_path, reason),
                      StoreError::Cause::Obstacle);
 }
 

@@ -45,7 +45,7 @@ void putAside(const QString& path)
     QString name = path + ".old"_L1;
     for (int number = 2; file.exists() && !file.rename(name); ++number) {
         if (!QFile::exists(name))
-            throw StoreError(StoreError::tr("The file %1 cannot be renamed: %2").arg(path, file.errorString()),
+            throw StoreError(StoreError::tr("The file %1 cannot be renamed: %2.").arg(path, file.errorString()),
                              StoreError::Cause::Obstacle);
         name = path + u".old-%1"_s.arg(number);
     }

@@ -28,7 +28,7 @@ StoreReplacement::StoreReplacement(const QString& path)
 {
     // Which has no name yet if this fails.
     if (!m_draft.open())
-        throw StoreError(StoreError::tr("The file %1 cannot be created: %2").arg(path, m_draft.errorString()));
+        throw StoreError(StoreError::tr("The file %1 cannot be created: %2.").arg(path, m_draft.errorString()));
 }
 
 void StoreReplacement::copyFrom(SQLite::Database& source)

@@ -213,7 +213,7 @@ void DataSettingsView::showCount()
     try {
         finding = backupTexts::difference(m_count.result());
     } catch (const StoreError& error) {
-        finding = error.cause() == StoreError::Cause::Damage ? tr("Damaged") : error.description();
+        finding = error.cause() == StoreError::Cause::Damage ? tr("damaged") : error.description();
         m_unsound.insert(path);
     }
     // The days may have changed meanwhile.
