@@ -854,6 +854,10 @@
         <translation>%1: %2</translation>
     </message>
     <message>
+        <source>Details and Note of Focused Day</source>
+        <translation>Details und Notiz des ausgewählten Tages</translation>
+    </message>
+    <message>
         <source>Undo, with %1: Redo</source>
         <extracomment>%1 is the Shift key.</extracomment>
         <translation>Rückgängig, mit %1: Wiederholen</translation>
