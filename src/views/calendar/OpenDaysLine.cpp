@@ -4,6 +4,8 @@
 #include "Labels.h"
 #include "LinkButton.h"
 
+#include <QLayout>
+
 using namespace Qt::StringLiterals;
 
 OpenDaysLine::OpenDaysLine(QWidget* parent)
@@ -15,6 +17,7 @@ OpenDaysLine::OpenDaysLine(QWidget* parent)
     connect(review, &QAbstractButton::clicked, this, &OpenDaysLine::reviewRequested);
     add(m_text);
     add(review);
+    layout()->setContentsMargins(0, 0, 0, 8); // to the headline of the tracker
 }
 
 void OpenDaysLine::setCount(int days, bool another)
