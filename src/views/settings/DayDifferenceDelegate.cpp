@@ -18,6 +18,7 @@ namespace {
 constexpr int differenceGap = 8;
 constexpr int arrowWidth = 28;
 constexpr int linePadding = 4;
+constexpr qreal ringRadius = 6.0;
 constexpr QSize usualSwatch(22, 16);
 
 } // namespace
@@ -41,7 +42,7 @@ DayDifferenceDelegate::DayDifferenceDelegate(const QFont& font, QObject* parent)
 
 bool DayDifferenceDelegate::setWidth(int width)
 {
-    const bool isNarrow = width < m_dateWidth + 3 * differenceGap + 2 * m_stateWidth + arrowWidth;
+    const bool isNarrow = width < m_dateWidth + 4 * differenceGap + 2 * m_stateWidth + arrowWidth;
     return std::exchange(m_isNarrow, isNarrow) != isNarrow;
 }
 
@@ -57,36 +58,44 @@ QSize DayDifferenceDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, co
 
 void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    QStyleOptionViewItem row = option;
+    row.state.setFlag(QStyle::State_HasFocus, false);
     const QVariant found = index.data(RestoreModel::differenceRole);
-    if (!found.isValid()) {
-        QStyledItemDelegate::paint(painter, option, index);
-        return;
+    painter->save();
+    if (found.isValid())
+        paintDay(*painter, row, found.value<DayDifference>());
+    else
+        QStyledItemDelegate::paint(painter, row, index);
+    // As on buttons, and not as the style draws it.
+    if (option.state.testFlags(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange)) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(themeFor(option.palette).accent, 2.0));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
     }
-    // The ground and the focus.
-    QStyleOptionViewItem empty = option;
-    const QStyle* style = option.widget->style();
-    style->drawControl(QStyle::CE_ItemViewItem, &empty, painter, option.widget);
+    painter->restore();
+}
 
-    const auto day = found.value<DayDifference>();
-    const QRect whole = option.rect.adjusted(0, linePadding / 2, -differenceGap, -linePadding / 2);
+void DayDifferenceDelegate::paintDay(QPainter& painter, const QStyleOptionViewItem& option,
+                                     const DayDifference& day) const
+{
+    const QRect whole = option.rect.adjusted(differenceGap, linePadding / 2, -differenceGap, -linePadding / 2);
     const auto place = [&](QRect area) { return QStyle::visualRect(option.direction, whole, area); };
     const QRect date(whole.topLeft(), QSize(m_dateWidth, m_isNarrow ? lineHeight() : whole.height()));
     QRect states =
         m_isNarrow ? whole.adjusted(0, lineHeight(), 0, 0) : whole.adjusted(m_dateWidth + 2 * differenceGap, 0, 0, 0);
     const int stateWidth = qMin(m_stateWidth, (states.width() - arrowWidth) / 2);
-    painter->save();
-    painter->setFont(m_font);
-    painter->setPen(option.palette.color(QPalette::WindowText));
+    painter.setFont(m_font);
+    painter.setPen(option.palette.color(QPalette::WindowText));
     const int edge = static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter);
-    painter->drawText(place(date), edge, QLocale().toString(day.date, RestoreModel::tr("ddd d MMMM")));
+    painter.drawText(place(date), edge, QLocale().toString(day.date, RestoreModel::tr("ddd d MMMM")));
     states.setWidth(stateWidth);
-    paintState(*painter, option, place(states), day.before, day.date);
+    paintState(painter, option, place(states), day.before, day.date);
     const QRect arrow(states.right() + 1, states.top(), arrowWidth, states.height());
-    painter->setPen(option.palette.color(QPalette::PlaceholderText));
-    painter->drawText(place(arrow), Qt::AlignCenter, QString(option.direction == Qt::LeftToRight ? u'→' : u'←'));
+    painter.setPen(option.palette.color(QPalette::PlaceholderText));
+    painter.drawText(place(arrow), Qt::AlignCenter, QString(option.direction == Qt::LeftToRight ? u'→' : u'←'));
     states.moveLeft(arrow.right() + 1);
-    paintState(*painter, option, place(states), day.after, day.date);
-    painter->restore();
+    paintState(painter, option, place(states), day.after, day.date);
 }
 
 void DayDifferenceDelegate::paintState(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,

@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QStyledItemDelegate>
 
+struct DayDifference;
+
 /// Draws the rows of a RestoreModel: a day with its state before and after as marks and words.
 class DayDifferenceDelegate : public QStyledItemDelegate {
     Q_OBJECT
@@ -21,6 +23,7 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
+    void paintDay(QPainter& painter, const QStyleOptionViewItem& option, const DayDifference& day) const;
     void paintState(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area, DayState state,
                     QDate date) const;
     [[nodiscard]] int lineHeight() const;

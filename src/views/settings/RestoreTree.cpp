@@ -31,7 +31,7 @@ void RestoreTree::setModel(QAbstractItemModel* model)
 
 QSize RestoreTree::sizeHint() const
 {
-    return {fonts::grown(320, font()), fonts::grown(320, font())};
+    return {fonts::grown(320, font()), fonts::grown(200, font())};
 }
 
 // The style shows where the focus is only once the keyboard is used.
