@@ -116,7 +116,9 @@ void DataSettingsView::focusBackup(const QString& path)
 {
     const auto found = std::ranges::find(m_files, path, &BackupFile::path);
     QWidget* button = found == m_files.end() ? m_backUp : m_rows.at(found - m_files.begin()).restore;
-    button->setFocus(Qt::OtherFocusReason);
+    button->clearFocus(); // which the page may have given back already, without the ring
+    const bool isByKey = window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    button->setFocus(isByKey ? Qt::TabFocusReason : Qt::OtherFocusReason);
 }
 
 void DataSettingsView::showProblem()
