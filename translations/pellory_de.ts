@@ -854,8 +854,8 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Details and Note of Focused Day</source>
-        <translation>Details und Notiz des ausgewählten Tages</translation>
+        <source>Show Its Details and Note</source>
+        <translation>Seine Details und Notiz zeigen</translation>
     </message>
     <message>
         <source>Undo, with %1: Redo</source>

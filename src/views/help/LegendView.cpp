@@ -62,7 +62,7 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     const QString keys = keyText(allDayStates.front()) + u'\u2013' + keyText(allDayStates.back());
     addGesture(*grid, keys, Symbol::Keyboard, tr("Set Status of Focused Day"), tr("Keys %1").arg(keys));
     const QString details = QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText);
-    addGesture(*grid, details, Symbol::Keyboard, tr("Details and Note of Focused Day"), details);
+    addGesture(*grid, details, Symbol::Keyboard, tr("Show Its Details and Note"), details);
     const QString undo = QKeySequence(undoKeys).toString(QKeySequence::NativeText);
     //: %1 is the Shift key.
     addGesture(*grid, undo, Symbol::Keyboard, tr("Undo, with %1: Redo").arg(keyName(ClickModifier::Shift)), undo);
