@@ -66,7 +66,7 @@ void copyAndVerify(const QString& store, Draft& draft, const std::stop_token& st
         draft.clear();
     }
     SQLite::Database copy(draft.fileName(), SQLite::OPEN_READWRITE);
-    static_cast<void>(verifyStore(copy, pellorySchema()));
+    verifyCopy(copy, pellorySchema());
     draft.synchronise();
 }
 

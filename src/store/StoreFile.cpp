@@ -81,7 +81,7 @@ void keepStoreCopy(const QString& path, const Schema& schema)
     copyStore(path, draft);
     {
         SQLite::Database copy(draft.fileName(), SQLite::OPEN_READWRITE);
-        static_cast<void>(verifyStore(copy, schema));
+        verifyCopy(copy, schema);
     }
     QString name = firstName;
     for (int number = 2; !draft.hasContentsOf(name) && !draft.take(name); ++number)

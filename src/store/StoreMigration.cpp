@@ -84,6 +84,7 @@ void migrate(SQLite::Database& database, const Schema& schema, int fromVersion)
     // The first change takes the write lock, so only one program at a time makes a copy.
     database.exec("PRAGMA user_version = " + std::to_string(schema.version()));
     keepStoreCopy(QString::fromStdString(database.getFilename()), schema);
+    removeUnreadableRows(database, schema.atVersion(fromVersion));
     for (int version = fromVersion + 1; version <= schema.version(); ++version)
         applyLastMigration(database, schema.atVersion(version));
     static_cast<void>(verifyStore(database, schema));

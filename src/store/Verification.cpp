@@ -5,13 +5,19 @@
 #include "StoreError.h"
 
 #include <QFileInfo>
+#include <QLoggingCategory>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 #include <sqlite3.h>
 
+#include <functional>
+#include <vector>
+
 namespace {
+
+Q_LOGGING_CATEGORY(logVerification, "pellory.store", QtInfoMsg)
 
 constexpr int applicationId = 0x50656c6c; // "Pell"
 
@@ -71,17 +77,42 @@ void verifyPages(SQLite::Database& database)
         throw StoreError(StoreError::tr("The data store is damaged: %1").arg(QString::fromStdString(finding)));
 }
 
-void verifyRecords(SQLite::Database& database, const TableLayout& table)
+/// What to do with a row that cannot be read: its key, and why.
+using UnreadableRow = std::function<void(std::int64_t, const StoreError&)>;
+
+void readRecords(SQLite::Database& database, const TableLayout& table, const UnreadableRow& report)
 {
     SQLite::Statement rows(database, table.selectSql());
     while (rows.executeStep()) {
         try {
             static_cast<void>(readRow(rows, table));
         } catch (const StoreError& error) {
-            throw StoreError(StoreError::tr("The data store is damaged: record %1 of \"%2\" cannot be read, %3.")
-                                 .arg(rows.getColumn(0).getInt64())
-                                 .arg(QString::fromStdString(table.name), error.description()));
+            report(rows.getColumn(0).getInt64(), error);
         }
+    }
+}
+
+void verifyRecords(SQLite::Database& database, const TableLayout& table)
+{
+    readRecords(database, table, [&](std::int64_t key, const StoreError& error) {
+        throw StoreError(StoreError::tr("The data store is damaged: record %1 of \"%2\" cannot be read, %3.")
+                             .arg(key)
+                             .arg(QString::fromStdString(table.name), error.description()));
+    });
+}
+
+void removeUnreadableRows(SQLite::Database& database, const TableLayout& table)
+{
+    std::vector<std::int64_t> keys;
+    readRecords(database, table, [&](std::int64_t key, const StoreError&) { keys.push_back(key); });
+    if (keys.empty())
+        return;
+    qCWarning(logVerification, "%zu damaged rows of %s are left out", keys.size(), table.name.c_str());
+    SQLite::Statement deletion(database, table.deleteSql());
+    for (const std::int64_t key : keys) {
+        deletion.bind(1, key);
+        deletion.exec();
+        deletion.reset();
     }
 }
 
@@ -111,4 +142,18 @@ int verifyStore(SQLite::Database& database, const Schema& schema, VerificationDe
             verifyRecords(database, table);
     }
     return version;
+}
+
+void removeUnreadableRows(SQLite::Database& database, const Schema& schema)
+{
+    for (const TableLayout& table : schema.tables) {
+        if (table.isLarge)
+            removeUnreadableRows(database, table);
+    }
+}
+
+void verifyCopy(SQLite::Database& database, const Schema& schema)
+{
+    const int version = verifyStore(database, schema, VerificationDepth::ForOpening);
+    removeUnreadableRows(database, schema.atVersion(version));
 }

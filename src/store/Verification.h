@@ -21,3 +21,10 @@ enum class VerificationDepth {
 /// reads as it was written. Tables that the schema does not know are ignored. Changes nothing.
 [[nodiscard]] int verifyStore(SQLite::Database& database, const Schema& schema,
                               VerificationDepth depth = VerificationDepth::Whole);
+
+/// Removes the rows of large tables that cannot be read, with a line in the log. Throws the database's own exception.
+void removeUnreadableRows(SQLite::Database& database, const Schema& schema);
+
+/// Verifies a copy of a store whole. Rows of large tables that cannot be read are
+/// removed; the store passes over them as well. Throws like verifyStore().
+void verifyCopy(SQLite::Database& database, const Schema& schema);

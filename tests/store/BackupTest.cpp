@@ -62,6 +62,7 @@ TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
         EXPECT_TRUE(QFile(file).open(QFile::WriteOnly));
     ASSERT_TRUE(QFile::link(path, fileOf(u"2026-01-01 00.00.00"_s)));
 
+    connection().exec("INSERT INTO day_change (network) VALUES ('damaged')");
     const QByteArray before = bytes();
     auto other = connection();
     other.exec("BEGIN EXCLUSIVE");

@@ -66,6 +66,10 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
     setBytes(bytes(copy + u"-2"_s));
     EXPECT_EQ(refusal(schema.atVersion(1)), "");
     EXPECT_EQ(oldFields(), before);
+    EXPECT_EQ(refusal(), "");
+    connection().exec("INSERT INTO day_change (network) VALUES ('damaged')");
+    EXPECT_EQ(refusal(schema), "");
+    EXPECT_EQ(query("pk AS value FROM day_change"), "");
 }
 
 TEST_F(MigrationTest, thatFailsLeavesTheStoreAsItWas)
