@@ -15,6 +15,12 @@ namespace {
 
 constexpr int yearsOfChanges = 3;
 
+StoreError unsavedError()
+{
+    return StoreError(BackupService::tr("The latest changes are not in the data file yet."),
+                      StoreError::Cause::Obstacle);
+}
+
 } // namespace
 
 BackupService::BackupService(DayMarker& marker, const Clock& clock, std::chrono::milliseconds quietTime)
@@ -95,11 +101,16 @@ void BackupService::report(const StoreError& error)
     Q_EMIT failed(error.description());
 }
 
-void BackupService::make(Thinning thinning, const Ending& ending)
+bool BackupService::isSaved()
 {
     ModelContext& context = m_marker.context();
-    if (!context.save() || !context.saveState().value().isFine()) {
-        const StoreError error(tr("The latest changes are not in the data file yet."), StoreError::Cause::Obstacle);
+    return context.save() && context.saveState().value().isFine();
+}
+
+void BackupService::make(Thinning thinning, const Ending& ending)
+{
+    if (!isSaved()) {
+        const StoreError error = unsavedError();
         return ending(&error);
     }
     const auto end = [this, ending](const StoreError* error) {
@@ -133,6 +144,17 @@ QFuture<DayStates> BackupService::read(const QString& path)
     return run<DayStates>([path](const std::stop_token&) { return readBackup(path); });
 }
 
+QFuture<QList<DayDifference>> BackupService::compare(const QString& path)
+{
+    const auto job = [path, store = m_marker.context().filePath(), isSaved = isSaved()](const std::stop_token& stop) {
+        if (!isSaved)
+            throw unsavedError();
+        const DayStates inBackup = readBackup(path);
+        return differences(readStore(store, stop), inBackup);
+    };
+    return run<QList<DayDifference>>(job);
+}
+
 QFuture<std::optional<BackupFile>> BackupService::findNewestSound()
 {
     return run<std::optional<BackupFile>>([folder = m_folder](const std::stop_token&) -> std::optional<BackupFile> {
@@ -146,11 +168,6 @@ QFuture<std::optional<BackupFile>> BackupService::findNewestSound()
         }
         return {};
     });
-}
-
-QList<DayDifference> BackupService::differencesTo(const DayStates& inBackup) const
-{
-    return differences(statesOf(m_marker.context().fetchMonths()), inBackup);
 }
 
 void BackupService::restore(const QList<DayDifference>& days)

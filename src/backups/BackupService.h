@@ -45,11 +45,12 @@ public:
     /// Verifies and reads a backup. The future fails with a StoreError if the backup is not sound. It is to be awaited
     /// with a QFutureWatcher: a continuation whose context has gone would stop the program.
     [[nodiscard]] QFuture<DayStates> read(const QString& path);
+    /// Reads a backup like read(), and finds which days restoring it would change. The future fails with a StoreError
+    /// also if the store cannot be read.
+    [[nodiscard]] QFuture<QList<DayDifference>> compare(const QString& path);
     /// Looks for the newest backup that is sound. The future has no value if there is none.
     [[nodiscard]] QFuture<std::optional<BackupFile>> findNewestSound();
 
-    /// Which days restoring a backup would change. Throws a StoreError if the store cannot be read.
-    [[nodiscard]] QList<DayDifference> differencesTo(const DayStates& inBackup) const;
     /// Sets the days to what they were (`after`), as one undo step, once a backup was made. Ends with restored() or
     /// restoreFailed(); then nothing has changed.
     void restore(const QList<DayDifference>& days);
@@ -78,6 +79,8 @@ private:
     /// Called with null once a backup was made, otherwise with the reason.
     using Ending = std::function<void(const StoreError*)>;
     enum class Thinning { Yes, No };
+    /// Whether the store holds all changes, after a last attempt to save them.
+    [[nodiscard]] bool isSaved();
     void make(Thinning thinning, const Ending& ending);
     void report(const StoreError& error);
     void waitForQuiet();

@@ -71,12 +71,15 @@ void verifyHeader(const QString& path)
 
 } // namespace
 
-DayStates statesOf(const QList<std::shared_ptr<Month>>& months)
+DayStates readStore(const QString& path, const std::stop_token& stop)
 {
     DayStates states;
-    QSet<QDate> known;
-    for (const auto& month : months)
-        add(states, known, month->year, month->month, month->days);
+    try {
+        readUnlocked(
+            path, [&](SQLite::Database& store) { states = readMonths(store, monthFields().layout()); }, stop);
+    } catch (const SQLite::Exception& error) {
+        throw storeError(error);
+    }
     return states;
 }
 

@@ -4,18 +4,20 @@
 #include "DayState.h"
 
 #include <QDate>
-#include <QList>
 #include <QMap>
 
-#include <memory>
+#include <stop_token>
 
-class Month;
+class QString;
 
 /// The state of every day of the months that a store holds, unknown ones included. Of a month that is stored more than
 /// once, the first record counts.
 using DayStates = QMap<QDate, DayState>;
 
-[[nodiscard]] DayStates statesOf(const QList<std::shared_ptr<Month>>& months);
+/// Reads the days of a store of this version that was opened already, without locks. Changes that are not saved are not
+/// in it. May be called on any thread. Throws a StoreError if it cannot be read, with the cause Lock if it is written
+/// all the while.
+[[nodiscard]] DayStates readStore(const QString& path, const std::stop_token& stop = {});
 
 /// Reads a backup of this or an earlier version of the store, after verifying all of it. Changes nothing, not even
 /// beside the file. May be called on any thread. Throws a StoreError unless the backup is sound.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BackupCopy.h"
 
+#include "StoreError.h"
 #include "StoreFileWatch.h"
 
 #include <QUrl>
 
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
 
 #include <array>
@@ -14,6 +14,11 @@
 #include <unistd.h>
 
 namespace {
+
+// How often a store is read again because it has changed meanwhile.
+constexpr int attempts = 3;
+
+using Reader = std::function<void(SQLite::Database&)>;
 
 /// What the header of a store counts: its transactions. The time of the last change is too coarse to tell two of them
 /// apart that follow each other at once.
@@ -31,15 +36,8 @@ ChangeCounter changeCounter(SQLite::Database& database)
     return counter;
 }
 
-} // namespace
-
-SQLite::Database connectUnlocked(const QString& path)
-{
-    const QByteArray name = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
-    return {name.constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
-}
-
-bool copyUnlocked(const QString& path, const std::string& copy, const std::stop_token& stop)
+/// False if the store was written meanwhile, and what was read is of no use.
+bool isReadUndisturbed(const QString& path, const Reader& read, const std::stop_token& stop)
 {
     SQLite::Database store = connectUnlocked(path);
     const auto isStopped = [](void* token) {
@@ -59,14 +57,28 @@ bool copyUnlocked(const QString& path, const std::string& copy, const std::stop_
         return !isBeingWritten() && watch.look() == SaveState::File::Ours && changeCounter(store) == counter;
     };
     try {
-        store.exec("PRAGMA synchronous = OFF"); // the copy inherits it, and is of no use before it is whole
-        SQLite::Statement statement(store, "VACUUM INTO ?");
-        statement.bind(1, copy);
-        statement.exec();
-    } catch (const SQLite::Exception& error) {
-        if (error.getErrorCode() == SQLITE_INTERRUPT || isUnchanged())
+        read(store);
+    } catch (const std::exception&) {
+        if (stop.stop_requested() || isUnchanged())
             throw;
         return false; // half of a change looks like damage
     }
     return isUnchanged();
+}
+
+} // namespace
+
+SQLite::Database connectUnlocked(const QString& path)
+{
+    const QByteArray name = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
+    return {name.constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
+}
+
+void readUnlocked(const QString& path, const Reader& read, const std::stop_token& stop)
+{
+    int attempt = 1;
+    while (!isReadUndisturbed(path, read, stop)) {
+        if (attempt++ == attempts)
+            throw StoreError(StoreError::tr("The data file is being changed."), StoreError::Cause::Lock);
+    }
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <stop_token>
-#include <string>
 
 class QString;
 namespace SQLite {
@@ -13,6 +13,6 @@ class Database;
 /// it is written meanwhile, what is read is wrong. Throws the database's own exception.
 [[nodiscard]] SQLite::Database connectUnlocked(const QString& path);
 
-/// Copies a store into an empty file. False if the store was written meanwhile, and the copy is of no use. Throws the
-/// database's own exception, also if stopped.
-[[nodiscard]] bool copyUnlocked(const QString& path, const std::string& copy, const std::stop_token& stop);
+/// Reads a store without locks, and again if it was written meanwhile. Throws a StoreError with the cause Lock if it is
+/// written all the while, otherwise what `read` throws. If stopped, that is the database's own exception.
+void readUnlocked(const QString& path, const std::function<void(SQLite::Database&)>& read, const std::stop_token& stop);

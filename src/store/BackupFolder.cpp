@@ -14,6 +14,7 @@
 #include <QRegularExpression>
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -25,9 +26,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr auto timeFormat = "yyyy-MM-dd HH.mm.ss"_L1;
-
-// How often a copy is begun again because the store has changed meanwhile.
-constexpr int attempts = 3;
 
 QString fileName(const QDateTime& time, int number)
 {
@@ -60,11 +58,14 @@ void makeFolder(const QString& path)
 
 void copyAndVerify(const QString& store, Draft& draft, const std::stop_token& stop)
 {
-    for (int attempt = 1; !copyUnlocked(store, draft.fileName(), stop); ++attempt) {
-        if (attempt == attempts)
-            throw StoreError(StoreError::tr("The data file is being changed."), StoreError::Cause::Lock);
+    const auto copyInto = [&draft](SQLite::Database& source) {
         draft.clear();
-    }
+        source.exec("PRAGMA synchronous = OFF"); // the copy inherits it, and is of no use before it is whole
+        SQLite::Statement statement(source, "VACUUM INTO ?");
+        statement.bind(1, draft.fileName());
+        statement.exec();
+    };
+    readUnlocked(store, copyInto, stop);
     SQLite::Database copy(draft.fileName(), SQLite::OPEN_READWRITE);
     verifyCopy(copy, pellorySchema());
     draft.synchronise();

@@ -25,7 +25,7 @@ protected:
         QObject::connect(&followed, &BackupService::restoreFailed, &followed, [this] { ++failures; });
     }
     void mark(int day, DayState state) { marker.mark({{{2026, 11, day}, state}}, ChangedBy::Hand); }
-    [[nodiscard]] DayStates states() { return statesOf(container->mainContext().fetchMonths()); }
+    [[nodiscard]] DayStates states() const { return readStore(configuration.path); }
     [[nodiscard]] bool isStill() const
     {
         QCoreApplication::processEvents();
@@ -74,7 +74,7 @@ TEST_F(BackupServiceTest, restoresDaysAsOneUndoStepAfterABackup)
     mark(4, DayState::IN_OFFICE);
     marker.mark({{{2027, 1, 4}, DayState::IN_OFFICE}}, ChangedBy::Hand); // a month that the backup does not hold
     const auto before = states();
-    const auto differing = service->differencesTo(readBackup(file));
+    const auto differing = service->compare(file).result();
     EXPECT_EQ(differing, (QList<DayDifference>{{{2026, 11, 3}, DayState::VACATION_DAY, DayState::OUT_OF_OFFICE},
                                                {{2026, 11, 4}, DayState::IN_OFFICE, DayState::UNKNOWN}}));
 
@@ -87,7 +87,7 @@ TEST_F(BackupServiceTest, restoresDaysAsOneUndoStepAfterABackup)
     clock.advance(1s);
     service->restore(differing);
     ASSERT_TRUE(eventually([&] { return restores == 1; }));
-    EXPECT_EQ(service->differencesTo(readBackup(file)), QList<DayDifference>());
+    EXPECT_EQ(service->compare(file).result(), QList<DayDifference>());
     EXPECT_EQ(readBackup(service->folder().backups().first().path), before);
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(states(), before);

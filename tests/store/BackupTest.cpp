@@ -39,7 +39,11 @@ class BackupTest : OrdinaryUser, public StoreTest {
 protected:
     BackupTest() { putSample(); }
 
-    [[nodiscard]] DayStates states() const { return statesOf(open()->mainContext().fetchMonths()); }
+    [[nodiscard]] DayStates states() const
+    {
+        EXPECT_EQ(refusal(), "");
+        return readStore(path);
+    }
     [[nodiscard]] QString fileOf(const QString& time) const
     {
         return backups.path() + "/Pellory "_L1 + time + ".store"_L1;
@@ -99,7 +103,7 @@ TEST_F(BackupTest, neverMakesASaveFailAndIsNeverAMixture)
     FailingDisk::beforeWrite = save;
     const BackupFile made = backups.make(now);
     EXPECT_EQ(saves, 1);
-    EXPECT_EQ(readBackup(made.path), statesOf(context.fetchMonths()));
+    EXPECT_EQ(readBackup(made.path), readStore(path));
 
     const std::function<void()> saveAgain = [&] {
         save();

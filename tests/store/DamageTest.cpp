@@ -20,7 +20,7 @@ protected:
         }
         m_records = records(container->mainContext());
         m_changes = changes(container->mainContext());
-        m_states = statesOf(container->mainContext().fetchMonths());
+        m_states = readStore(path);
         sound = bytes();
         EXPECT_GT(sound.size() / pageSize, 10);
     }

@@ -143,7 +143,7 @@ void DataSettingsView::refresh()
     m_files = m_backups.folder().backups();
     m_isOutdated = false;
     m_findings.clear();
-    m_now.reset();
+    m_isCountOutdated = true;
     m_empty->setVisible(m_files.isEmpty());
     while (m_rows.size() < m_files.size())
         m_rows.append(makeRow());
@@ -190,22 +190,11 @@ void DataSettingsView::countNext()
 {
     const auto next =
         std::ranges::find_if(m_files, [this](const BackupFile& backup) { return !m_findings.contains(backup.path); });
-    if (!m_counted.isEmpty() || !isVisible())
+    if (!m_counted.isEmpty() || !isVisible() || next == m_files.end())
         return;
-    if (next == m_files.end()) {
-        m_now.reset();
-        return;
-    }
-    try {
-        if (!m_now)
-            m_now = statesOf(m_context.fetchMonths());
-    } catch (const StoreError&) {
-        return; // which the main window says
-    }
     m_counted = next->path;
-    // In the thread that has read the backup.
-    m_count.setFuture(m_backups.read(m_counted).then(
-        [now = *m_now](const DayStates& states) { return differences(now, states).size(); }));
+    m_isCountOutdated = false;
+    m_count.setFuture(m_backups.compare(m_counted));
 }
 
 void DataSettingsView::showCount()
@@ -213,13 +202,13 @@ void DataSettingsView::showCount()
     const QString path = std::exchange(m_counted, {});
     QString finding;
     try {
-        finding = backupTexts::difference(m_count.result());
+        finding = backupTexts::difference(m_count.result().size());
+        m_unsound.remove(path);
     } catch (const StoreError& error) {
         finding = error.cause() == StoreError::Cause::Damage ? tr("damaged") : error.description();
         m_unsound.insert(path);
     }
-    // The days may have changed meanwhile.
-    if (m_now) {
+    if (!m_isCountOutdated) {
         m_findings.insert(path, finding);
         const auto found = std::ranges::find(m_files, path, &BackupFile::path);
         if (found != m_files.end())

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BackupContents.h"
 #include "BackupFolder.h"
+#include "DayDifference.h"
 
 #include <QFutureWatcher>
 #include <QHash>
 #include <QWidget>
-
-#include <optional>
 
 class BackupService;
 class Button;
@@ -66,12 +64,12 @@ private:
     /// What is known of backups, by path.
     QHash<QString, QString> m_findings;
     QSet<QString> m_unsound;
-    /// What the store holds, while it is compared.
-    std::optional<DayStates> m_now;
     bool m_isOutdated = false;
     /// Whether a person waits for a backup.
     bool m_isAsked = false;
     /// The backup that is being read.
     QString m_counted;
-    QFutureWatcher<qsizetype> m_count;
+    /// Whether the days may have changed since it is being read.
+    bool m_isCountOutdated = false;
+    QFutureWatcher<QList<DayDifference>> m_count;
 };

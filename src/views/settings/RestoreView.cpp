@@ -39,7 +39,7 @@ RestoreView::RestoreView(BackupService& backups, const BackupFile& backup, QWidg
         say(tr("Nothing was restored. %1").arg(reason));
     });
     connect(&m_reading, &QFutureWatcherBase::finished, this, &RestoreView::showDays);
-    m_reading.setFuture(backups.read(backup.path));
+    m_reading.setFuture(backups.compare(backup.path));
 }
 
 void RestoreView::build(const BackupFile& backup)
@@ -67,7 +67,7 @@ void RestoreView::showDays()
 {
     QList<DayDifference> days;
     try {
-        days = m_backups.differencesTo(m_reading.result());
+        days = m_reading.result();
     } catch (const StoreError& error) {
         say(error.description());
         return;

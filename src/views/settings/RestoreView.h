@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BackupContents.h"
+#include "DayDifference.h"
 
 #include <QFutureWatcher>
 #include <QWidget>
@@ -36,7 +36,7 @@ private:
     void restore();
 
     BackupService& m_backups;
-    QFutureWatcher<DayStates> m_reading;
+    QFutureWatcher<QList<DayDifference>> m_reading;
     RestoreModel* m_model = nullptr;
     QLabel* m_message;
     RestoreTree* m_tree;
