@@ -108,6 +108,23 @@ bool UndoHistory::undo(qint64 group)
     });
 }
 
+bool UndoHistory::undoCheck(QDate date, DayState before)
+{
+    const qint64 check = logErrors([&] {
+        qint64 group = 0;
+        Reversals reversals;
+        m_marker.context().visitChanges(date, [&](const DayChange& change) {
+            if (reversals.include(change))
+                return true;
+            if (change.by == ChangedBy::Check && change.before == before)
+                group = change.group;
+            return false;
+        });
+        return group;
+    });
+    return check != 0 && undo(check);
+}
+
 bool UndoHistory::redo()
 {
     const qint64 group = logErrors([this] { return groupToRedo(); });

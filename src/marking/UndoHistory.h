@@ -22,6 +22,9 @@ public:
     bool undo();
     /// Takes back one group, such as that of a notification. False if none of its days is as the group left it.
     bool undo(qint64 group);
+    /// Takes back the mark of a check that is in force on a day. False if there is none, or the day was not in the
+    /// state `before` it.
+    bool undoCheck(QDate date, DayState before);
     /// Takes back the last undo, unless something else was changed since. False if there is none.
     bool redo();
 

@@ -82,7 +82,7 @@ void focusFirst(const QWidget& holder)
 
 } // namespace
 
-DayDetails::DayDetails(DayMarker& marker, const UndoHistory& history, const Clock& clock, Place place, QWidget* cell)
+DayDetails::DayDetails(DayMarker& marker, UndoHistory& history, const Clock& clock, Place place, QWidget* cell)
     : Popover(cell, Side::Beside)
     , m_marker(marker)
     , m_history(history)
@@ -206,10 +206,16 @@ QWidget* DayDetails::makeEarlierState(const PastState& state)
         return row;
     auto* button = new LinkButton(tr("Set Back"));
     button->setAccessibleName(tr("Set back to %1. %2", "state, and who set it when").arg(description(then.state), how));
-    connect(button, &QAbstractButton::clicked, this,
-            [this, then] { m_marker.mark(*m_place.month, m_place.index, then.state, MarkedBy::Click); });
+    connect(button, &QAbstractButton::clicked, this, [this, then] { setBack(then.state); });
     row->layout()->addWidget(button);
     return row;
+}
+
+// As an undo of today's check, so that the next check does not set the state again.
+void DayDetails::setBack(DayState state)
+{
+    if (m_date != m_clock.today() || !m_history.undoCheck(m_date, state))
+        m_marker.mark(*m_place.month, m_place.index, state, MarkedBy::Click);
 }
 
 void DayDetails::saveNote()

@@ -30,7 +30,7 @@ public:
         qsizetype index = 0;
     };
 
-    DayDetails(DayMarker& marker, const UndoHistory& history, const Clock& clock, Place place, QWidget* cell);
+    DayDetails(DayMarker& marker, UndoHistory& history, const Clock& clock, Place place, QWidget* cell);
     /// Saves the note.
     ~DayDetails() override;
 
@@ -42,10 +42,11 @@ private:
     void followStates();
     [[nodiscard]] QWidget* makeEarlierStates(const QList<PastState>& states);
     [[nodiscard]] QWidget* makeEarlierState(const PastState& state);
+    void setBack(DayState state);
     void saveNote();
 
     DayMarker& m_marker;
-    const UndoHistory& m_history;
+    UndoHistory& m_history;
     const Clock& m_clock;
     Place m_place;
     QDate m_date;

@@ -66,11 +66,12 @@ TEST_F(DayDetailsTest, sayWhoSetADayAndSetItBackAsOneStep)
     clock.advance(std::chrono::hours(1));
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space})
         press(details, key);
-    EXPECT_EQ(details.accessibleDescription(), u"Unknown. By hand, 11:00:00"_s);
+    EXPECT_EQ(details.accessibleDescription(), u"Unknown. Undone, 11:00:00"_s);
+    EXPECT_EQ(marker.mark(*november, friday, IN_OFFICE, MarkedBy::Check), 0);
     EXPECT_THAT(setBack(), Contains(details.focusWidget()->accessibleName()));
     close();
     EXPECT_TRUE(window->focusWidget() == &dayButton(*window, 20));
-    EXPECT_TRUE(history.undo());
+    EXPECT_TRUE(history.redo());
     EXPECT_EQ(DayMarker::stateOf(*november, friday), IN_OFFICE);
 }
 
