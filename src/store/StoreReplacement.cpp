@@ -26,6 +26,7 @@ StoreReplacement::StoreReplacement(const QString& path)
     : m_path(path)
     , m_draft(path + ".new-XXXXXX"_L1)
 {
+    Draft::removeAbandoned(path);
     // Which has no name yet if this fails.
     if (!m_draft.open())
         throw StoreError(StoreError::tr("The file %1 cannot be created: %2.").arg(path, m_draft.errorString()));
