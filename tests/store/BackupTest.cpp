@@ -3,9 +3,31 @@
 #include "BackupFolder.h"
 #include "FailingDisk.h"
 #include "KeptBackups.h"
+#include "StoreReplacement.h"
 #include "StoreTest.h"
 
 #include <random>
+
+#include <dlfcn.h>
+
+// In the place of the system's own, so that the program can be killed before each of them.
+extern "C" {
+int rename(const char* from, const char* to) noexcept
+{
+    FailingDisk::killBeforeName();
+    return reinterpret_cast<decltype(&rename)>(dlsym(RTLD_NEXT, "rename"))(from, to);
+}
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept
+{
+    FailingDisk::killBeforeName();
+    return reinterpret_cast<decltype(&renameat2)>(dlsym(RTLD_NEXT, "renameat2"))(fromFolder, from, toFolder, to, flags);
+}
+int unlink(const char* name) noexcept
+{
+    FailingDisk::killBeforeName();
+    return reinterpret_cast<decltype(&unlink)>(dlsym(RTLD_NEXT, "unlink"))(name);
+}
+}
 
 TEST(KeptBackupsTest, areTheNewestOfEachPeriodForAnySequenceOfDays)
 {
@@ -115,29 +137,59 @@ TEST_F(BackupTest, neverMakesASaveFailAndIsNeverAMixture)
     EXPECT_EQ(backups.backups().size(), 1);
 }
 
+TEST_F(BackupTest, noFaultOrKillOfAReplacementCostsTheStoreOrTheBackup)
+{
+    const BackupFile backup = backups.make(now);
+    const DayStates old = states();
+    mark(*open()->mainContext().fetchMonths(2026, 3).first(), 12, DayState::VACATION_DAY);
+    const QByteArray before = bytes();
+    const QString kept = u".replaced"_s;
+    const auto calls = FailingDisk::strikeEverywhere(FailingDisk::failuresAndKill, [&] {
+        QFile::remove(path + kept);
+        setBytes(before);
+        FailingDisk::run([&] {
+            try {
+                StoreReplacement replacement(path);
+                replacement.copyBackup(backup.path);
+                replacement.putInPlace();
+            } catch (const StoreError& error) {
+                EXPECT_TRUE(FailingDisk::hasStruck()) << error.what();
+            }
+        });
+        const bool isReplaced = bytes() != before;
+        EXPECT_TRUE(isReplaced || FailingDisk::hasStruck());
+        EXPECT_TRUE(!isReplaced || (states() == old && bytes(kept) == before));
+        EXPECT_EQ(readBackup(backup.path), old);
+    });
+    EXPECT_GE(calls.at(FailingDisk::Name), 2);
+}
+
 TEST_F(BackupTest, noFaultOrKillCostsTheStoreOrAnOlderBackup)
 {
     const DayStates old = states();
     const auto older = backups.make(now.addDays(-1));
     const QByteArray before = bytes();
     const auto calls = FailingDisk::strikeEverywhere(FailingDisk::failuresAndKill, [&] {
+        EXPECT_TRUE(QFile::copy(older.path, fileOf(u"2026-03-08 08.00.00"_s)));
         FailingDisk::run([&] {
             try {
                 backups.make(now);
+                backups.thin(now);
             } catch (const StoreError& error) {
                 EXPECT_FALSE(error.description().isEmpty());
             }
         });
         EXPECT_TRUE(bytes() == before);
         const auto left = backups.backups();
-        EXPECT_EQ(left.size(), FailingDisk::hasStruck() ? 1 : 2);
-        EXPECT_EQ(left.last(), older);
-        for (const BackupFile& backup : left)
+        EXPECT_THAT(left, testing::Contains(older));
+        EXPECT_GE(left.size(), 2); // with a new one, one that is not kept any more, or both
+        for (const BackupFile& backup : left) {
             EXPECT_EQ(readBackup(backup.path), old);
-        if (left.first() != older)
-            QFile::remove(left.first().path);
+            if (backup != older)
+                QFile::remove(backup.path);
+        }
     });
-    EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(3), testing::Ge(5), 0, 0, testing::Ge(1)));
+    EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(3), testing::Ge(5), 0, 0, testing::Ge(1), testing::Ge(2)));
     backups.make(now);
     EXPECT_EQ(QDir(backups.path()).entryList(QDir::Files).size(), 2) << "no draft is left";
 

@@ -19,7 +19,8 @@
 /// While it exists, SQLite's files are on a disk that can fail, or kill the program, at any call.
 class FailingDisk {
 public:
-    enum Call : std::size_t { Open, Write, Sync, Truncate, Delete, callCount };
+    /// A file gets, changes or loses a name: that only kills.
+    enum Call : std::size_t { Open, Write, Sync, Truncate, Delete, Name, callCount };
     enum Fault { FailOnce, FailFromThenOn, Kill };
     static constexpr auto failures = {FailOnce, FailFromThenOn};
     static constexpr auto failuresAndKill = {FailOnce, FailFromThenOn, Kill};
@@ -89,6 +90,11 @@ public:
     {
         plan.isArmed = isArmed;
         unsynced.clear();
+    }
+    static void killBeforeName()
+    {
+        if (plan.fault == Kill)
+            strikes(Name);
     }
     /// Called once, before the next write.
     static inline std::function<void()> beforeWrite;
