@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 UndoLine::UndoLine(DayMarker& marker, UndoHistory& history, const Clock& clock, QStackedWidget& pages)
     : QObject(&pages)
@@ -60,7 +61,8 @@ void UndoLine::note(const ChangedDays& change)
 
 void UndoLine::showChanges()
 {
-    m_isShown = true;
+    if (std::exchange(m_isShown, true)) // a later key has found nothing, which is shown
+        return;
     const QString text = changeText(m_changes, m_clock.today());
     line().showText(text, m_changes.last().by == ChangedBy::Undo ? tr("Redo") : tr("Undo"));
     if (!isSaidByDay())
@@ -70,6 +72,7 @@ void UndoLine::showChanges()
 void UndoLine::showNothing(const QString& text)
 {
     m_changes.clear();
+    m_isShown = true;
     line().showText(text);
     announce(line(), text);
 }

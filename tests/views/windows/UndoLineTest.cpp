@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "UndoLine.h"
 #include "ContentView.h"
 #include "FootLine.h"
 #include "ViewTest.h"
@@ -46,6 +47,12 @@ TEST_F(UndoLineTest, saysWhatChangedAndTakesItBackByKeyAndLink)
         {link, u"Taken back: Tue 4 March 2025 is Unknown again, Tue 17 November is Unknown again"_s},
         {set({{{2026, 3, 2}, off}, {{2026, 3, 3}, off}}, ChangedBy::Restore), u"Restored: 2 days"_s},
         {set({{{2025, 2, 3}, off}, {{2025, 2, 4}, off}}, ChangedBy::Hand), u"2 days: Vacation Day"_s},
+        {undo, u"Taken back: 2 days"_s},
+        {[&] {
+             auto& both = *window.findChild<UndoLine*>(); // keys that wait while the program is busy
+             both.redo(), both.redo();
+         },
+         u"Nothing to redo"_s},
         {undo, u"Taken back: 2 days"_s},
     };
     for (const auto& [action, text] : rows) {
