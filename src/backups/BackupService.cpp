@@ -231,6 +231,8 @@ void BackupService::run(const Job<Result>& job, const std::function<void(const R
             done(watcher->result());
         } catch (const StoreError& error) {
             failed(error);
+        } catch (const std::exception& error) { // such as those of the file system
+            failed(StoreError(QString::fromUtf8(error.what()), StoreError::Cause::Obstacle));
         }
     });
     watcher->setFuture(run(job));

@@ -47,9 +47,9 @@ void makeFolder(const QString& path)
     if (fs::create_directory(folder, error)) {
         fs::permissions(folder, fs::perms::owner_all, error);
         synchroniseFolder(QFileInfo(path).path());
-    }
-    if (!error && !fs::is_directory(folder))
+    } else if (error == std::errc::file_exists) {
         error = std::make_error_code(std::errc::not_a_directory);
+    }
     if (error)
         throw StoreError(
             StoreError::tr("The folder %1 cannot be used: %2.").arg(path, QString::fromStdString(error.message())),
