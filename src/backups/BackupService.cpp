@@ -78,6 +78,8 @@ void BackupService::makeDaily()
 
 bool BackupService::isDue() const
 {
+    if (!m_problem.value().isEmpty())
+        return true;
     const QDateTime now = m_clock.now();
     for (const BackupFile& backup : m_folder.backups()) {
         if (!backup.isBeforeMigration && backup.made <= now)
@@ -98,6 +100,7 @@ void BackupService::makeNow()
 void BackupService::report(const StoreError& error)
 {
     m_problem = error.description();
+    m_doneOn = {}; // the next quiet minute tries again
     Q_EMIT failed(error.description());
 }
 
