@@ -60,22 +60,19 @@ TEST_F(BackupServiceTest, makesOneBackupOnEachDayWithAChangeAndTriesAgainAfterAF
     EXPECT_EQ(service->problem().value(), QString());
     mark(3, DayState::IN_OFFICE);
     EXPECT_TRUE(isStill());
-    const QString path = service->folder().path(), away = path + "-away"_L1;
-    QDir().rename(path, away);
-    QFile(path).open(QFile::WriteOnly);
+    const QString away = backups + "-away"_L1;
+    QDir().rename(backups, away);
+    QFile(backups).open(QFile::WriteOnly);
     service->makeNow();
     ASSERT_TRUE(eventually([&] { return failures == 2; }));
-    QFile::remove(path);
-    QDir().rename(away, path);
+    QFile::remove(backups);
+    QDir().rename(away, backups);
     mark(4, DayState::IN_OFFICE);
     ASSERT_TRUE(eventually([&] { return made == 2; })) << "although there is one of today";
     mark(5, DayState::IN_OFFICE);
     clock.advance(24h);
-    ASSERT_TRUE(eventually([&] { return made == 2; }));
-    EXPECT_EQ(readBackup(service->folder().backups().at(1).path), states());
-
     ASSERT_TRUE(eventually([&] { return made == 3; }));
-    EXPECT_EQ(readBackup(service->folder().backups().first().path), states());
+    EXPECT_EQ(readBackup(service->folder().backups().at(1).path), states());
     clock.advance(24h);
     EXPECT_TRUE(isStill()) << "nothing has changed";
 }

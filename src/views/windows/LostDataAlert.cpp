@@ -29,16 +29,20 @@ LostDataAlert::LostDataAlert(BackupService& backups, LostStore how, const Backup
     });
     connect(m_restore, &QAbstractButton::clicked, this, &LostDataAlert::advance);
     connect(&m_reading, &QFutureWatcherBase::finished, this, &LostDataAlert::showContents);
-    connect(&backups, &BackupService::restoreFailed, this,
-            [this](const QString& reason) { setTexts(m_title, tr("Nothing was restored. %1").arg(reason)); });
+    connect(&backups, &BackupService::restoreFailed, this, [this](const QString& reason) {
+        m_restore->setEnabled(true);
+        setTexts(m_title, tr("Nothing was restored. %1").arg(reason));
+    });
 }
 
 void LostDataAlert::advance()
 {
-    if (m_isShown)
+    if (m_isShown) {
+        m_restore->setEnabled(false); // a second press would replace what the first has brought back
         m_backups.replaceStore(m_path);
-    else if (!m_reading.isRunning())
+    } else if (!m_reading.isRunning()) {
         m_reading.setFuture(m_backups.read(m_path));
+    }
 }
 
 void LostDataAlert::showContents()
