@@ -73,7 +73,7 @@ TEST_F(DamageTest, isRecognisedInTheHeader)
 {
     for (qsizetype bit = 0; bit < 800; ++bit) {
         SCOPED_TRACE(bit);
-        if (isRefused(withFlippedBit(bit / 8, bit % 8)))
+        if (isRefused(withFlippedBit(bit / 8, bit % 8), bit % 4 == 0))
             continue;
         // What the database ignores must not prevent the next mark either.
         const auto container = open();
@@ -98,7 +98,7 @@ TEST_F(DamageTest, isRecognisedAtRandom)
         return below(2) == 0 ? below(sound.size()) : below(sound.size() / pageSize) * pageSize + below(128);
     };
 
-    const int count = 5'000 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
+    const int count = 2'000 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
     int refused = 0;
     for (int number = 0; number < count && !HasFailure(); ++number) {
         SCOPED_TRACE(testing::Message() << "mutation " << number);
