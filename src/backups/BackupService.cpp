@@ -50,7 +50,8 @@ void BackupService::start()
         if (m_isPending)
             m_quiet.start();
     });
-    m_quiet.start();
+    if (isDue())
+        m_quiet.start();
 }
 
 void BackupService::waitForQuiet()
