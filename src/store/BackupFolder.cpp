@@ -11,7 +11,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -33,11 +32,13 @@ QString fileName(const QDateTime& time, int number)
     return "Pellory "_L1 + time.toString(timeFormat) + suffix + ".store"_L1;
 }
 
-/// Invalid if the name is not that of a backup.
-QDateTime timeIn(const QString& fileName)
+/// Invalid if the name is not that of a backup. Without a regular expression, whose library would stay in memory.
+QDateTime timeIn(const QString& name)
 {
-    static const QRegularExpression pattern(u"^Pellory (.{19})( \\(\\d+\\))?\\.store$"_s);
-    return QDateTime::fromString(pattern.match(fileName).captured(1), timeFormat);
+    constexpr qsizetype start = "Pellory "_L1.size(), length = "2026-11-22 09.15.00"_L1.size();
+    const QDateTime time = QDateTime::fromString(name.mid(start, length), timeFormat);
+    const int number = name.section(u'(', 1).section(u')', 0, 0).toInt(); // 0 if there is none
+    return time.isValid() && name == fileName(time, number) ? time : QDateTime();
 }
 
 void makeFolder(const QString& path)
@@ -99,9 +100,9 @@ QList<BackupFile> backupsIn(const QString& folder)
 QList<BackupFile> copiesOfMigrations(const QFileInfo& store)
 {
     QList<BackupFile> backups;
-    for (const QFileInfo& file :
-         store.dir().entryInfoList({store.fileName() + ".before-*"_L1}, QDir::Files | QDir::NoSymLinks)) {
-        if (!file.fileName().contains(".new-"_L1)) {
+    for (const QFileInfo& file : store.dir().entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        const QString name = file.fileName();
+        if (name.startsWith(store.fileName() + ".before-"_L1) && !name.contains(".new-"_L1)) {
             backups.append(describe(file, file.lastModified()));
             backups.last().isBeforeMigration = true;
         }
