@@ -119,13 +119,14 @@ void HoverLabel::paintEvent(QPaintEvent* /*event*/)
     line.setHeight(contents.height() / static_cast<int>(1 + below.size()));
     painter.setPen(Qt::white);
     painter.drawText(QStyle::visualRect(layoutDirection(), line, line.adjusted(markRoom(), 0, 0, 0)),
-                     below.isEmpty() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter, m_text);
+                     below.isEmpty() ? Qt::AlignCenter : static_cast<int>(Qt::AlignLeft) | Qt::AlignVCenter, m_text);
     if (m_mark)
         m_mark(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
                                             {markSize(), markSize()}, line));
     for (const QString& words : below) {
         line.translate(0, line.height());
-        painter.drawText(line, (words.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, words);
+        const int side = words.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+        painter.drawText(line, side | Qt::AlignVCenter, words);
     }
 }
 

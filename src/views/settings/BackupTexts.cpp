@@ -13,7 +13,7 @@ struct BackupTexts {
 
 } // namespace
 
-QString backupTexts::time(const QDateTime& made)
+QString backup_texts::time(const QDateTime& made)
 {
     //: A date, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString date = QLocale().toString(made.date(), BackupTexts::tr("d MMMM yyyy"));
@@ -21,23 +21,23 @@ QString backupTexts::time(const QDateTime& made)
         .arg(date, QLocale().toString(made.time(), QLocale::ShortFormat));
 }
 
-QString backupTexts::days(qsizetype count)
+QString backup_texts::days(qsizetype count)
 {
     return count == 1 ? BackupTexts::tr("1 day") : BackupTexts::tr("%n days", nullptr, static_cast<int>(count));
 }
 
-QString backupTexts::markedDays(qsizetype count)
+QString backup_texts::markedDays(qsizetype count)
 {
     return count == 1 ? BackupTexts::tr("1 marked day")
                       : BackupTexts::tr("%n marked days", nullptr, static_cast<int>(count));
 }
 
-QString backupTexts::months(qsizetype count)
+QString backup_texts::months(qsizetype count)
 {
     return count == 1 ? BackupTexts::tr("1 month") : BackupTexts::tr("%n months", nullptr, static_cast<int>(count));
 }
 
-QString backupTexts::difference(qsizetype days)
+QString backup_texts::difference(qsizetype days)
 {
     if (days == 0)
         return BackupTexts::tr("same as now");
@@ -45,7 +45,7 @@ QString backupTexts::difference(qsizetype days)
                      : BackupTexts::tr("%n days differ", nullptr, static_cast<int>(days));
 }
 
-QString backupTexts::restored(qsizetype days)
+QString backup_texts::restored(qsizetype days)
 {
     if (days == 0)
         return BackupTexts::tr("Every day was as it should be. Nothing has changed.");

@@ -5,7 +5,7 @@
 
 class QDateTime;
 
-namespace backupTexts {
+namespace backup_texts {
 
 /// When a backup was made, such as "21 November 2026, 18:04".
 [[nodiscard]] QString time(const QDateTime& made);
@@ -19,4 +19,4 @@ namespace backupTexts {
 /// What came of restoring days.
 [[nodiscard]] QString restored(qsizetype days);
 
-} // namespace backupTexts
+} // namespace backup_texts

@@ -173,7 +173,7 @@ DataSettingsView::Row DataSettingsView::makeRow()
 
 void DataSettingsView::showBackup(const Row& row, const BackupFile& backup)
 {
-    const QString time = backupTexts::time(backup.made);
+    const QString time = backup_texts::time(backup.made);
     QStringList details{QLocale().formattedDataSize(backup.size, 0, QLocale::DataSizeSIFormat)};
     if (backup.isBeforeMigration)
         details += tr("made before an update");
@@ -202,7 +202,7 @@ void DataSettingsView::showCount()
     const QString path = std::exchange(m_counted, {});
     QString finding;
     try {
-        finding = backupTexts::difference(m_count.result().size());
+        finding = backup_texts::difference(m_count.result().size());
         m_unsound.remove(path);
     } catch (const StoreError& error) {
         finding = error.cause() == StoreError::Cause::Damage ? tr("damaged") : error.description();

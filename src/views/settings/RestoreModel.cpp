@@ -113,7 +113,7 @@ QVariant RestoreModel::monthData(const MonthRows& month, int role) const
         return {};
     const QDate date = m_days.at(month.firstDay).date;
     const QString name = tr("%1 %2", "month, year").arg(QLocale().standaloneMonthName(date.month())).arg(date.year());
-    return tr("%1: %2", "month, number of days").arg(name, backupTexts::days(month.dayCount));
+    return tr("%1: %2", "month, number of days").arg(name, backup_texts::days(month.dayCount));
 }
 
 bool RestoreModel::setData(const QModelIndex& index, const QVariant& value, int role)

@@ -31,7 +31,7 @@ RestoreView::RestoreView(BackupService& backups, const BackupFile& backup, QWidg
     connect(m_restore, &QAbstractButton::clicked, this, &RestoreView::restore);
     connect(&backups, &BackupService::restored, this, [this](qint64 group) {
         if (m_restoring > 0)
-            Q_EMIT finished(backupTexts::restored(group == 0 ? 0 : m_restoring));
+            Q_EMIT finished(backup_texts::restored(group == 0 ? 0 : m_restoring));
     });
     connect(&backups, &BackupService::restoreFailed, this, [this](const QString& reason) {
         m_restoring = 0;
@@ -47,7 +47,7 @@ void RestoreView::build(const BackupFile& backup)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(pageMargins);
     column->setSpacing(8);
-    column->addWidget(labels::heading(tr("Restore the Backup of %1").arg(backupTexts::time(backup.made))));
+    column->addWidget(labels::heading(tr("Restore the Backup of %1").arg(backup_texts::time(backup.made))));
     column->addWidget(m_message);
     auto* card = Card::around(m_tree);
     m_tree->setObjectName("days"_L1);

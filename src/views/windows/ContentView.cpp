@@ -47,7 +47,7 @@ constexpr int firstTab = 1;
 constexpr int menuGap = 4;
 
 // These, and the others that the desktop has for the same.
-QList<QKeySequence> withDesktopKeys(QKeySequence keys, QKeySequence::StandardKey standard)
+QList<QKeySequence> withDesktopKeys(const QKeySequence& keys, QKeySequence::StandardKey standard)
 {
     QList<QKeySequence> all = QKeySequence::keyBindings(standard);
     all.removeAll(keys);

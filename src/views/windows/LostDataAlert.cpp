@@ -22,7 +22,7 @@ LostDataAlert::LostDataAlert(BackupService& backups, LostStore how, const Backup
     auto* decline = addButton(u"declineBackup"_s, tr("Not Now"));
     m_restore = addButton(u"restoreBackup"_s, tr("Restore..."));
     m_restore->setProminent(true);
-    setTexts(m_title, tr("A backup of %1 can be brought back.").arg(backupTexts::time(backup.made)));
+    setTexts(m_title, tr("A backup of %1 can be brought back.").arg(backup_texts::time(backup.made)));
     connect(decline, &QAbstractButton::clicked, this, [this] {
         hide();
         Q_EMIT declined();
@@ -62,7 +62,7 @@ void LostDataAlert::showContents()
         setTexts(m_title,
                  tr("In the backup: %1 in %2, and your goals and settings. It replaces what is here now, which is "
                     "kept beside it as Pellory.store.replaced.")
-                     .arg(backupTexts::markedDays(days), backupTexts::months(months.size())));
+                     .arg(backup_texts::markedDays(days), backup_texts::months(months.size())));
     } catch (const StoreError& error) {
         setTexts(m_title, error.description());
     }

@@ -14,7 +14,6 @@
 #include <QStackedWidget>
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 UndoLine::UndoLine(DayMarker& marker, UndoHistory& history, const Clock& clock, QStackedWidget& pages)
@@ -94,8 +93,8 @@ void UndoLine::revertShown()
     m_sinceRevert.start();
     const auto changes = m_changes; // reverting notes others
     bool isReverted = false;
-    for (const ChangedDays& change : changes | std::views::reverse)
-        isReverted |= m_history.undo(change.group);
+    for (auto change = changes.rbegin(); change != changes.rend(); ++change)
+        isReverted |= m_history.undo(change->group);
     if (!isReverted)
         showNothing(tr("Nothing to undo"));
 }
