@@ -93,9 +93,11 @@ class FaultsTest(DesktopTest):
         eventually(lambda: notices() == 2)  # about the day before, and to whoever has asked for the check
         self.press("Add \u2068Büro\u2069", "Run In-Office Check", then=lambda: notices() == 3)
         eventually(lambda: self.marks() == expected)
+        on_screen = partial(dunst, PROPERTIES, "Get", "ss", DUNST, "displayedLength")
+        before_undo = on_screen()
         dunst(DUNST, "NotificationAction", "u", 0)  # which undoes the mark of the day before, and closes it
         del expected[f"{before:%F}"]
-        eventually(lambda: self.marks() == expected)
+        eventually(lambda: self.marks() == expected and on_screen() < before_undo)
         dunst(DUNST, "NotificationAction", "u", 0)
         eventually(lambda: self.titles(ACTIVE) == ["Pellory"])
         program.kill()
