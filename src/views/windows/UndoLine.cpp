@@ -93,8 +93,8 @@ void UndoLine::revertShown()
     m_sinceRevert.start();
     const auto changes = m_changes; // reverting notes others
     bool isReverted = false;
-    for (auto change = changes.rbegin(); change != changes.rend(); ++change)
-        isReverted |= m_history.undo(change->group);
+    std::for_each(changes.rbegin(), changes.rend(),
+                  [&](const ChangedDays& change) { isReverted |= m_history.undo(change.group); });
     if (!isReverted)
         showNothing(tr("Nothing to undo"));
 }
