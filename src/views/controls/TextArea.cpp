@@ -2,17 +2,15 @@
 #include "TextArea.h"
 
 #include "Fonts.h"
-#include "Theme.h"
+#include "Outline.h"
 #include "ThinScrollBarStyle.h"
 
 #include <QEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 namespace {
 
 constexpr QMargins areaPadding(4, 3, 2, 3);
-constexpr qreal areaRadius = 7.0;
 
 } // namespace
 
@@ -22,7 +20,7 @@ TextArea::TextArea(int lines, QWidget* parent)
     setFont(fonts::body(font()));
     setAcceptRichText(false);
     setTabChangesFocus(true);
-    // paintBorder() draws the border.
+    // event() draws the border.
     setFrameShape(QFrame::NoFrame);
     setViewportMargins(areaPadding);
     viewport()->setAutoFillBackground(false);
@@ -38,19 +36,8 @@ TextArea::TextArea(int lines, QWidget* parent)
 bool TextArea::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint)
-        paintBorder();
+        drawField(*this);
     return QTextEdit::event(event);
-}
-
-void TextArea::paintBorder()
-{
-    const Theme& theme = themeFor(palette());
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.controlBorder, 1.0));
-    painter.setBrush(theme.field);
-    const qreal inset = painter.pen().widthF() / 2;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), areaRadius, areaRadius);
 }
 
 void TextArea::focusInEvent(QFocusEvent* event)

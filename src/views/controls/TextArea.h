@@ -22,5 +22,4 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void paintBorder();
 };

@@ -2,16 +2,14 @@
 #include "TextField.h"
 
 #include "Fonts.h"
+#include "Outline.h"
 #include "ReturnKey.h"
-#include "Theme.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
 namespace {
 
 constexpr QMargins fieldPadding(7, 4, 7, 4);
-constexpr qreal fieldRadius = 7.0;
 
 } // namespace
 
@@ -38,14 +36,6 @@ void TextField::keyPressEvent(QKeyEvent* event)
 
 void TextField::paintEvent(QPaintEvent* event)
 {
-    const Theme& theme = themeFor(palette());
-    {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.controlBorder, 1.0));
-        painter.setBrush(theme.field);
-        const qreal inset = painter.pen().widthF() / 2;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), fieldRadius, fieldRadius);
-    }
+    drawField(*this);
     QLineEdit::paintEvent(event);
 }

@@ -4,6 +4,7 @@
 #include "Theme.h"
 
 #include <QPainter>
+#include <QWidget>
 
 void drawOutline(QPainter& painter, const QRectF& area, qreal radius, const Theme& theme)
 {
@@ -14,4 +15,16 @@ void drawOutline(QPainter& painter, const QRectF& area, qreal radius, const Them
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
     painter.restore();
+}
+
+void drawField(QWidget& field)
+{
+    constexpr qreal radius = 7.0;
+    const Theme& theme = themeFor(field.palette());
+    QPainter painter(&field);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(field.hasFocus() ? QPen(theme.accent, 2.0) : QPen(theme.controlBorder, 1.0));
+    painter.setBrush(theme.field);
+    const qreal inset = painter.pen().widthF() / 2;
+    painter.drawRoundedRect(QRectF(field.rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

@@ -5,7 +5,11 @@
 
 class QPainter;
 class QRectF;
+class QWidget;
 struct Theme;
 
 /// Draws the outline that high contrast gives to what would differ from its ground by colour alone.
 void drawOutline(QPainter& painter, const QRectF& area, qreal radius, const Theme& theme);
+
+/// Draws the ground and the border of a text field, which tells whether it has the focus.
+void drawField(QWidget& field);
