@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int diameter = 8;
-constexpr int distance = 16;
+constexpr int dotDistance = 16;
 
 } // namespace
 
@@ -18,7 +18,7 @@ StepDots::StepDots(int count, QWidget* parent)
     , m_count(count)
 {
     setAccessibleRole(*this, QAccessible::Graphic);
-    setFixedSize((count - 1) * distance + diameter + 2, diameter + 2);
+    setFixedSize((count - 1) * dotDistance + diameter + 2, diameter + 2);
 }
 
 void StepDots::setCurrent(int current)
@@ -37,6 +37,6 @@ void StepDots::paintEvent(QPaintEvent* /*event*/)
         const int place = layoutDirection() == Qt::LeftToRight ? step : m_count - 1 - step;
         painter.setPen(step <= m_current ? theme.accent : theme.dimText);
         painter.setBrush(step <= m_current ? QBrush(theme.accent) : QBrush(Qt::NoBrush));
-        painter.drawEllipse(QRectF(place * distance + 1, 1, diameter, diameter));
+        painter.drawEllipse(QRectF(place * dotDistance + 1, 1, diameter, diameter));
     }
 }
