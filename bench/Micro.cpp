@@ -4,6 +4,7 @@
 #include "AutostartEntry.h"
 #include "BackupService.h"
 #include "ContentView.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
@@ -127,12 +128,13 @@ struct Parts {
     FreedesktopNotifier notifier;
     DayMarker marker{container->mainContext(), clock};
     UndoHistory history{marker};
-    InOfficeCheck check{{*container, marker, appSettings, wifiClient, notifier, clock}};
+    CountingRecords counting{marker, appSettings};
+    InOfficeCheck check{{*container, marker, counting, appSettings, wifiClient, notifier, clock}};
     AutostartEntry loginItem{folder.path(), {}};
     LaunchAtLogin launchAtLogin{loginItem};
     BackupService backups{marker, clock};
     const ViewParts parts{
-        container->mainContext(), marker, history,      backups, appSettings, viewSettings, clock, wifiClient,
+        container->mainContext(), marker, history,      counting, backups, appSettings, viewSettings, clock, wifiClient,
         locationManager,          check,  launchAtLogin};
 };
 

@@ -8,6 +8,7 @@
 #include "CommandLine.h"
 #include "Compositor.h"
 #include "Connection.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
@@ -114,9 +115,10 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     PlatformServices platform;
     DayMarker marker(pellory.container().mainContext(), platform.clock);
     UndoHistory history(marker);
+    CountingRecords counting(marker, pellory.settings());
     BackupService backups(marker, platform.clock);
-    InOfficeCheck check(
-        {pellory.container(), marker, pellory.settings(), platform.wifiClient, platform.notifier, platform.clock});
+    InOfficeCheck check({pellory.container(), marker, counting, pellory.settings(), platform.wifiClient,
+                         platform.notifier, platform.clock});
     QTimer::singleShot(timeToAppear, &platform.clock, [&check] { check.start(); });
 
     ViewSettings viewSettings(settings);
@@ -125,6 +127,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     const ViewParts parts{pellory.container().mainContext(),
                           marker,
                           history,
+                          counting,
                           backups,
                           pellory.settings(),
                           viewSettings,

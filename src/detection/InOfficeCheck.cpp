@@ -131,7 +131,7 @@ QCoro::Task<CheckOutcome::Kind> InOfficeCheck::detectAndMark(bool markPreviousWo
     InOfficeDetector detector(m_parts.wifiClient);
     const bool inOfficeNow = co_await detector.isInOffice(settings.inOfficeSsids);
     qCDebug(logDetection, "In office now: %s", inOfficeNow ? "yes" : "no");
-    InOfficeModelUpdater updater(m_parts.container, m_parts.marker, m_parts.clock, m_parts.notifier);
+    InOfficeModelUpdater updater(m_parts.container, m_parts.marker, m_parts.counting, m_parts.clock, m_parts.notifier);
     if (updater.update(settings.notificationsEnabled, inOfficeNow, markPreviousWorkday, detector.network()))
         co_return CheckOutcome::Marked;
     if (!inOfficeNow)

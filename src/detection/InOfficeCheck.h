@@ -14,6 +14,7 @@
 
 class AppSettings;
 class Clock;
+class CountingRecords;
 class DayMarker;
 class ModelContainer;
 class Notifier;
@@ -23,6 +24,7 @@ class WiFiClient;
 struct CheckParts {
     ModelContainer& container;
     DayMarker& marker;
+    const CountingRecords& counting;
     AppSettings& settings;
     WiFiClient& wifiClient;
     Notifier& notifier;

@@ -2,6 +2,7 @@
 #include "InOfficeModelUpdater.h"
 
 #include "Clock.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "InOfficeDetectionError.h"
 #include "Log.h"
@@ -12,12 +13,16 @@
 
 namespace {
 
-QDate workdayBefore(QDate date)
+// How far to look for a workday: beyond any holidays.
+constexpr int farthest = 62;
+
+QDate workdayBefore(QDate today, const Counting& counting)
 {
-    do
-        date = date.addDays(-1);
-    while (!isMondayToFriday(date));
-    return date;
+    for (int days = 1; days <= farthest; ++days) {
+        if (counting.isWorkday(today.addDays(-days)))
+            return today.addDays(-days);
+    }
+    return {};
 }
 
 } // namespace
@@ -34,8 +39,10 @@ bool InOfficeModelUpdater::update(bool notificationsEnabled, bool inOfficeNow, b
         if (notificationsEnabled)
             m_notifier.post({tr("Pellory"), tr("You have been marked as in the office today"), {}, today, group});
     }
-    if (markPreviousWorkday)
-        markAsOut(workdayBefore(today), notificationsEnabled);
+    if (markPreviousWorkday) {
+        if (const QDate workday = workdayBefore(today, m_counting.counting()); workday.isValid())
+            markAsOut(workday, notificationsEnabled);
+    }
     return group != 0;
 }
 

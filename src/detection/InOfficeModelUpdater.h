@@ -7,6 +7,7 @@
 #include <memory>
 
 class Clock;
+class CountingRecords;
 class DayMarker;
 class ModelContainer;
 class Month;
@@ -19,9 +20,11 @@ class InOfficeModelUpdater {
     Q_DECLARE_TR_FUNCTIONS(InOfficeModelUpdater)
 
 public:
-    InOfficeModelUpdater(ModelContainer& container, DayMarker& marker, Clock& clock, Notifier& notifier)
+    InOfficeModelUpdater(ModelContainer& container, DayMarker& marker, const CountingRecords& counting, Clock& clock,
+                         Notifier& notifier)
         : m_container(container)
         , m_marker(marker)
+        , m_counting(counting)
         , m_clock(clock)
         , m_notifier(notifier)
     {
@@ -40,6 +43,7 @@ private:
 
     ModelContainer& m_container;
     DayMarker& m_marker;
+    const CountingRecords& m_counting;
     Clock& m_clock;
     Notifier& m_notifier;
 };

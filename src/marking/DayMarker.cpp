@@ -38,16 +38,11 @@ QDate firstOfMonth(QDate date)
     return {date.year(), date.month(), 1};
 }
 
-/// Returns the earlier state, or nothing if the day has this state already or the month lacks the day.
-std::optional<DayState> setState(Month& month, QDate date, DayState state)
+void setState(Month& month, QDate date, DayState state)
 {
-    const auto index = month.indexOf(date.day());
-    if (!index || DayMarker::stateOf(month, *index) == state)
-        return {};
     QList<Day> days = month.days;
-    const DayState before = std::exchange(days[*index].state, state);
+    days[*month.indexOf(date.day())].state = state;
     month.days = days;
-    return before;
 }
 
 } // namespace
@@ -62,23 +57,47 @@ DayState DayMarker::stateOf(const Month& month, qsizetype index)
 
 qint64 DayMarker::mark(Month& month, qsizetype index, DayState state, MarkedBy by, const QString& network)
 {
+    return apply(month, index, {{}, state}, by, network);
+}
+
+qint64 DayMarker::markAbsence(Month& month, qsizetype index, int absenceKind)
+{
+    return apply(month, index, {{}, DayState::OUT_OF_OFFICE, absenceKind}, MarkedBy::Menu, {});
+}
+
+qint64 DayMarker::apply(Month& month, qsizetype index, const DayMark& mark, MarkedBy by, const QString& network)
+{
     const DayState before = stateOf(month, index);
+    const DayState state = mark.state;
+    const int absence = mark.absenceKind;
     QList<Day> days = month.days;
     Day& day = days[index];
     const QDate date = month.dateOf(day.id);
     if (by == MarkedBy::Check && (!isOpen(before) || isTakenBack(date, state)))
         return 0;
-    const bool isRecorded = before != state && day.isInMonth() && m_context.contains(month);
+    const bool isStored = day.isInMonth() && m_context.contains(month);
+    const int absenceBefore = isStored ? absenceKindOf(date, before) : AbsenceKind::none;
+    const bool isRecorded = isStored && (before != state || absenceBefore != absence);
+    if (isRecorded && !setAbsence(date, absence))
+        return 0;
     day.state = state;
     if (by != MarkedBy::Menu)
         day.isWorkday = month.isWorkday(day.id);
     month.days = days;
     const qint64 group = isRecorded ? groupFor(date, by) : 0;
     if (isRecorded)
-        record(
-            {.date = date, .before = before, .after = state, .by = changedBy(by), .group = group, .network = network});
+        record({.date = date,
+                .before = before,
+                .after = state,
+                .by = changedBy(by),
+                .group = group,
+                .network = network,
+                .absenceBefore = absenceBefore,
+                .absenceAfter = absence});
     if (by == MarkedBy::Click)
         m_context.save();
+    if (absenceBefore != absence && isRecorded)
+        Q_EMIT absencesChanged();
     if (isRecorded)
         Q_EMIT changed({group, changedBy(by), {date}, state});
     return group;
@@ -96,27 +115,59 @@ qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 reverte
             month = std::make_shared<Month>(mark.date.year(), mark.date.month());
     }
     ChangedDays result{.group = newGroup(), .by = by};
-    for (const auto& [date, state] : marks) {
-        const auto& month = months.at(firstOfMonth(date));
-        const auto before = setState(*month, date, state);
-        if (!before)
+    bool hasOtherAbsences = false;
+    for (const DayMark& mark : marks) {
+        const auto& month = months.at(firstOfMonth(mark.date));
+        const auto before = markOn(*month, mark.date);
+        if (!before || *before == mark || !setAbsence(mark.date, mark.absenceKind))
             continue;
+        setState(*month, mark.date, mark.state);
         m_context.insert(month);
-        record({.date = date,
-                .before = *before,
-                .after = state,
+        record({.date = mark.date,
+                .before = before->state,
+                .after = mark.state,
                 .by = by,
                 .group = result.group,
-                .revertedGroup = revertedGroup});
-        result.dates.append(date);
-        result.state = state;
+                .revertedGroup = revertedGroup,
+                .absenceBefore = before->absenceKind,
+                .absenceAfter = mark.absenceKind});
+        hasOtherAbsences |= before->absenceKind != mark.absenceKind;
+        result.dates.append(mark.date);
+        result.state = mark.state;
     }
     if (result.dates.isEmpty())
         return 0;
     m_last.date = {}; // no click continues this group
     m_context.save();
+    if (hasOtherAbsences)
+        Q_EMIT absencesChanged();
     Q_EMIT changed(result);
     return result.group;
+}
+
+std::optional<DayMark> DayMarker::markOn(const Month& month, QDate date) const
+{
+    const auto index = month.indexOf(date.day());
+    if (!index)
+        return {};
+    const DayState state = stateOf(month, *index);
+    return DayMark{date, state, absenceKindOf(date, state)};
+}
+
+int DayMarker::absenceKindOf(QDate date, DayState state) const
+{
+    return state == DayState::OUT_OF_OFFICE ? m_absences.kindOf(date) : AbsenceKind::none;
+}
+
+bool DayMarker::setAbsence(QDate date, int kind)
+{
+    try {
+        m_absences.set(date, kind);
+        return true;
+    } catch (const StoreError& error) {
+        qCWarning(logMarking, "The kind of an absence cannot be stored: %s", error.what());
+        return false;
+    }
 }
 
 void DayMarker::record(DayChange change)

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DayAbsences.h"
 #include "DayChange.h"
 #include "DayNotes.h"
 
 #include <QList>
 #include <QObject>
+
+#include <optional>
 
 class Clock;
 class ModelContext;
@@ -38,6 +41,10 @@ struct ChangedDays {
 struct DayMark {
     QDate date;
     DayState state = DayState::UNKNOWN;
+    /// Of a day out of office; a day in another state has none.
+    int absenceKind = AbsenceKind::none;
+
+    bool operator==(const DayMark&) const = default;
 };
 
 /// The only class that changes the days of stored months. Each change is also a DayChange, which is saved with it. A
@@ -50,11 +57,13 @@ public:
         : m_context(context)
         , m_clock(clock)
         , m_notes(context)
+        , m_absences(context)
     {
     }
 
     [[nodiscard]] ModelContext& context() const { return m_context; }
     [[nodiscard]] DayNotes& notes() { return m_notes; }
+    [[nodiscard]] const DayAbsences& absences() const { return m_absences; }
 
     /// The state of a cell. `index` is the day's place in the grid of its month, 0 to 37; any other stops the program.
     [[nodiscard]] static DayState stateOf(const Month& month, qsizetype index);
@@ -63,10 +72,17 @@ public:
     /// Changes of one day by hand, each within two seconds of the last, are one group. `network` is what a check found.
     qint64 mark(Month& month, qsizetype index, DayState state, MarkedBy by, const QString& network = {});
 
+    /// Marks a day as out of office for a reason, or without one for AbsenceKind::none. It is saved at the end of the
+    /// turn. Returns the group of the change, or 0 if nothing was recorded.
+    qint64 markAbsence(Month& month, qsizetype index, int absenceKind);
+
     /// Marks several days, each of which is in the list once, as one group, and saves. Returns the group, or 0 if every
     /// day is as it was. `revertedGroup` is what an undo or redo takes back. Throws a StoreError, and changes nothing,
     /// if the store cannot be read.
     qint64 mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup = 0);
+
+    /// How a day is marked now; nothing if the month lacks the day.
+    [[nodiscard]] std::optional<DayMark> markOn(const Month& month, QDate date) const;
 
     /// Whether a person has today taken back this mark of a check, and not marked the day since. A check does not set
     /// it again. False if the store cannot be read.
@@ -75,8 +91,14 @@ public:
 Q_SIGNALS:
     /// Days have changed. It is also emitted for each further change of a group that is still open.
     void changed(const ChangedDays& days);
+    /// Kinds of absence have changed. It is emitted before changed().
+    void absencesChanged();
 
 private:
+    qint64 apply(Month& month, qsizetype index, const DayMark& mark, MarkedBy by, const QString& network);
+    [[nodiscard]] int absenceKindOf(QDate date, DayState state) const;
+    /// False, with nothing changed, if the store cannot be read.
+    bool setAbsence(QDate date, int kind);
     void record(DayChange change);
     [[nodiscard]] qint64 groupFor(QDate date, MarkedBy by) const;
     [[nodiscard]] qint64 newGroup() const;
@@ -84,6 +106,7 @@ private:
     ModelContext& m_context;
     const Clock& m_clock;
     DayNotes m_notes;
+    DayAbsences m_absences;
     /// The last change of a single day that was recorded. Its group is the last of all; 0 before the first.
     DayChange m_last;
 };

@@ -2,6 +2,7 @@
 #include "OpenDays.h"
 
 #include "Clock.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "ModelContext.h"
 #include "Month.h"
@@ -17,8 +18,9 @@ Q_LOGGING_CATEGORY(logOpenDays, "pellory.marking", QtInfoMsg)
 
 } // namespace
 
-OpenDays::OpenDays(DayMarker& marker, const Clock& clock)
+OpenDays::OpenDays(DayMarker& marker, const CountingRecords& counting, const Clock& clock)
     : m_marker(marker)
+    , m_counting(counting)
     , m_clock(clock)
 {
     connect(&marker, &DayMarker::changed, this, &OpenDays::forgetFirst);
@@ -27,10 +29,12 @@ OpenDays::OpenDays(DayMarker& marker, const Clock& clock)
 QList<QDate> OpenDays::in(const Month& month)
 {
     const QDate today = m_clock.today();
+    const Counting counting = m_counting.counting();
     QList<QDate> open;
     for (const Day& day : month.days.value()) {
-        if (day.isInMonth() && day.isWorkday && day.state == DayState::UNKNOWN && month.dateOf(day.id) < today)
-            open.append(month.dateOf(day.id));
+        const QDate date = month.dateOf(day.id);
+        if (day.isInMonth() && day.state == DayState::UNKNOWN && date < today && counting.isWorkday(date))
+            open.append(date);
     }
     if (open.isEmpty())
         return open;

@@ -53,8 +53,8 @@ private:
 /// A group of changes, as far as it can be taken back.
 struct UndoHistory::UndoStep {
     struct Span {
-        DayState before;
-        DayState after;
+        DayMark before;
+        DayMark after;
     };
 
     qint64 group = 0;
@@ -64,7 +64,9 @@ struct UndoHistory::UndoStep {
     /// Must be called for the newest change first.
     void add(const DayChange& change)
     {
-        spans.try_emplace(change.date, Span{change.before, change.after}).first->second.before = change.before;
+        const DayMark before{change.date, change.before, change.absenceBefore};
+        const DayMark after{change.date, change.after, change.absenceAfter};
+        spans.try_emplace(change.date, Span{before, after}).first->second.before = before;
         isUndo = change.by == ChangedBy::Undo;
     }
 };
@@ -163,17 +165,17 @@ QList<DayMark> UndoHistory::marksOf(const UndoStep& step) const
 {
     QList<DayMark> marks;
     for (const auto& [date, span] : step.spans) {
-        if (span.before != span.after && stateOn(date) == span.after)
-            marks.append({date, span.before});
+        if (span.before != span.after && markOn(date) == span.after)
+            marks.append(span.before);
     }
     return marks;
 }
 
-DayState UndoHistory::stateOn(QDate date) const
+DayMark UndoHistory::markOn(QDate date) const
 {
     const auto month = storedMonth(m_marker.context(), date);
-    const auto index = month ? month->indexOf(date.day()) : std::nullopt;
-    return index ? DayMarker::stateOf(*month, *index) : DayState::UNKNOWN;
+    const auto mark = month ? m_marker.markOn(*month, date) : std::nullopt;
+    return mark.value_or(DayMark{date});
 }
 
 bool UndoHistory::take(const UndoStep& step)

@@ -37,7 +37,7 @@ private:
     [[nodiscard]] qint64 groupToRedo() const;
     /// What takes the step back, on those days that are as it left them.
     [[nodiscard]] QList<DayMark> marksOf(const UndoStep& step) const;
-    [[nodiscard]] DayState stateOn(QDate date) const;
+    [[nodiscard]] DayMark markOn(QDate date) const;
     bool take(const UndoStep& step);
 
     DayMarker& m_marker;

@@ -22,6 +22,9 @@ struct DayChange {
     qint64 revertedGroup = 0;
     /// The office network that a check found; otherwise empty.
     QString network = {};
+    /// The kinds of absence before and after (see AbsenceKind); 0 for none.
+    int absenceBefore = 0;
+    int absenceAfter = 0;
 
     bool operator==(const DayChange&) const = default;
 };

@@ -55,15 +55,26 @@ double clampedFraction(double fraction)
     return fraction > 0.0 ? std::min(fraction, 1.0) : 0.0;
 }
 
+// Cells outside the month as well, like Month::inOfficeCount().
+qint64 inOfficeCount(const Month& month, bool vacationDaysCountAsInOffice, const Counting& counting)
+{
+    if (!counting.isUsed())
+        return month.inOfficeCount(vacationDaysCountAsInOffice);
+    return std::ranges::count_if(month.days.value(), [&](const Day& day) {
+        return counting.count(month.dateOf(day.id), day.state, vacationDaysCountAsInOffice).isInOffice;
+    });
+}
+
 } // namespace
 
 AttendanceStatistics attendanceStatistics(const QList<const Month*>& months, const AppSettings::Goals& daysPerWeekGoals,
-                                          bool vacationDaysCountAsInOffice, bool showWillBeInOfficeStats)
+                                          bool vacationDaysCountAsInOffice, bool showWillBeInOfficeStats,
+                                          const Counting& counting)
 {
     AttendanceStatistics result;
     for (const Month* month : months) {
-        result.workdays += month->workdayCount();
-        result.inOffice += month->inOfficeCount(vacationDaysCountAsInOffice);
+        result.workdays += workdayCount(*month, counting);
+        result.inOffice += inOfficeCount(*month, vacationDaysCountAsInOffice, counting);
         result.planned += plannedCount(*month);
     }
     result.average = daysPerWeek(result.inOffice, result.workdays);
@@ -75,6 +86,15 @@ AttendanceStatistics attendanceStatistics(const QList<const Month*>& months, con
     if (result.targetGoal)
         result.remainingDays = neededDays(result.targetGoal->value, result.workdays) - result.inOffice;
     return result;
+}
+
+qint64 workdayCount(const Month& month, const Counting& counting)
+{
+    if (!counting.isUsed())
+        return month.workdayCount();
+    return std::ranges::count_if(month.days.value(), [&](const Day& day) {
+        return day.isInMonth() && counting.count(month.dateOf(day.id), day.state, false).isWorkday;
+    });
 }
 
 qint64 neededDays(double value, qint64 workdays)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppSettings.h"
+#include "Counting.h"
 
 #include <QList>
 
@@ -36,7 +37,11 @@ struct AttendanceStatistics {
 
 [[nodiscard]] AttendanceStatistics attendanceStatistics(const QList<const Month*>& months,
                                                         const AppSettings::Goals& daysPerWeekGoals,
-                                                        bool vacationDaysCountAsInOffice, bool showWillBeInOfficeStats);
+                                                        bool vacationDaysCountAsInOffice, bool showWillBeInOfficeStats,
+                                                        const Counting& counting = {});
+
+/// The workdays of a month as they count: without days off, and without what is left out.
+[[nodiscard]] qint64 workdayCount(const Month& month, const Counting& counting);
 
 /// The office days that an average of `value` days per week needs in a period: value * workdays / 5, rounded up. A
 /// result beyond 64 bits stops the program.

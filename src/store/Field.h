@@ -37,6 +37,19 @@ template <class Record, class T> [[nodiscard]] Field<Record> field(const char* c
             .follow = {}};
 }
 
+/// A field that never changes and is one of the numbers from 1 to `last`.
+template <class Record, class Number>
+[[nodiscard]] Field<Record> field(const char* column, Number Record::*member, Number last)
+{
+    return {.column = {column, ColumnType::Integer},
+            .read = [member](const Record& record) { return toStored(static_cast<int>(record.*member)); },
+            .write =
+                [member, last](Record& record, const Value& value) {
+                    record.*member = static_cast<Number>(numberUpTo(static_cast<int>(last), value));
+                },
+            .follow = {}};
+}
+
 /// All fields of one kind of record, in the order of the columns of its table.
 template <class Record> struct RecordFields {
     std::string table;

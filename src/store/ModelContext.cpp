@@ -193,6 +193,48 @@ void ModelContext::remove(const std::shared_ptr<DayNote>& note)
     m_tables->notes.remove(note);
 }
 
+template <class Record> RowSet& ModelContext::rowsOf()
+{
+    RowSet& rows = m_tables->rowsOf(fieldsOf<Record>().table);
+    if (!rows.isRead())
+        requireReadable();
+    return rows;
+}
+
+template <class Record> QList<Record> ModelContext::records()
+{
+    return withStoreErrors([this] {
+        const auto fields = fieldsOf<Record>();
+        QList<Record> records;
+        for (const Row& row : rowsOf<Record>().rows())
+            records.append(*fields.record(row));
+        return records;
+    });
+}
+
+template <class Record> void ModelContext::add(const Record& record)
+{
+    withStoreErrors([&] { rowsOf<Record>().add(fieldsOf<Record>().row(record)); });
+}
+
+template <class Record> void ModelContext::remove(const Record& record)
+{
+    withStoreErrors([&] { rowsOf<Record>().remove(fieldsOf<Record>().row(record)); });
+}
+
+#define PELLORY_SMALL_RECORDS(Record)                                                                                  \
+    template QList<Record> ModelContext::records();                                                                    \
+    template void ModelContext::add(const Record&);                                                                    \
+    template void ModelContext::remove(const Record&)
+
+PELLORY_SMALL_RECORDS(AbsenceKind);
+PELLORY_SMALL_RECORDS(AttendanceRule);
+PELLORY_SMALL_RECORDS(CountingChoices);
+PELLORY_SMALL_RECORDS(DayAbsence);
+PELLORY_SMALL_RECORDS(DayOff);
+PELLORY_SMALL_RECORDS(HolidayRegion);
+PELLORY_SMALL_RECORDS(WorkWeek);
+
 bool ModelContext::contains(const Month& month) const
 {
     return m_tables->months.contains(month);

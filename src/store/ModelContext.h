@@ -17,6 +17,7 @@ class AppSettings;
 class DayNote;
 class Goal;
 class Month;
+class RowSet;
 struct StoreTables;
 template <typename Record> class RecordTable; // with "class", lupdate takes it for one
 
@@ -60,6 +61,13 @@ public:
     /// Of the changes before a time, in milliseconds since 1970, keeps only the last of each day.
     void thinChanges(qint64 before);
 
+    /// The records of a kind that are few and never change, such as days off, in the order in which they were added. To
+    /// change one, remove it and add another. Reading them throws a StoreError if the store cannot be read; all three
+    /// read them at first use.
+    template <class Record> [[nodiscard]] QList<Record> records();
+    template <class Record> void add(const Record& record);
+    template <class Record> void remove(const Record& record);
+
     /// Adds a record. Goals are added with the settings that list them, and deleted by the save of settings after which
     /// no settings list them. Inserting a removed record before the next save takes the removal back.
     void insert(const std::shared_ptr<Month>& month);
@@ -96,6 +104,7 @@ private:
     template <class Record>
     QList<std::shared_ptr<Record>> fetch(RecordTable<Record>& table,
                                          const typename RecordTable<Record>::Condition& condition);
+    template <class Record> RowSet& rowsOf();
     void scheduleSave();
     void writeChanges();
     void reconnectIfReadOnly();

@@ -76,6 +76,8 @@ RecordFields<DayChange> dayChangeFields()
                 field("change_group", &DayChange::group),
                 field("reverted_group", &DayChange::revertedGroup),
                 field("network", &DayChange::network),
+                field("absence_before", &DayChange::absenceBefore),
+                field("absence_after", &DayChange::absenceAfter),
             }};
 }
 
@@ -85,6 +87,81 @@ RecordFields<DayNote> dayNoteFields()
             {
                 field("date", &DayNote::date),
                 field("text", &DayNote::text),
+            }};
+}
+
+template <> RecordFields<AbsenceKind> fieldsOf<AbsenceKind>()
+{
+    return {"absence_kind",
+            {
+                field("id", &AbsenceKind::id),
+                field("name", &AbsenceKind::name),
+                field("treatment", &AbsenceKind::treatment, Treatment::LeftOut),
+            }};
+}
+
+template <> RecordFields<DayAbsence> fieldsOf<DayAbsence>()
+{
+    return {"day_absence",
+            {
+                field("date", &DayAbsence::date),
+                field("kind", &DayAbsence::kind),
+            }};
+}
+
+template <> RecordFields<DayOff> fieldsOf<DayOff>()
+{
+    return {"day_off",
+            {
+                field("date", &DayOff::date),
+                field("name", &DayOff::name),
+                field("source", &DayOff::source, DayOffSource::File),
+            }};
+}
+
+template <> RecordFields<HolidayRegion> fieldsOf<HolidayRegion>()
+{
+    return {"holiday_region",
+            {
+                field("id", &HolidayRegion::id),
+                field("last_year", &HolidayRegion::lastYear),
+            }};
+}
+
+template <> RecordFields<WorkWeek> fieldsOf<WorkWeek>()
+{
+    return {"work_week",
+            {
+                field("first_day", &WorkWeek::from),
+                field("weekdays", &WorkWeek::weekdays),
+            }};
+}
+
+template <> RecordFields<CountingChoices> fieldsOf<CountingChoices>()
+{
+    return {"counting", {field("leaves_out_vacation", &CountingChoices::leavesOutVacation)}};
+}
+
+template <> RecordFields<AttendanceRule> fieldsOf<AttendanceRule>()
+{
+    using Rule = AttendanceRule;
+    return {"attendance_rule",
+            {
+                field("id", &Rule::id),
+                field("name", &Rule::name),
+                field("bound", &Rule::bound, Rule::Bound::AtMost),
+                field("amount", &Rule::amount, Rule::largestAmount),
+                field("unit", &Rule::unit, Rule::Unit::Days),
+                field("subject", &Rule::subject, Rule::Subject::OutOfOffice),
+                field("absence_kind", &Rule::absenceKind),
+                field("weekdays", &Rule::weekdays),
+                field("span", &Rule::span, Rule::Span::LastWeeks),
+                field("anchor", &Rule::anchor),
+                field("first_month", &Rule::firstMonth, 12),
+                field("weeks", &Rule::weeks, Rule::mostWeeks),
+                field("first_day", &Rule::from),
+                field("last_day", &Rule::until),
+                field("position", &Rule::position),
             }};
 }
 

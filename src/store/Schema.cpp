@@ -44,13 +44,26 @@ Schema Schema::atVersion(int version) const
     return schema;
 }
 
+std::vector<TableLayout> smallTables()
+{
+    return {fieldsOf<AbsenceKind>().layout(),   fieldsOf<DayAbsence>().layout(), fieldsOf<DayOff>().layout(),
+            fieldsOf<HolidayRegion>().layout(), fieldsOf<WorkWeek>().layout(),   fieldsOf<CountingChoices>().layout(),
+            fieldsOf<AttendanceRule>().layout()};
+}
+
 Schema pellorySchema()
 {
-    return {
+    Schema schema{
         .tables = {monthFields().layout(), goalFields().layout(), settingsFields().layout(), dayChanges(),
                    dayNoteFields().layout()},
         .indexes = {{"month_by_period", "CREATE INDEX month_by_period ON month (year, month)"},
                     {"day_note_by_date", "CREATE INDEX day_note_by_date ON day_note (date)"}},
-        .migrations = {{.newTables = {"day_change", "day_note"}, .newIndexes = {"day_note_by_date"}}},
+        .migrations = {{.newTables = {"day_change", "day_note"}, .newIndexes = {"day_note_by_date"}},
+                       {.newTables = {"absence_kind", "day_absence", "day_off", "holiday_region", "work_week",
+                                      "counting", "attendance_rule"},
+                        .newColumns = {{"day_change", "absence_before", 0}, {"day_change", "absence_after", 0}}}},
     };
+    for (const TableLayout& table : smallTables())
+        schema.tables.push_back(table);
+    return schema;
 }

@@ -37,5 +37,8 @@ struct Schema {
     [[nodiscard]] Schema atVersion(int version) const;
 };
 
+/// The tables of records that are few and never change (see RowSet).
+[[nodiscard]] std::vector<TableLayout> smallTables();
+
 /// The schema of this program.
 [[nodiscard]] Schema pellorySchema();

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StoreTables.h"
 
+#include "Schema.h"
+
 #include <SQLiteCpp/Transaction.h>
+
+#include <algorithm>
 
 StoreTables::StoreTables(SQLite::Database& database, const std::function<void()>& changed,
                          const std::function<AppSettings::Goals()>& storedGoals)
@@ -11,6 +15,13 @@ StoreTables::StoreTables(SQLite::Database& database, const std::function<void()>
     , notes(database, dayNoteFields(), changed)
     , changes(database)
 {
+    for (const TableLayout& layout : smallTables())
+        small.emplace_back(database, layout, changed);
+}
+
+RowSet& StoreTables::rowsOf(const std::string& table)
+{
+    return *std::ranges::find(small, table, &RowSet::name);
 }
 
 // Needs no query, because all settings and goals are in memory.
@@ -32,7 +43,7 @@ void StoreTables::matchGoalsToLists()
 bool StoreTables::hasChanges() const
 {
     return months.hasChanges() || goals.hasChanges() || settings.hasChanges() || notes.hasChanges() ||
-           changes.hasChanges();
+           changes.hasChanges() || std::ranges::any_of(small, &RowSet::hasChanges);
 }
 
 void StoreTables::write()
@@ -42,6 +53,7 @@ void StoreTables::write()
     settings.write();
     notes.write();
     changes.write();
+    std::ranges::for_each(small, &RowSet::write);
 }
 
 void StoreTables::markSaved()
@@ -51,6 +63,7 @@ void StoreTables::markSaved()
     settings.markSaved();
     notes.markSaved();
     changes.markSaved();
+    std::ranges::for_each(small, &RowSet::markSaved);
 }
 
 void StoreTables::writeAll(SQLite::Database& database)
@@ -76,6 +89,7 @@ void StoreTables::writeAll(SQLite::Database& database)
     settings.writeAll();
     notes.writeAll();
     changes.write();
+    std::ranges::for_each(small, &RowSet::writeAll);
     transaction.commit();
 }
 
@@ -86,6 +100,7 @@ void StoreTables::markAllSaved()
     settings.markAllSaved();
     notes.markAllSaved();
     changes.markSaved();
+    std::ranges::for_each(small, &RowSet::markAllSaved);
 }
 
 void StoreTables::release()

@@ -4,6 +4,7 @@
 #include "DayChangeLog.h"
 #include "RecordFields.h"
 #include "RecordTable.h"
+#include "RowSet.h"
 
 /// The records of every kind, as parts of one store.
 struct StoreTables {
@@ -16,6 +17,10 @@ struct StoreTables {
     RecordTable<AppSettings> settings;
     RecordTable<DayNote> notes;
     DayChangeLog changes;
+    std::vector<RowSet> small;
+
+    /// One of `small`.
+    [[nodiscard]] RowSet& rowsOf(const std::string& table);
 
     /// Adds the goals that settings list, and removes all others.
     void matchGoalsToLists();

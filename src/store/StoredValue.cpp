@@ -47,6 +47,16 @@ Value toStored(QDate date)
     return toStored((date.year() * 100 + date.month()) * 100 + date.day());
 }
 
+Value toStored(const std::optional<QDate>& date)
+{
+    return date ? toStored(*date) : toStored(0);
+}
+
+Value toStored(Weekdays weekdays)
+{
+    return toStored(weekdays.bits());
+}
+
 Value toStored(DayState state)
 {
     return std::string(rawValue(state).data());
@@ -107,6 +117,16 @@ template <> QDate fromStored<QDate>(const Value& value)
     return date;
 }
 
+template <> std::optional<QDate> fromStored<std::optional<QDate>>(const Value& value)
+{
+    return fromStored<int>(value) == 0 ? std::nullopt : std::optional(fromStored<QDate>(value));
+}
+
+template <> Weekdays fromStored<Weekdays>(const Value& value)
+{
+    return Weekdays(fromStored<int>(value));
+}
+
 template <> DayState fromStored<DayState>(const Value& value)
 {
     const QString raw = fromStored<QString>(value);
@@ -117,8 +137,13 @@ template <> DayState fromStored<DayState>(const Value& value)
 
 template <> ChangedBy fromStored<ChangedBy>(const Value& value)
 {
+    return static_cast<ChangedBy>(numberUpTo(static_cast<int>(ChangedBy::Import), value));
+}
+
+int numberUpTo(int last, const Value& value)
+{
     const int number = fromStored<int>(value);
-    if (number < static_cast<int>(ChangedBy::Hand) || number > static_cast<int>(ChangedBy::Import))
+    if (number < 1 || number > last)
         throw StoreError(StoreError::tr("a number is out of range"));
-    return static_cast<ChangedBy>(number);
+    return number;
 }

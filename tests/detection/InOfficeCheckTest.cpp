@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "InOfficeCheck.h"
 #include "AppSettings.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "FakeWiFiClient.h"
 #include "FixedClock.h"
@@ -59,7 +60,8 @@ protected:
     ModelContext& context = container.mainContext();
     AppSettings settings;
     DayMarker marker{container.mainContext(), clock};
-    InOfficeCheck check{{container, marker, settings, client, *this, clock}};
+    CountingRecords counting{marker, settings};
+    InOfficeCheck check{{container, marker, counting, settings, client, *this, clock}};
     QStringList posted;
     qint64 lastMark = 0;
 };

@@ -118,10 +118,11 @@ protected:
     SystemClock systemClock;
     DayMarker liveMarker{context, systemClock};
     UndoHistory liveHistory{liveMarker};
-    InOfficeCheck liveCheck{{container, liveMarker, *settings, wifiClient, notifier, systemClock}};
+    CountingRecords liveCounting{liveMarker, *settings};
+    InOfficeCheck liveCheck{{container, liveMarker, liveCounting, *settings, wifiClient, notifier, systemClock}};
     BackupService liveBackups{liveMarker, systemClock};
-    const ViewParts liveParts{context,     liveMarker, liveHistory,     liveBackups, *settings,    viewSettings,
-                              systemClock, wifiClient, locationManager, liveCheck,   launchAtLogin};
+    const ViewParts liveParts{context,      liveMarker,  liveHistory, liveCounting,    liveBackups, *settings,
+                              viewSettings, systemClock, wifiClient,  locationManager, liveCheck,   launchAtLogin};
     ContentView window{liveParts};
     Marks expected;
     QDate shown;

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "AppSettings.h"
+#include "CalendarParts.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "FixedClock.h"
 #include "Marking.h"
@@ -58,5 +60,7 @@ protected:
     ViewSettings viewSettings{stored};
     FixedClock clock;
     DayMarker marker{context, clock};
+    CountingRecords counting{marker, *settings};
+    const CalendarParts calendarParts{marker, counting, *settings, viewSettings, clock};
     UndoHistory history{marker};
 };

@@ -29,5 +29,5 @@ protected:
     }
 
     const std::shared_ptr<Month> november = month(2026, 11);
-    CalendarView view{marker, viewSettings, clock};
+    CalendarView view{calendarParts};
 };

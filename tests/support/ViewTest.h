@@ -51,10 +51,10 @@ protected:
     MockSystemSettings systemSettings;
     LocationManagerKey locationManager{authorization, systemSettings};
     testing::NiceMock<MockNotifier> notifier;
-    InOfficeCheck check{{container, marker, *settings, wifiClient, notifier, clock}};
+    InOfficeCheck check{{container, marker, counting, *settings, wifiClient, notifier, clock}};
     FakeLoginItem loginItem;
     LaunchAtLogin launchAtLogin{loginItem};
     BackupService backups{marker, clock};
-    const ViewParts parts{context, marker,     history,         backups, *settings,    viewSettings,
-                          clock,   wifiClient, locationManager, check,   launchAtLogin};
+    const ViewParts parts{context,      marker, history,    counting,        backups, *settings,
+                          viewSettings, clock,  wifiClient, locationManager, check,   launchAtLogin};
 };

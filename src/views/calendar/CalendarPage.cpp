@@ -36,11 +36,10 @@ std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
 
 } // namespace
 
-CalendarPage::CalendarPage(DayMarker& marker, const Clock& clock, QWidget* parent)
+CalendarPage::CalendarPage(const CalendarParts& parts, QWidget* parent)
     : QWidget(parent)
-    , m_marker(marker)
-    , m_clock(clock)
-    , m_today(clock.today())
+    , m_parts(parts)
+    , m_today(parts.clock.today())
     , m_error(labels::announced(new QLabel(tr("Error loading month!"))))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
@@ -54,7 +53,7 @@ CalendarPage::CalendarPage(DayMarker& marker, const Clock& clock, QWidget* paren
     page->addWidget(m_error);
     page->addWidget(m_contents);
     page->addStretch();
-    connect(&clock, &Clock::dayChanged, this, &CalendarPage::followToday);
+    connect(&parts.clock, &Clock::dayChanged, this, &CalendarPage::followToday);
 }
 
 void CalendarPage::connectNavigation(NavigationRow& navigation)
@@ -153,7 +152,7 @@ std::optional<YearMonth> CalendarPage::monthAfter() const
 QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
 {
     try {
-        return quarterMonths(m_marker.context(), m_month.quarter());
+        return quarterMonths(m_parts.marker.context(), m_month.quarter());
     } catch (const StoreError& error) {
         if (m_error->isHidden()) // the first time
             qCWarning(logCalendar, "Cannot load a month: %s", error.what());
@@ -200,7 +199,7 @@ void CalendarPage::turnTo(const std::optional<YearMonth>& month, Qt::FocusReason
 
 void CalendarPage::followToday()
 {
-    const QDate before = std::exchange(m_today, m_clock.today());
+    const QDate before = std::exchange(m_today, m_parts.clock.today());
     if (!isShown(before) || isShown(m_today))
         m_navigation->todayLink()->setVisible(!isShown(m_today));
     else if (focusedCalendar() != nullptr)

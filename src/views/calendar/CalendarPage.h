@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarParts.h"
 #include "Period.h"
 #include "Retry.h"
 
@@ -11,8 +12,6 @@
 #include <vector>
 
 class CalendarView;
-class Clock;
-class DayMarker;
 class Month;
 class MonthCard;
 class NavigationRow;
@@ -30,7 +29,7 @@ class CalendarPage : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarPage(DayMarker& marker, const Clock& clock, QWidget* parent);
+    CalendarPage(const CalendarParts& parts, QWidget* parent);
 
     /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
     void previous(Qt::FocusReason reason = Qt::ShortcutFocusReason);
@@ -54,7 +53,7 @@ Q_SIGNALS:
     void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
 
 protected:
-    [[nodiscard]] DayMarker& marker() { return m_marker; }
+    [[nodiscard]] const CalendarParts& parts() const { return m_parts; }
     /// Adds the parts of the page, from top to bottom. They are hidden while the store cannot be read.
     [[nodiscard]] QVBoxLayout& contents() { return *m_column; }
     /// Makes the buttons turn the page.
@@ -78,8 +77,7 @@ private:
     void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
     void followToday();
 
-    DayMarker& m_marker;
-    const Clock& m_clock;
+    CalendarParts m_parts;
     QDate m_today;
     YearMonth m_month;
     std::vector<MonthCard*> m_cards;

@@ -2,8 +2,10 @@
 #include "CalendarView.h"
 
 #include "Accessibility.h"
+#include "AttendanceStatistics.h"
 #include "Clock.h"
 #include "CommandClickableButton.h"
+#include "CountingRecords.h"
 #include "Follow.h"
 #include "Fonts.h"
 #include "ModelContext.h"
@@ -38,14 +40,11 @@ constexpr float highlightOpacity = 0.1F;
 
 } // namespace
 
-CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, const Clock& clock, bool highlighted,
-                           QWidget* parent)
+CalendarView::CalendarView(const CalendarParts& parts, bool highlighted, QWidget* parent)
     : QWidget(parent)
-    , m_context(marker.context())
-    , m_viewSettings(viewSettings)
-    , m_clock(clock)
-    , m_editor(marker)
-    , m_notes(marker.notes())
+    , m_parts(parts)
+    , m_editor(parts.marker)
+    , m_notes(parts.marker.notes())
     , m_highlighted(highlighted)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
@@ -57,7 +56,8 @@ CalendarView::CalendarView(DayMarker& marker, const ViewSettings& viewSettings, 
     addWeekdays(*grid);
     addCells(*grid);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(&clock, &Clock::dayChanged, this, &CalendarView::refresh);
+    connect(&parts.clock, &Clock::dayChanged, this, &CalendarView::refresh);
+    connect(&parts.counting, &CountingRecords::changed, this, &CalendarView::refresh);
     connect(&m_notes, &MonthNotes::changed, this, &CalendarView::refresh);
 }
 
@@ -111,7 +111,7 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
     auto* cell = new CommandClickableButton({operation(&DayEditor::cycleDayState), operation(&DayEditor::resetDayState),
                                              operation(&DayEditor::toggleWillBeInOffice),
                                              operation(&DayEditor::toggleVacationDay)},
-                                            m_viewSettings, this);
+                                            m_parts.viewSettings, this);
     QSizePolicy policy = cell->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     cell->setSizePolicy(policy);
@@ -143,7 +143,12 @@ void CalendarView::showPicker(qsizetype index)
 // A month that is not stored is a sample.
 bool CalendarView::hasDetails() const
 {
-    return m_context.contains(*m_month);
+    return m_parts.marker.context().contains(*m_month);
+}
+
+Counting CalendarView::counting() const
+{
+    return hasDetails() ? m_parts.counting.counting().value() : Counting();
 }
 
 void CalendarView::setMonth(const std::shared_ptr<Month>& month)
@@ -157,7 +162,7 @@ void CalendarView::setMonth(const std::shared_ptr<Month>& month)
     if (hasDetails())
         m_notes.read(*month);
     refresh();
-    const QDate today = m_clock.today();
+    const QDate today = m_parts.clock.today();
     const bool isThisMonth = today.year() == month->year && today.month() == month->month;
     setTabStop(m_cells[static_cast<std::size_t>(*month->indexOf(isThisMonth ? today.day() : 1))]);
 }
@@ -184,10 +189,10 @@ void CalendarView::refresh()
 {
     if (!m_month)
         return;
-    const QDate today = m_clock.today();
+    const QDate today = m_parts.clock.today();
     m_name->setText(title(today));
     setAccessibleName(m_name->text());
-    m_workdays->setText(workdaysText(m_month->workdayCount()));
+    m_workdays->setText(workdaysText(workdayCount(*m_month, counting())));
     for (qsizetype index = 0; index < drawnCells; ++index)
         refreshCell(index, today);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarParts.h"
+#include "Counting.h"
 #include "DayEditor.h"
 #include "MonthNotes.h"
 
@@ -10,21 +12,17 @@
 #include <memory>
 #include <vector>
 
-class Clock;
 class CommandClickableButton;
-class ModelContext;
 class Month;
 class QGridLayout;
 class QLabel;
-class ViewSettings;
 
 /// The grid of a month, in which days are marked by hand. The arrow keys move between days.
 class CalendarView : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarView(DayMarker& marker, const ViewSettings& viewSettings, const Clock& clock, bool highlighted = false,
-                 QWidget* parent = nullptr);
+    explicit CalendarView(const CalendarParts& parts, bool highlighted = false, QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] Month* month() const { return m_month.get(); }
@@ -55,6 +53,8 @@ private:
     void addCells(QGridLayout& grid);
     [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
     [[nodiscard]] bool hasDetails() const;
+    /// How the days of the month count. A sample has no days off.
+    [[nodiscard]] Counting counting() const;
     void showPicker(qsizetype index);
     [[nodiscard]] bool handleDayKey(const QKeyEvent& event);
     void refresh();
@@ -63,9 +63,7 @@ private:
     void setTabStop(CommandClickableButton* cell);
     [[nodiscard]] QString title(QDate today) const;
 
-    const ModelContext& m_context;
-    const ViewSettings& m_viewSettings;
-    const Clock& m_clock;
+    CalendarParts m_parts;
     DayEditor m_editor;
     MonthNotes m_notes;
     bool m_highlighted;

@@ -4,10 +4,9 @@
 #include "CalendarView.h"
 #include "ViewSettings.h"
 
-MonthCard::MonthCard(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
-                     const Clock& clock, NavigationRow* navigation, QWidget* parent)
-    : TrackerCard(settings, viewSettings, PeriodWord::Month, viewSettings.showMonthStats, parent)
-    , m_calendar(new CalendarView(marker, viewSettings, clock))
+MonthCard::MonthCard(const CalendarParts& parts, NavigationRow* navigation, QWidget* parent)
+    : TrackerCard(parts, PeriodWord::Month, parts.viewSettings.showMonthStats, parent)
+    , m_calendar(new CalendarView(parts))
 {
     addHeader(navigation, m_calendar);
 }

@@ -4,8 +4,6 @@
 #include "TrackerCard.h"
 
 class CalendarView;
-class Clock;
-class DayMarker;
 class NavigationRow;
 
 /// The grid of a month with its progress tracker below.
@@ -14,8 +12,7 @@ class MonthCard : public TrackerCard {
 
 public:
     /// The navigation, if there is one, is above the grid.
-    MonthCard(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
-              NavigationRow* navigation = nullptr, QWidget* parent = nullptr);
+    explicit MonthCard(const CalendarParts& parts, NavigationRow* navigation = nullptr, QWidget* parent = nullptr);
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] CalendarView& calendar() { return *m_calendar; }

@@ -3,6 +3,7 @@
 
 #include "CalendarView.h"
 #include "Clock.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "Follow.h"
 #include "MonthCard.h"
@@ -13,28 +14,27 @@
 
 #include <QVBoxLayout>
 
-MonthView::MonthView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
-                     const Clock& clock, QWidget* parent)
-    : CalendarPage(marker, clock, parent)
-    , m_viewSettings(viewSettings)
-    , m_openDays(marker, clock)
-    , m_quarter(new TrackerCard(settings, viewSettings, PeriodWord::Quarter, viewSettings.showQuarterStats))
+MonthView::MonthView(const CalendarParts& parts, QWidget* parent)
+    : CalendarPage(parts, parent)
+    , m_openDays(parts.marker, parts.counting, parts.clock)
+    , m_quarter(new TrackerCard(parts, PeriodWord::Quarter, parts.viewSettings.showQuarterStats))
 {
     auto* navigation = new NavigationRow(tr("Last Month"), tr("Next Month"));
-    m_month = new MonthCard(marker, settings, viewSettings, clock, navigation);
+    m_month = new MonthCard(parts, navigation);
     connectNavigation(*navigation);
     connectCard(*m_month);
     contents().addWidget(m_month, 0, Qt::AlignHCenter);
     contents().addWidget(m_quarter, 0, Qt::AlignHCenter);
-    const auto& isQuarterShown = viewSettings.showQuarterStats;
+    const auto& isQuarterShown = parts.viewSettings.showQuarterStats;
     follow(isQuarterShown, m_quarter, [this, &isQuarterShown] { m_quarter->setVisible(isQuarterShown); });
-    const QDate today = clock.today();
+    const QDate today = parts.clock.today();
     showPeriod({today.year(), today.month()});
     const auto refresh = [this] { refreshOpenDays(false); };
     // After the change is saved.
-    connect(&marker, &DayMarker::changed, this, refresh, Qt::QueuedConnection);
-    connect(&clock, &Clock::dayChanged, this, refresh);
-    onChange(viewSettings.showUnmarkedWorkdays, this, refresh);
+    connect(&parts.marker, &DayMarker::changed, this, refresh, Qt::QueuedConnection);
+    connect(&parts.clock, &Clock::dayChanged, this, refresh);
+    connect(&parts.counting, &CountingRecords::changed, this, refresh);
+    onChange(parts.viewSettings.showUnmarkedWorkdays, this, refresh);
 }
 
 void MonthView::showQuarter(const QList<std::shared_ptr<Month>>& months)
@@ -48,7 +48,7 @@ void MonthView::refreshOpenDays(bool isTurned)
     const Month* month = m_month->calendar().month();
     if (month == nullptr) // which could not be read
         return;
-    const auto count = m_viewSettings.showUnmarkedWorkdays ? m_openDays.in(*month).size() : 0;
+    const auto count = parts().viewSettings.showUnmarkedWorkdays ? m_openDays.in(*month).size() : 0;
     if (count > 0) {
         buildOpenDaysLine();
         m_openDaysLine->setCount(static_cast<int>(count), isTurned);
@@ -65,7 +65,7 @@ void MonthView::buildOpenDaysLine()
         return;
     m_openDaysLine = new OpenDaysLine;
     m_month->addAboveTracker(m_openDaysLine);
-    m_review = new OpenDaysReview(marker(), m_month->calendar());
+    m_review = new OpenDaysReview(parts().marker, m_month->calendar());
     connect(m_openDaysLine, &OpenDaysLine::reviewRequested, this,
             [this] { m_review->start(m_openDays.in(*m_month->calendar().month())); });
 }

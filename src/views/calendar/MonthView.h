@@ -4,19 +4,16 @@
 #include "CalendarPage.h"
 #include "OpenDays.h"
 
-class AppSettings;
 class OpenDaysLine;
 class OpenDaysReview;
 class TrackerCard;
-class ViewSettings;
 
 /// One month and the statistics of its quarter, at first of today's month.
 class MonthView final : public CalendarPage {
     Q_OBJECT
 
 public:
-    MonthView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
-              QWidget* parent = nullptr);
+    explicit MonthView(const CalendarParts& parts, QWidget* parent = nullptr);
 
 protected:
     void showQuarter(const QList<std::shared_ptr<Month>>& months) override;
@@ -26,7 +23,6 @@ private:
     void refreshOpenDays(bool isTurned);
     void buildOpenDaysLine();
 
-    const ViewSettings& m_viewSettings;
     OpenDays m_openDays;
     MonthCard* m_month;
     TrackerCard* m_quarter;

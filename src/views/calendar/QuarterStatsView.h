@@ -5,6 +5,7 @@
 #include "TrackerCard.h"
 
 class Clock;
+class CountingRecords;
 class NavigationRow;
 class QLabel;
 
@@ -14,8 +15,8 @@ class QuarterStatsView : public TrackerCard {
 
 public:
     /// The navigation, if there is one, is at the top.
-    QuarterStatsView(const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
-                     NavigationRow* navigation = nullptr, QWidget* parent = nullptr);
+    explicit QuarterStatsView(const CalendarParts& parts, NavigationRow* navigation = nullptr,
+                              QWidget* parent = nullptr);
 
     void setQuarter(const YearQuarter& quarter, const QList<std::shared_ptr<Month>>& months);
 
@@ -23,6 +24,8 @@ private:
     void refresh();
 
     const Clock& m_clock;
+    const CountingRecords& m_counting;
+    QList<std::shared_ptr<Month>> m_months;
     YearQuarter m_quarter;
     QLabel* m_title;
     QLabel* m_workdays;

@@ -14,16 +14,15 @@ constexpr int monthsOfQuarter = 3;
 
 } // namespace
 
-QuarterView::QuarterView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings,
-                         const Clock& clock, QWidget* parent)
-    : CalendarPage(marker, clock, parent)
+QuarterView::QuarterView(const CalendarParts& parts, QWidget* parent)
+    : CalendarPage(parts, parent)
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));
-    m_stats = new QuarterStatsView(settings, viewSettings, clock, navigation);
+    m_stats = new QuarterStatsView(parts, navigation);
     connectNavigation(*navigation);
     for (int i = 0; i < monthsOfQuarter; ++i) {
-        auto* card = new MonthCard(marker, settings, viewSettings, clock);
+        auto* card = new MonthCard(parts);
         m_row->addWidget(card);
         connectCard(*card);
     }
@@ -31,7 +30,7 @@ QuarterView::QuarterView(DayMarker& marker, const AppSettings& settings, const V
     contents().addWidget(m_stats, 0, Qt::AlignHCenter);
     contents().addLayout(m_row);
     contents().setAlignment(m_row, Qt::AlignHCenter);
-    const QDate today = clock.today();
+    const QDate today = parts.clock.today();
     showPeriod({today.year(), today.month()});
 }
 

@@ -3,10 +3,8 @@
 
 #include "CalendarPage.h"
 
-class AppSettings;
 class QBoxLayout;
 class QuarterStatsView;
-class ViewSettings;
 
 /// The three months of a quarter and its statistics, at first of today's quarter. Months are side by side if there is
 /// room.
@@ -14,8 +12,7 @@ class QuarterView final : public CalendarPage {
     Q_OBJECT
 
 public:
-    QuarterView(DayMarker& marker, const AppSettings& settings, const ViewSettings& viewSettings, const Clock& clock,
-                QWidget* parent = nullptr);
+    explicit QuarterView(const CalendarParts& parts, QWidget* parent = nullptr);
 
     /// The width of one month even while three are side by side, so that the window can be made narrower again.
     [[nodiscard]] QSize minimumSizeHint() const override;

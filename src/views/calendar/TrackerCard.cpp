@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TrackerCard.h"
 
+#include "CountingRecords.h"
 #include "Follow.h"
 #include "Fonts.h"
 #include "LinkButton.h"
@@ -17,11 +18,11 @@ constexpr int spacing = 8;
 
 } // namespace
 
-TrackerCard::TrackerCard(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
-                         const QProperty<bool>& isTrackerShown, QWidget* parent)
+TrackerCard::TrackerCard(const CalendarParts& parts, PeriodWord period, const QProperty<bool>& isTrackerShown,
+                         QWidget* parent)
     : Card(parent)
     , m_column(new QVBoxLayout(this))
-    , m_tracker(new ProgressWidgetView(settings, viewSettings, period))
+    , m_tracker(new ProgressWidgetView(parts.settings, parts.viewSettings, period, &parts.counting.counting()))
 {
     setFixedWidth(contentWidth(font()));
     // The tracker has some room around it already.

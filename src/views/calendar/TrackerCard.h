@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarParts.h"
 #include "Card.h"
 #include "StatisticsTexts.h"
 
@@ -8,20 +9,18 @@
 
 #include <memory>
 
-class AppSettings;
 class Month;
 class NavigationRow;
 class ProgressWidgetView;
 class QVBoxLayout;
-class ViewSettings;
 
 /// A card with the progress tracker of a period, while that is switched on.
 class TrackerCard : public Card {
     Q_OBJECT
 
 public:
-    TrackerCard(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
-                const QProperty<bool>& isTrackerShown, QWidget* parent = nullptr);
+    TrackerCard(const CalendarParts& parts, PeriodWord period, const QProperty<bool>& isTrackerShown,
+                QWidget* parent = nullptr);
 
     void setMonths(const QList<std::shared_ptr<Month>>& months);
     /// Adds a line that begins and ends where the tracker does.

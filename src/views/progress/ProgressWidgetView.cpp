@@ -45,11 +45,12 @@ QString captionOf(const ValuedGoal& goal)
 } // namespace
 
 ProgressWidgetView::ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
-                                       QWidget* parent)
+                                       const QProperty<Counting>* counting, QWidget* parent)
     : SpokenGroup(cardEdge, parent)
     , m_settings(settings)
     , m_viewSettings(viewSettings)
     , m_period(period)
+    , m_counting(counting)
     , m_headline(new MarkedTextLabel)
     , m_goal(new MarkedTextLabel)
     , m_bar(new MarkedProgressBar)
@@ -101,9 +102,9 @@ ProgressWidgetView::Contents ProgressWidgetView::contents() const
     QList<const Month*> months;
     for (const auto& month : m_months)
         months.append(month.get());
-    const AttendanceStatistics statistics =
-        attendanceStatistics(months, m_settings.daysPerWeekGoals, m_settings.vacationDaysCountAsInOffice,
-                             m_viewSettings.showWillBeInOfficeStats);
+    const AttendanceStatistics statistics = attendanceStatistics(
+        months, m_settings.daysPerWeekGoals, m_settings.vacationDaysCountAsInOffice,
+        m_viewSettings.showWillBeInOfficeStats, m_counting != nullptr ? m_counting->value() : Counting());
     const BarFractions fractions = barFractions(statistics);
     const Theme& theme = themeFor(palette());
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Counting.h"
 #include "MarkedProgressBar.h"
 #include "SpokenGroup.h"
 #include "StatisticsTexts.h"
@@ -20,8 +21,9 @@ class ProgressWidgetView : public SpokenGroup {
     Q_OBJECT
 
 public:
+    /// `counting` outlives the view. Without it every day counts as its state says.
     ProgressWidgetView(const AppSettings& settings, const ViewSettings& viewSettings, PeriodWord period,
-                       QWidget* parent = nullptr);
+                       const QProperty<Counting>* counting = nullptr, QWidget* parent = nullptr);
 
     /// The width of texts and bar.
     [[nodiscard]] static int columnWidth(const QFont& font);
@@ -46,6 +48,7 @@ private:
     const AppSettings& m_settings;
     const ViewSettings& m_viewSettings;
     PeriodWord m_period;
+    const QProperty<Counting>* m_counting;
     QList<std::shared_ptr<Month>> m_months;
     MarkedTextLabel* m_headline;
     MarkedTextLabel* m_goal;

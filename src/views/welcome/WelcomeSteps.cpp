@@ -114,18 +114,17 @@ std::shared_ptr<Month> makeSampleMonth(QDate today)
 
 } // namespace
 
-QWidget* WelcomeSteps::makeIntroduction(DayMarker& marker, const AppSettings& settings,
-                                        const ViewSettings& viewSettings, const Clock& clock)
+QWidget* WelcomeSteps::makeIntroduction(const CalendarParts& parts)
 {
     auto* step = new QWidget;
     auto* column = makeColumn(step, tr("Welcome to Pellory"),
                               tr("Mark where you spend each day, and see how far you are from your goals. Try it on "
                                  "this sample month: click a day to change it, or right-click it for all states."));
-    const auto sample = makeSampleMonth(clock.today());
-    auto* calendar = new CalendarView(marker, viewSettings, clock, true);
+    const auto sample = makeSampleMonth(parts.clock.today());
+    auto* calendar = new CalendarView(parts, true);
     calendar->setContentsMargins(16, 12, 16, 12);
     calendar->setMonth(sample);
-    auto* tracker = new ProgressWidgetView(settings, viewSettings, PeriodWord::Month);
+    auto* tracker = new ProgressWidgetView(parts.settings, parts.viewSettings, PeriodWord::Month);
     tracker->setMonths({sample});
     column->addWidget(calendar, 0, Qt::AlignHCenter);
     column->addSpacing(8);

@@ -5,7 +5,7 @@
 
 class AppSettings;
 class Clock;
-class DayMarker;
+struct CalendarParts;
 class InOfficeCheck;
 class LaunchAtLogin;
 class LocationManager;
@@ -19,8 +19,7 @@ class WelcomeSteps {
 
 public:
     /// What Pellory is, with a sample month to try out. That month is never stored.
-    [[nodiscard]] static QWidget* makeIntroduction(DayMarker& marker, const AppSettings& settings,
-                                                   const ViewSettings& viewSettings, const Clock& clock);
+    [[nodiscard]] static QWidget* makeIntroduction(const CalendarParts& parts);
     /// The goals, and what the sample month makes of them.
     [[nodiscard]] static QWidget* makeGoals(AppSettings& settings, const ViewSettings& viewSettings,
                                             const Clock& clock);

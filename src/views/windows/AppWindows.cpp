@@ -191,9 +191,7 @@ void AppWindows::makeWelcome()
     const ViewParts& parts = m_parts;
     m_welcome = new WelcomeView(
         {
-            [&parts] {
-                return WelcomeSteps::makeIntroduction(parts.marker, parts.settings, parts.viewSettings, parts.clock);
-            },
+            [&parts] { return WelcomeSteps::makeIntroduction(parts.calendar()); },
             [&parts] { return WelcomeSteps::makeGoals(parts.settings, parts.viewSettings, parts.clock); },
             [&parts] { return WelcomeSteps::makeGeneral(parts.settings, parts.launchAtLogin); },
             [&parts] {

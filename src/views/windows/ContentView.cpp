@@ -238,7 +238,7 @@ CalendarPage& ContentView::page() const
 
 template <class Calendar> QWidget* ContentView::makePage()
 {
-    auto* calendar = new Calendar(m_parts.marker, m_parts.settings, m_parts.viewSettings, m_parts.clock);
+    auto* calendar = new Calendar(m_parts.calendar());
     connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
     return new Page(calendar);
 }

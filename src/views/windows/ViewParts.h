@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarParts.h"
+
 #include <functional>
 
 class AppSettings;
 class BackupService;
 class Clock;
+class CountingRecords;
 class DayMarker;
 class InOfficeCheck;
 class LaunchAtLogin;
@@ -20,6 +23,7 @@ struct ViewParts {
     ModelContext& context;
     DayMarker& marker;
     UndoHistory& history;
+    CountingRecords& counting;
     BackupService& backups;
     AppSettings& settings;
     ViewSettings& viewSettings;
@@ -28,6 +32,8 @@ struct ViewParts {
     LocationManagerKey& locationManager;
     InOfficeCheck& check;
     LaunchAtLogin& launchAtLogin;
+    [[nodiscard]] CalendarParts calendar() const { return {marker, counting, settings, viewSettings, clock}; }
+
     /// Whether a window may have transparent parts.
     std::function<bool()> blendsWindows = {};
 };

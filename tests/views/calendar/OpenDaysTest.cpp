@@ -18,7 +18,7 @@ protected:
     void set(QDate date, DayState state) { marker.mark({{date, state}}, ChangedBy::Hand); }
 
     const std::shared_ptr<Month> november = month(2026, 11);
-    MonthView page{marker, *settings, viewSettings, clock};
+    MonthView page{calendarParts};
     const CalendarView& grid = *page.findChild<CalendarView*>();
 };
 

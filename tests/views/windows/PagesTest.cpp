@@ -17,8 +17,8 @@ protected:
         show(quarterPage);
     }
 
-    MonthView monthPage{marker, *settings, viewSettings, clock};
-    QuarterView quarterPage{marker, *settings, viewSettings, clock};
+    MonthView monthPage{calendarParts};
+    QuarterView quarterPage{calendarParts};
     CalendarPage* const pages[2]{&monthPage, &quarterPage};
 };
 

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "AttendanceRule.h"
+#include "Counting.h"
+#include "DayState.h"
+
+#include <QDate>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// A run of days, both ends included.
+struct DaySpan {
+    QDate first;
+    QDate last;
+
+    [[nodiscard]] bool contains(QDate date) const { return first <= date && date <= last; }
+    bool operator==(const DaySpan&) const = default;
+};
+
+/// The span of a rule to which a date belongs, not yet cut by the rule's validity. Weeks begin on `firstDayOfWeek`.
+[[nodiscard]] DaySpan spanOf(const AttendanceRule& rule, QDate date, Qt::DayOfWeek firstDayOfWeek);
+
+/// Days in a row, each counted once, for several rules to read. Days of months that are not there are unknown.
+class CountedDays {
+public:
+    /// Returns the state of a day; unknown if it is not known.
+    using StateOn = std::function<DayState(QDate)>;
+
+    CountedDays(DaySpan span, const StateOn& stateOn, const Counting& counting, bool vacationDaysCountAsInOffice);
+
+    [[nodiscard]] DaySpan span() const { return m_span; }
+    /// `date` is in the span.
+    [[nodiscard]] const CountedDay& on(QDate date) const;
+    [[nodiscard]] DayState stateOn(QDate date) const;
+    /// Whether the weekday is worked, days off included.
+    [[nodiscard]] bool isScheduled(QDate date) const;
+
+private:
+    struct Entry {
+        CountedDay counted;
+        DayState state;
+        bool isScheduled;
+    };
+
+    DaySpan m_span;
+    std::vector<Entry> m_days;
+};
+
+/// How far a rule is met in one of its spans.
+struct RuleProgress {
+    enum class Verdict {
+        /// At least: enough days. At most: not too many so far.
+        Kept,
+        /// At least: enough with the planned days.
+        KeptWithPlanned,
+        /// At least: enough workdays are left.
+        Open,
+        /// At least: not even all workdays that are left are enough. At most: too many.
+        Broken
+    };
+
+    /// Cut by the days on which the rule holds.
+    DaySpan span;
+    /// The days that are needed, or allowed.
+    qint64 wanted = 0;
+    qint64 counted = 0;
+    /// Planned days from today on.
+    qint64 planned = 0;
+    /// Workdays from today on that are unknown or planned.
+    qint64 workdaysLeft = 0;
+    Verdict verdict = Verdict::Open;
+
+    /// At least: what is still needed, without the planned days. At most: what is still allowed, negative if too many.
+    [[nodiscard]] qint64 remaining() const { return wanted - counted; }
+
+    bool operator==(const RuleProgress&) const = default;
+};
+
+/// The progress in the span to which `reference` belongs; nothing if the rule does not hold in it. `days` includes that
+/// span. Only days from `today` on can still change.
+///
+/// A rule needs the least number of days that reaches its amount, and allows the greatest that does not exceed it. With
+/// W workdays in the span: amount * W / 5 days for an average, amount * W / 100 for per cent. A number of days does not
+/// depend on leave; if the rule holds only in a part of the span, it is reduced to that part of the scheduled weekdays.
+[[nodiscard]] std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const CountedDays& days,
+                                                       QDate reference, QDate today, Qt::DayOfWeek firstDayOfWeek);
