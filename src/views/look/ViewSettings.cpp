@@ -3,6 +3,8 @@
 
 #include "Follow.h"
 
+#include <QLocale>
+
 using namespace Qt::StringLiterals;
 
 ViewSettings::ViewSettings(QSettings& settings)
@@ -14,7 +16,15 @@ ViewSettings::ViewSettings(QSettings& settings)
     persist(showWillBeInOfficeStats, u"calendarViewShowWillBeInOfficeStats"_s);
     persist(showStatusLabelOnHover, u"calendarViewShowStatusLabelOnHover"_s);
     persist(showUnmarkedWorkdays, u"calendarViewShowUnmarkedWorkdays"_s);
+    persist(showWeekNumbers, u"calendarViewShowWeekNumbers"_s);
+    persist(firstDayOfWeek, u"calendarViewFirstDayOfWeek"_s);
     persist(selectedTab, u"contentViewSelectedTab"_s);
+}
+
+Qt::DayOfWeek ViewSettings::weekStart() const
+{
+    const int day = firstDayOfWeek;
+    return day >= Qt::Monday && day <= Qt::Sunday ? static_cast<Qt::DayOfWeek>(day) : QLocale().firstDayOfWeek();
 }
 
 template <class Value> void ViewSettings::persist(QProperty<Value>& field, const QString& key)

@@ -16,8 +16,14 @@ public:
     QProperty<bool> showWillBeInOfficeStats{true};
     QProperty<bool> showStatusLabelOnHover{true};
     QProperty<bool> showUnmarkedWorkdays{true};
+    QProperty<bool> showWeekNumbers{false};
+    /// The day on which rows of days begin, as Qt::DayOfWeek; 0 as the locale has it.
+    QProperty<int> firstDayOfWeek{Qt::Sunday};
     /// 1 is "Month", 2 is "Quarter".
     QProperty<int> selectedTab{1};
+
+    /// The first day of a week that `firstDayOfWeek` stands for.
+    [[nodiscard]] Qt::DayOfWeek weekStart() const;
 
     /// What QWidget::saveGeometry() returned for a window; empty if nothing is stored.
     [[nodiscard]] QByteArray geometry(const QString& key) const { return m_settings.value(key).toByteArray(); }
