@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>Absence</name>
+    <message>
+        <source>Sick</source>
+        <translation>Krank</translation>
+    </message>
+    <message>
+        <source>Business Trip</source>
+        <translation>Dienstreise</translation>
+    </message>
+    <message>
+        <source>Client Visit</source>
+        <translation>Kundenbesuch</translation>
+    </message>
+    <message>
+        <source>Training</source>
+        <translation>Schulung</translation>
+    </message>
+</context>
+<context>
     <name>AppSettings</name>
     <message>
         <source>not fired</source>
@@ -438,18 +457,6 @@
         <translation>Quartal</translation>
     </message>
     <message>
-        <source>Calendar View Settings</source>
-        <translation>Einstellungen der Kalenderansicht</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
         <source>Set-up Not Finished</source>
         <translation>Einrichtung nicht abgeschlossen</translation>
     </message>
@@ -460,26 +467,6 @@
     <message>
         <source>Finish Set-up</source>
         <translation>Einrichtung abschließen</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menü</translation>
-    </message>
-    <message>
-        <source>About Pellory</source>
-        <translation>Über Pellory</translation>
-    </message>
-    <message>
-        <source>Quit</source>
-        <translation>Beenden</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1546,6 +1533,41 @@
     <message>
         <source>The data file is being changed.</source>
         <translation>Die Datendatei wird gerade geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>Toolbar</name>
+    <message>
+        <source>Calendar View Settings</source>
+        <translation>Einstellungen der Kalenderansicht</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>About Pellory</source>
+        <translation>Über Pellory</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>

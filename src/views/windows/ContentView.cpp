@@ -9,18 +9,17 @@
 #include "DayDetails.h"
 #include "FocusOrder.h"
 #include "Follow.h"
-#include "IconButton.h"
 #include "LazyStack.h"
 #include "LocationAlert.h"
 #include "LocationManager.h"
 #include "LostDataAlert.h"
-#include "MenuStyle.h"
 #include "ModelContext.h"
 #include "MonthView.h"
 #include "Page.h"
 #include "QuarterView.h"
 #include "SaveAlert.h"
 #include "SegmentedTabs.h"
+#include "Toolbar.h"
 #include "TrackingIndicator.h"
 #include "TrackingPopover.h"
 #include "TrackingStatus.h"
@@ -32,7 +31,6 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -44,7 +42,6 @@ namespace {
 
 // The stored number of the first tab.
 constexpr int firstTab = 1;
-constexpr int menuGap = 4;
 
 // These, and the others that the desktop has for the same.
 QList<QKeySequence> withDesktopKeys(const QKeySequence& keys, QKeySequence::StandardKey standard)
@@ -91,13 +88,11 @@ QWidget* ContentView::makeHeader()
     m_tabs->addTab(Symbol::Calendar, tr("Month"));
     m_tabs->addTab(Symbol::Calendar, tr("Quarter"));
     auto* header = new Bar(Qt::BottomEdge);
-    auto* toolbar = new QHBoxLayout;
     auto* row = new QGridLayout(header);
     row->setContentsMargins(24, 8, 24, 9);
     row->addWidget(makeIndicator(), 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     row->addWidget(m_tabs, 0, 1);
-    addToolbar(*toolbar);
-    row->addLayout(toolbar, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
+    row->addWidget(makeToolbar(), 0, 2, Qt::AlignRight | Qt::AlignVCenter);
     // Keeps the tabs in the middle of the window.
     row->setColumnStretch(0, 1);
     row->setColumnStretch(2, 1);
@@ -115,47 +110,14 @@ QWidget* ContentView::makeIndicator()
     return indicator;
 }
 
-void ContentView::addToolbar(QHBoxLayout& row)
+QWidget* ContentView::makeToolbar()
 {
-    const auto add = [&](Symbol symbol, const QString& text, WindowId id) {
-        auto* button = new IconButton(symbol, text);
-        connect(button, &QAbstractButton::clicked, this, [this, id] { Q_EMIT windowRequested(id); });
-        row.addWidget(button);
-    };
-    row.setSpacing(2); // more would push the tabs off the middle of a narrow window
-    add(Symbol::DocumentGear, tr("Calendar View Settings"), WindowId::calendarViewSettings);
-    add(Symbol::Gear, tr("Settings"), WindowId::settings);
-    add(Symbol::Question, tr("Help"), WindowId::help);
-    auto* menu = new IconButton(Symbol::Menu, tr("Menu"));
-    menu->setObjectName("menu"_L1);
-    connect(menu, &QAbstractButton::clicked, this, [this, menu] { popUpMenu(*menu); });
-    row.addWidget(menu);
-}
-
-void ContentView::popUpMenu(FlatButton& button)
-{
-    auto* menu = new QMenu(this);
-    MenuStyle::apply(*menu);
-    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
-    const auto add = [&](const QString& text, const QKeySequence& keys, auto* receiver, auto method,
-                         auto... arguments) {
-        QAction* action = menu->addAction(text);
-        // The keys themselves are those of the window.
-        action->setShortcut(keys);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        connect(action, &QAction::triggered, receiver, [=] { (receiver->*method)(arguments...); });
-    };
-    add(tr("Undo"), undoKeys, m_undoLine, &UndoLine::undo);
-    add(tr("Redo"), redoKeys, m_undoLine, &UndoLine::redo);
-    menu->addSeparator();
-    add(tr("Help"), Qt::Key_F1, this, &ContentView::windowRequested, WindowId::help);
-    add(tr("About Pellory"), {}, this, &ContentView::windowRequested, WindowId::about);
-    menu->addSeparator();
-    add(tr("Quit"), Qt::CTRL | Qt::Key_Q, this, &ContentView::quitRequested);
-    const bool isLeftToRight = layoutDirection() == Qt::LeftToRight;
-    const QRect above = button.rect().adjusted(0, 0, 0, menuGap);
-    menu->popup(button.mapToGlobal(isLeftToRight ? above.bottomRight() + QPoint(1 - menu->sizeHint().width(), 0)
-                                                 : above.bottomLeft()));
+    auto* toolbar = new Toolbar;
+    connect(toolbar, &Toolbar::windowRequested, this, &ContentView::windowRequested);
+    connect(toolbar, &Toolbar::undoRequested, m_undoLine, &UndoLine::undo);
+    connect(toolbar, &Toolbar::redoRequested, m_undoLine, &UndoLine::redo);
+    connect(toolbar, &Toolbar::quitRequested, this, &ContentView::quitRequested);
+    return toolbar;
 }
 
 void ContentView::addShortcuts()

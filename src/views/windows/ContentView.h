@@ -8,13 +8,11 @@
 class AlertCard;
 class BackupAlert;
 class CalendarPage;
-class FlatButton;
 class LazyStack;
 class LocationAlert;
 class Month;
 class Popover;
 class QDate;
-class QHBoxLayout;
 class QVBoxLayout;
 class SaveAlert;
 class SegmentedTabs;
@@ -62,8 +60,7 @@ protected:
 private:
     [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QWidget* makeIndicator();
-    void addToolbar(QHBoxLayout& row);
-    void popUpMenu(FlatButton& button);
+    [[nodiscard]] QWidget* makeToolbar();
     void addShortcuts();
     void alertIfNeeded();
     void alertIfUnsaved();
