@@ -67,10 +67,12 @@ struct RuleProgress {
     /// The days that are needed, or allowed.
     qint64 wanted = 0;
     qint64 counted = 0;
-    /// Planned days from today on.
+    /// Planned days from today on; 0 for a rule about days out of office.
     qint64 planned = 0;
     /// Workdays from today on that are unknown or planned.
     qint64 workdaysLeft = 0;
+    /// The days that a broken rule lacks, or has too many; otherwise 0.
+    qint64 missedBy = 0;
     Verdict verdict = Verdict::Open;
 
     /// At least: what is still needed, without the planned days. At most: what is still allowed, negative if too many.
@@ -85,5 +87,6 @@ struct RuleProgress {
 /// A rule needs the least number of days that reaches its amount, and allows the greatest that does not exceed it. With
 /// W workdays in the span: amount * W / 5 days for an average, amount * W / 100 for per cent. A number of days does not
 /// depend on leave; if the rule holds only in a part of the span, it is reduced to that part of the scheduled weekdays.
+/// Days in the office count on any day, workday or not, as they do in the trackers.
 [[nodiscard]] std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const CountedDays& days,
                                                        QDate reference, QDate today, Qt::DayOfWeek firstDayOfWeek);
