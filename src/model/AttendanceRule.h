@@ -25,8 +25,8 @@ struct AttendanceRule {
     static constexpr int largestAmount = 36600;
     static constexpr int mostWeeks = 53;
 
-    QUuid id;
-    QString name;
+    QUuid id = {};
+    QString name = {};
     Bound bound = Bound::AtLeast;
     /// In hundredths of the unit.
     int amount = 300;
