@@ -8,14 +8,14 @@ namespace {
 // A Monday. Without an anchor, pairs of weeks begin in its week.
 constexpr QDate defaultAnchor = QDate::fromJulianDay(2460311); // 2024-01-01
 
-qint64 remainder(qint64 number, qint64 divisor)
+qint64 remainderOf(qint64 number, qint64 divisor)
 {
     return (number % divisor + divisor) % divisor;
 }
 
 QDate weekStart(QDate date, Qt::DayOfWeek firstDayOfWeek)
 {
-    return date.addDays(-remainder(date.dayOfWeek() - firstDayOfWeek, 7));
+    return date.addDays(-remainderOf(date.dayOfWeek() - firstDayOfWeek, 7));
 }
 
 DaySpan weeksFrom(QDate first, int weeks)
@@ -26,14 +26,14 @@ DaySpan weeksFrom(QDate first, int weeks)
 DaySpan twoWeeksOf(QDate anchor, QDate date, Qt::DayOfWeek firstDayOfWeek)
 {
     const qint64 days = weekStart(anchor, firstDayOfWeek).daysTo(date);
-    return weeksFrom(date.addDays(-remainder(days, 14)), 2);
+    return weeksFrom(date.addDays(-remainderOf(days, 14)), 2);
 }
 
 // Runs of as many months, of which one begins with `firstMonth`.
 DaySpan monthsOf(QDate date, int firstMonth, int months)
 {
     const QDate monthStart = date.addDays(1 - date.day());
-    const QDate first = monthStart.addMonths(-static_cast<int>(remainder(date.month() - firstMonth, months)));
+    const QDate first = monthStart.addMonths(-static_cast<int>(remainderOf(date.month() - firstMonth, months)));
     return {first, first.addMonths(months).addDays(-1)};
 }
 
@@ -200,4 +200,26 @@ std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const Count
                                                                          : -progress.remaining());
     progress.verdict = verdictOf(progress, rule.bound);
     return progress;
+}
+
+SpansKept spansKept(const AttendanceRule& rule, const CountedDays& days, DaySpan period, QDate today,
+                    Qt::DayOfWeek firstDayOfWeek)
+{
+    SpansKept result;
+    QDate date = period.first;
+    for (DaySpan span = spanOf(rule, date, firstDayOfWeek); span.last <= period.last;
+         span = spanOf(rule, date, firstDayOfWeek)) {
+        const auto progress = ruleProgress(rule, days, date, today, firstDayOfWeek);
+        if (progress && progress->span.last < today) {
+            ++result.spans;
+            result.kept += progress->verdict == RuleProgress::Verdict::Kept;
+        }
+        date = span.last.addDays(1);
+    }
+    return result;
+}
+
+DaySpan daysOfSpansKept(const AttendanceRule& rule, DaySpan period, Qt::DayOfWeek firstDayOfWeek)
+{
+    return {spanOf(rule, period.first, firstDayOfWeek).first, period.last};
 }

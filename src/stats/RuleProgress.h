@@ -90,3 +90,19 @@ struct RuleProgress {
 /// Days in the office count on any day, workday or not, as they do in the trackers.
 [[nodiscard]] std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const CountedDays& days,
                                                        QDate reference, QDate today, Qt::DayOfWeek firstDayOfWeek);
+
+/// In how many spans a rule was kept.
+struct SpansKept {
+    qint64 kept = 0;
+    qint64 spans = 0;
+
+    bool operator==(const SpansKept&) const = default;
+};
+
+/// The spans that end in a period and are over, such as the weeks of a month that is shown after its end. Spans in
+/// which the rule holds on no day are left out. `days` includes daysOfSpansKept().
+[[nodiscard]] SpansKept spansKept(const AttendanceRule& rule, const CountedDays& days, DaySpan period, QDate today,
+                                  Qt::DayOfWeek firstDayOfWeek);
+
+/// From the first day of the first span that ends in a period or later, to the end of the period.
+[[nodiscard]] DaySpan daysOfSpansKept(const AttendanceRule& rule, DaySpan period, Qt::DayOfWeek firstDayOfWeek);
