@@ -23,7 +23,7 @@ struct Expectation {
     struct Group {
         qint64 number;
         ChangedBy by;
-        std::map<QDate, std::pair<DayState, DayState>> changes;
+        std::map<QDate, std::pair<DayMark, DayMark>> changes;
         std::set<QDate> inForce;
         QDate undone = {};
     };
@@ -35,7 +35,7 @@ struct Expectation {
             if (group->inForce.contains(date))
                 return false;
             if (group->by == ChangedBy::Check && group->undone == today && group->changes.contains(date) &&
-                group->changes.at(date).second == state)
+                group->changes.at(date).second.state == state)
                 return true;
         }
         return false;
@@ -46,12 +46,12 @@ struct Expectation {
         if (groups.empty() || groups.back().number != number)
             groups.push_back({number, by, {}, {}});
         Group& group = groups.back();
-        for (const auto& [date, state] : marks) {
-            if (states[date] == state)
+        for (const DayMark& mark : marks) {
+            if (on(mark.date) == mark)
                 continue;
-            group.changes.try_emplace(date, states[date], state).first->second.second = state;
-            group.inForce.insert(date);
-            states[date] = state;
+            group.changes.try_emplace(mark.date, on(mark.date), mark).first->second.second = mark;
+            group.inForce.insert(mark.date);
+            set(mark);
         }
         undone.clear();
     }
@@ -65,13 +65,13 @@ struct Expectation {
             Dates dates;
             for (const QDate& date : group.inForce) {
                 const auto& [before, after] = group.changes.at(date);
-                if (before != after && states[date] == after &&
+                if (before != after && on(date) == after &&
                     (number == 0 || (group.number == number && !later.contains(date))))
                     dates.insert(date);
             }
             if (!dates.empty()) {
                 for (const QDate& date : dates) {
-                    states[date] = group.changes.at(date).first;
+                    set(group.changes.at(date).first);
                     group.inForce.erase(date);
                 }
                 group.undone = today;
@@ -88,18 +88,33 @@ struct Expectation {
         if (undone.empty())
             return false;
         auto [index, dates] = undone.back();
-        std::erase_if(dates, [&](QDate date) { return states[date] != groups[index].changes.at(date).first; });
+        std::erase_if(dates, [&](QDate date) { return on(date) != groups[index].changes.at(date).first; });
         if (dates.empty())
             return false;
         undone.pop_back();
         for (const QDate& date : dates) {
-            states[date] = groups[index].changes.at(date).second;
+            set(groups[index].changes.at(date).second);
             groups[index].inForce.insert(date);
         }
         return true;
     }
 
-    std::map<QDate, DayState> states;
+    DayMark& on(QDate date) { return days.try_emplace(date, DayMark{date}).first->second; }
+
+    void set(const DayMark& mark)
+    {
+        on(mark.date) = mark;
+        kinds[mark.date] = mark.absenceKind;
+    }
+
+    /// As another file may have it: what it does not hold, the kind of an absence, stays.
+    void setState(QDate date, DayState state)
+    {
+        on(date) = {date, state, state == DayState::OUT_OF_OFFICE ? kinds[date] : AbsenceKind::none};
+    }
+
+    std::map<QDate, DayMark> days;
+    std::map<QDate, int> kinds;
     std::vector<Group> groups;
     std::vector<std::pair<std::size_t, Dates>> undone;
 };
@@ -114,16 +129,18 @@ protected:
         parts = std::make_unique<Parts>(folder.filePath(u"Pellory.store"_s), clock);
     }
 
-    qint64 mark(QDate date, DayState state, MarkedBy by)
+    qint64 mark(const DayMark& mark, MarkedBy by)
     {
-        const auto month = findOrCreateMonth(parts->container.mainContext(), date);
-        return parts->marker.mark(*month, *month->indexOf(date.day()), state, by);
+        const auto month = findOrCreateMonth(parts->container.mainContext(), mark.date);
+        const auto index = *month->indexOf(mark.date.day());
+        return by == MarkedBy::Menu ? parts->marker.markAbsence(*month, index, mark.absenceKind)
+                                    : parts->marker.mark(*month, index, mark.state, by);
     }
 
-    [[nodiscard]] DayState stateOn(QDate date)
+    [[nodiscard]] DayMark markOn(QDate date)
     {
         const auto month = storedMonth(parts->container.mainContext(), date);
-        return month ? DayMarker::stateOf(*month, *month->indexOf(date.day())) : DayState::UNKNOWN;
+        return month ? *parts->marker.markOn(*month, date) : DayMark{date};
     }
 
     struct Parts {
@@ -151,7 +168,11 @@ TEST_F(UndoHistoryTest, takesBackAndSetsAgainWhateverTheOrder)
     std::mt19937 random(seed);
     const auto below = [&](std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(random); };
     const QDate dates[]{{2026, 10, 30}, {2026, 11, 20}, {2026, 11, 23}};
-    const auto anyState = [&] { return allDayStates.at(below(3)); }; // often the same again
+    // Often the same again.
+    const auto anyMark = [&](QDate date) {
+        const DayState state = allDayStates.at(below(3));
+        return DayMark{date, state, state == DayState::OUT_OF_OFFICE ? int(below(3)) : AbsenceKind::none};
+    };
     const int count = 1000 * std::max(1, qEnvironmentVariableIntValue("PELLORY_TORTURE"));
     Expectation expected;
     for (int number = 0; number < count && !HasFailure(); ++number) {
@@ -161,19 +182,20 @@ TEST_F(UndoHistoryTest, takesBackAndSetsAgainWhateverTheOrder)
         const QDate date = dates[below(3)], today = clock.today();
         const std::size_t action = below(17);
         SCOPED_TRACE(testing::Message() << number << ": " << action);
-        if (action < 3) {
-            const DayState state = anyState();
-            if (const auto group = mark(date, state, MarkedBy::Click))
-                expected.add(group, ChangedBy::Hand, {{date, state}});
+        if (action < 4) {
+            const DayMark marked = anyMark(date);
+            const MarkedBy by = marked.absenceKind != AbsenceKind::none ? MarkedBy::Menu : MarkedBy::Click;
+            if (const auto group = mark(marked, by))
+                expected.add(group, ChangedBy::Hand, {marked});
         } else if (action < 6) {
-            const DayState before = stateOn(date);
+            const DayState before = markOn(date).state;
             const bool isOpen = before == DayState::UNKNOWN || before == DayState::WILL_BE_IN_OFFICE;
-            const auto group = mark(date, DayState::IN_OFFICE, MarkedBy::Check);
+            const auto group = mark({date, DayState::IN_OFFICE}, MarkedBy::Check);
             EXPECT_EQ(group != 0, isOpen && !expected.isTakenBack(date, DayState::IN_OFFICE, today));
             if (group != 0)
                 expected.add(group, ChangedBy::Check, {{date, DayState::IN_OFFICE}});
         } else if (action == 6) {
-            const QList<DayMark> marks{{dates[0], anyState()}, {dates[2], anyState()}};
+            const QList<DayMark> marks{anyMark(dates[0]), anyMark(dates[2])};
             if (const auto group = parts->marker.mark(marks, ChangedBy::Hand))
                 expected.add(group, ChangedBy::Hand, marks);
         } else if (action < 10 && !expected.groups.empty()) {
@@ -187,10 +209,12 @@ TEST_F(UndoHistoryTest, takesBackAndSetsAgainWhateverTheOrder)
         }
         if (below(30) == 0) { // as when another file was put in the place of the store
             const auto month = findOrCreateMonth(parts->container.mainContext(), date);
-            ::mark(*month, date.day(), expected.states[date] = anyState());
+            const DayState state = anyMark(date).state;
+            ::mark(*month, date.day(), state);
+            expected.setState(date, state);
         }
         for (const QDate& day : dates)
-            EXPECT_EQ(stateOn(day), expected.states[day]) << qPrintable(day.toString(Qt::ISODate));
+            EXPECT_TRUE(markOn(day) == expected.on(day)) << qPrintable(day.toString(Qt::ISODate));
         if (below(10) == 0)
             clock.beginDay(today.addDays(1));
         clock.advance(std::chrono::seconds(below(4)));

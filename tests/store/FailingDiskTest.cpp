@@ -26,6 +26,8 @@ protected:
             context.insert(std::make_shared<Month>(2026, month));
         context.remove(context.fetchMonths(2026, 1).first());
         context.append(exampleChange());
+        context.remove(context.records<DayOff>().first());
+        addSmallRecords(context);
     }
 
     /// Puts an obstacle in the way of writing, or removes it.

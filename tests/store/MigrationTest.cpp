@@ -44,8 +44,21 @@ protected:
                query("x AS value FROM unknown");
     }
 
+    /// Every value that a store of a version holds.
+    [[nodiscard]] std::string rows(const Schema& ofVersion) const
+    {
+        std::string rows;
+        for (const TableLayout& table : ofVersion.tables) {
+            std::string sql = "pk";
+            for (const Column& column : table.columns)
+                sql += " || ' ' || " + column.name;
+            rows += query(sql + " AS value FROM " + table.name);
+        }
+        return rows;
+    }
+
     const Schema schema = laterSchema();
-    const QString copy = u".before-3"_s;
+    const QString copy = u".before-4"_s;
     QByteArray sound;
 };
 
@@ -58,7 +71,7 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
         EXPECT_EQ(oldFields(), before);
         EXPECT_EQ(query("colour || mood AS value FROM month"), "7calm,7calm,7calm");
         EXPECT_EQ(files(),
-                  QStringList({u"Pellory.store"_s, u"Pellory.store.before-3"_s, u"Pellory.store.before-3-2"_s}));
+                  QStringList({u"Pellory.store"_s, u"Pellory.store.before-4"_s, u"Pellory.store.before-4-2"_s}));
     }
     EXPECT_THAT(refusal(), HasSubstr("newer version"));
     EXPECT_EQ(bytes(copy), "of another time");
@@ -70,6 +83,20 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
     connection().exec("INSERT INTO day_change (network) VALUES ('damaged')");
     EXPECT_EQ(refusal(schema), "");
     EXPECT_EQ(query("pk AS value FROM day_change"), "");
+}
+
+TEST_F(MigrationTest, keepsEveryValueOfReleasedStoresAndAddsNoRecords)
+{
+    for (const int version : {1, 2}) {
+        putReleased(version);
+        const std::string before = rows(pellorySchema().atVersion(version));
+        const auto container = open();
+        EXPECT_EQ(rows(pellorySchema().atVersion(version)), before);
+        EXPECT_THAT(changes(container->mainContext()), testing::Each(testing::Truly([](const Row& row) {
+                        return row.at(8) == Value(0) && row.at(9) == Value(0);
+                    })));
+        EXPECT_THAT(smallRecords(container->mainContext()), testing::IsEmpty());
+    }
 }
 
 TEST_F(MigrationTest, thatFailsLeavesTheStoreAsItWas)
@@ -114,7 +141,7 @@ TEST_F(MigrationTest, leavesTheOldOrTheNewStoreWhateverFailsAndWheneverItIsKille
         EXPECT_EQ(oldFields(), before);
         EXPECT_EQ(refusal(schema), "");
         EXPECT_EQ(oldFields(), before);
-        EXPECT_EQ(files(), QStringList({u"Pellory.store"_s, u"Pellory.store.before-3"_s}));
+        EXPECT_EQ(files(), QStringList({u"Pellory.store"_s, u"Pellory.store.before-4"_s}));
     });
     EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(5), testing::Ge(20), testing::Ge(4), 0, testing::Ge(1),
                                             testing::Ge(1)));

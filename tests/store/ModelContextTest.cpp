@@ -6,46 +6,93 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <cstring>
+#include <functional>
 #include <random>
 
-using testing::ElementsAre;
 using testing::Key;
 
 namespace {
 
 struct Records {
+    ModelContext& context;
     Month& month;
     Goal& goal;
     AppSettings& settings;
     DayNote& note;
 };
 
-/// A column, and a change of the field that it holds.
-constexpr std::pair<const char*, void (*)(const Records&)> fieldChanges[]{
-    {"month.year", [](const Records& of) { of.month.year = -2026; }},
-    {"month.month", [](const Records& of) { of.month.month = 13; }},
-    {"month.name", [](const Records& of) { of.month.name = u"'März' \"%1\" \U0001F3E2\n"_s; }},
-    {"month.days_in_month", [](const Records& of) { of.month.daysInMonth = 0; }},
-    {"month.days", [](const Records& of) { mark(of.month, 2, DayState::WILL_BE_IN_OFFICE); }},
-    {"goal.wanted_days_per_week", [](const Records& of) { of.goal.wantedDaysPerWeek = u"nan'; --"_s; }},
-    {"goal.description", [](const Records& of) { of.goal.desc = u"**a\0b** <b>\t"_s; }},
-    {"app_settings.days_per_week_goals",
-     [](const Records& of) {
-         const auto goals = of.settings.daysPerWeekGoals.value();
-         of.settings.daysPerWeekGoals = {goals.last(), Goal::create(u"1"_s, u"new"_s), goals.first()};
-     }},
-    {"app_settings.in_office_ssids",
-     [](const Records& of) {
-         of.settings.inOfficeSsids = {u"\"\0\\\n\t%1' "_s, u""_s, u"事務所\u2028"_s};
-     }},
-    {"app_settings.first_time", [](const Records& of) { of.settings.firstTime = false; }},
-    {"app_settings.wifi_tracking_enabled", [](const Records& of) { of.settings.wifiTrackingEnabled = true; }},
-    {"app_settings.vacation_days_count_as_in_office",
-     [](const Records& of) { of.settings.vacationDaysCountAsInOffice = true; }},
-    {"app_settings.notifications_enabled", [](const Records& of) { of.settings.notificationsEnabled = false; }},
-    {"app_settings.check_every_in_minutes", [](const Records& of) { of.settings.checkEveryInMinutes = -(1LL << 40); }},
-    {"day_note.text", [](const Records& of) { of.note.text = u"'\n<b>"_s; }},
-};
+/// Puts a record with another value in the place of the only one of its kind.
+template <class Record, class Value> auto replacing(Value Record::*field, const std::type_identity_t<Value>& value)
+{
+    return [=](const Records& of) {
+        Record record = of.context.records<Record>().first();
+        of.context.remove(record);
+        record.*field = value;
+        of.context.add(record);
+    };
+}
+
+using FieldChange = std::pair<const char*, std::function<void(const Records&)>>;
+
+/// Columns, and a change of the field that each holds.
+std::vector<FieldChange> fieldChanges()
+{
+    using Rule = AttendanceRule;
+    return {
+        {"month.year", [](const Records& of) { of.month.year = -2026; }},
+        {"month.month", [](const Records& of) { of.month.month = 13; }},
+        {"month.name", [](const Records& of) { of.month.name = u"'März' \"%1\" \U0001F3E2\n"_s; }},
+        {"month.days_in_month", [](const Records& of) { of.month.daysInMonth = 0; }},
+        {"month.days", [](const Records& of) { mark(of.month, 2, DayState::WILL_BE_IN_OFFICE); }},
+        {"goal.wanted_days_per_week", [](const Records& of) { of.goal.wantedDaysPerWeek = u"nan'; --"_s; }},
+        {"goal.description", [](const Records& of) { of.goal.desc = u"**a\0b** <b>\t"_s; }},
+        {"app_settings.days_per_week_goals",
+         [](const Records& of) {
+             const auto goals = of.settings.daysPerWeekGoals.value();
+             of.settings.daysPerWeekGoals = {goals.last(), Goal::create(u"1"_s, u"new"_s), goals.first()};
+         }},
+        {"app_settings.in_office_ssids",
+         [](const Records& of) {
+             of.settings.inOfficeSsids = {u"\"\0\\\n\t%1' "_s, u""_s, u"事務所\u2028"_s};
+         }},
+        {"app_settings.first_time", [](const Records& of) { of.settings.firstTime = false; }},
+        {"app_settings.wifi_tracking_enabled", [](const Records& of) { of.settings.wifiTrackingEnabled = true; }},
+        {"app_settings.vacation_days_count_as_in_office",
+         [](const Records& of) { of.settings.vacationDaysCountAsInOffice = true; }},
+        {"app_settings.notifications_enabled", [](const Records& of) { of.settings.notificationsEnabled = false; }},
+        {"app_settings.check_every_in_minutes",
+         [](const Records& of) { of.settings.checkEveryInMinutes = -(1LL << 40); }},
+        {"day_note.text", [](const Records& of) { of.note.text = u"'\n<b>"_s; }},
+        {"absence_kind.id", replacing(&AbsenceKind::id, 17)},
+        {"absence_kind.name", replacing(&AbsenceKind::name, u"''\n"_s)},
+        {"absence_kind.treatment", replacing(&AbsenceKind::treatment, Treatment::InOffice)},
+        {"day_absence.date", replacing(&DayAbsence::date, QDate(2026, 3, 30))},
+        {"day_absence.kind", replacing(&DayAbsence::kind, 2)},
+        {"day_off.date", replacing(&DayOff::date, QDate(2026, 4, 6))},
+        {"day_off.name", replacing(&DayOff::name, QString())},
+        {"day_off.source", replacing(&DayOff::source, DayOffSource::Hand)},
+        {"holiday_region.id", replacing(&HolidayRegion::id, u"AT"_s)},
+        {"holiday_region.last_year", replacing(&HolidayRegion::lastYear, 2028)},
+        {"work_week.first_day", replacing(&WorkWeek::from, QDate(2026, 6, 1))},
+        {"work_week.weekdays", replacing(&WorkWeek::weekdays, Weekdays(0b1000001))},
+        {"counting.leaves_out_vacation", replacing(&CountingChoices::leavesOutVacation, false)},
+        {"attendance_rule.id", replacing(&Rule::id, QUuid::createUuid())},
+        {"attendance_rule.name", replacing(&Rule::name, u"60 %"_s)},
+        {"attendance_rule.bound", replacing(&Rule::bound, Rule::Bound::AtMost)},
+        {"attendance_rule.amount", replacing(&Rule::amount, Rule::smallestAmount)},
+        {"attendance_rule.unit", replacing(&Rule::unit, Rule::Unit::Days)},
+        {"attendance_rule.subject", replacing(&Rule::subject, Rule::Subject::OutOfOffice)},
+        {"attendance_rule.absence_kind", replacing(&Rule::absenceKind, 16)},
+        {"attendance_rule.weekdays", replacing(&Rule::weekdays, Weekdays())},
+        {"attendance_rule.span", replacing(&Rule::span, Rule::Span::LastWeeks)},
+        {"attendance_rule.anchor", replacing(&Rule::anchor, QDate(1926, 1, 4))},
+        {"attendance_rule.first_month", replacing(&Rule::firstMonth, 12)},
+        {"attendance_rule.weeks", replacing(&Rule::weeks, Rule::mostWeeks)},
+        {"attendance_rule.first_day", replacing(&Rule::from, std::nullopt)},
+        {"attendance_rule.last_day", replacing(&Rule::until, QDate(2026, 12, 31))},
+        {"attendance_rule.position", replacing(&Rule::position, 3)},
+    };
+}
 
 } // namespace
 
@@ -73,7 +120,7 @@ TEST_F(ModelContextTest, savesAChangeOfAnyFieldInItsColumnAtTheEndOfTheTurn)
     putSample();
     const auto before = firstRows();
     auto untested = before;
-    for (const auto& [column, change] : fieldChanges) {
+    for (const auto& [column, change] : fieldChanges()) {
         SCOPED_TRACE(column);
         const std::string checksum = std::string(column, std::strchr(column, '.')) + ".checksum";
         putSample();
@@ -81,7 +128,7 @@ TEST_F(ModelContextTest, savesAChangeOfAnyFieldInItsColumnAtTheEndOfTheTurn)
         const auto month = container->mainContext().fetchMonths().first();
         const auto settings = container->mainContext().fetchSettings().first();
         const auto note = container->mainContext().fetchNotes({2026, 3, 31}, {2026, 3, 31}).first();
-        change({*month, *settings->daysPerWeekGoals.value().first(), *settings, *note});
+        change({container->mainContext(), *month, *settings->daysPerWeekGoals.value().first(), *settings, *note});
         EXPECT_EQ(firstRows(), before);
         QCoreApplication::processEvents();
         for (const auto& [name, value] : firstRows())
@@ -90,8 +137,9 @@ TEST_F(ModelContextTest, savesAChangeOfAnyFieldInItsColumnAtTheEndOfTheTurn)
         untested.erase(column);
         untested.erase(checksum);
     }
-    EXPECT_THAT(untested, ElementsAre(Key("app_settings.pk"), Key("day_note.date"), Key("day_note.pk"), Key("goal.id"),
-                                      Key("goal.pk"), Key("month.pk")));
+    for (const char* fixed : {"goal.id", "day_note.date"})
+        untested.erase(fixed);
+    EXPECT_THAT(untested, testing::Each(Key(testing::EndsWith(".pk"))));
 }
 
 TEST_F(ModelContextTest, givesOneObjectPerRecordAndWritesNothingWithoutAChange)
@@ -193,5 +241,5 @@ TEST_F(ModelContextTest, deletesWhatIsRemovedAndGoalsThatNoSettingsList)
     context.remove(settings);
     context.remove(context.fetchNotes({2026, 3, 30}, {2026, 4, 1}).first());
     EXPECT_TRUE(context.save());
-    EXPECT_EQ(stored().size(), 3 + 1);
+    EXPECT_EQ(stored().size(), 3 + 1 + 7);
 }

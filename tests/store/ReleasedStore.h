@@ -21,3 +21,19 @@ INSERT INTO goal VALUES(2,'f1e2d3c4-b5a6-4978-8a9b-abcdef012345','4.00','',14409
 INSERT INTO app_settings VALUES(1,'["6f2c1d0e-8a4b-4c3d-9e5f-0123456789ab","f1e2d3c4-b5a6-4978-8a9b-abcdef012345"]','["Office","Büro 5G"]',1,0,0,1,30,8992733726969694164);
 COMMIT;
 )";
+
+/// Makes a version-2 store of that, byte for byte as the second released program writes what it added: two changes of a
+/// day, one of which takes the other back, a mark of a check, and a note. Never change it either.
+inline constexpr const char* releasedAdditions = R"(
+BEGIN;
+PRAGMA user_version = 2;
+CREATE TABLE day_change (pk INTEGER PRIMARY KEY, time INTEGER, date INTEGER, before TEXT, after TEXT, changed_by INTEGER, change_group INTEGER, reverted_group INTEGER, network TEXT, checksum INTEGER);
+CREATE TABLE day_note (pk INTEGER PRIMARY KEY, date INTEGER NOT NULL, text TEXT NOT NULL, checksum INTEGER NOT NULL) STRICT;
+CREATE INDEX day_note_by_date ON day_note (date);
+INSERT INTO day_change VALUES(1,1774947600000,20260331,'UNKNOWN','OUT_OF_OFFICE',1,1,0,'',3041908323336626764);
+INSERT INTO day_change VALUES(2,1774947660000,20260331,'OUT_OF_OFFICE','UNKNOWN',3,2,1,'',706943938900068197);
+INSERT INTO day_change VALUES(3,1775034000000,20260303,'UNKNOWN','IN_OFFICE',2,3,0,'Büro 5G',6714368158244771355);
+INSERT INTO day_note VALUES(1,20260331,'café ''x''
+',-7610701975703626946);
+COMMIT;
+)";

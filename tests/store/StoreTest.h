@@ -28,6 +28,24 @@ inline std::vector<Row> changes(ModelContext& context)
     return rows;
 }
 
+/// The records of the given kinds, as they are stored.
+template <class... Record> std::vector<Row> rowsOf(ModelContext& context)
+{
+    std::vector<Row> rows;
+    const auto add = [&rows](const auto& fields, const auto& records) {
+        for (const auto& record : records)
+            rows.push_back(fields.row(record));
+    };
+    (add(fieldsOf<Record>(), context.records<Record>()), ...);
+    return rows;
+}
+
+/// Every record of the kinds that are few.
+inline std::vector<Row> smallRecords(ModelContext& context)
+{
+    return rowsOf<AbsenceKind, DayAbsence, DayOff, HolidayRegion, WorkWeek, CountingChoices, AttendanceRule>(context);
+}
+
 /// Every other record that a context knows, as it is stored.
 inline std::vector<Row> records(ModelContext& context)
 {
@@ -40,6 +58,7 @@ inline std::vector<Row> records(ModelContext& context)
     add(goalFields(), context.fetchGoals());
     add(settingsFields(), context.fetchSettings());
     add(dayNoteFields(), context.fetchNotes(QDate(1, 1, 1), QDate(9999, 12, 31)));
+    std::ranges::copy(smallRecords(context), std::back_inserter(rows));
     std::ranges::sort(rows);
     return rows;
 }
@@ -60,7 +79,22 @@ inline DayChange exampleChange()
             .after = DayState::IN_OFFICE,
             .by = ChangedBy::Check,
             .group = 1LL << 40,
-            .network = u"Büro 5G"_s};
+            .network = u"Büro 5G"_s,
+            .absenceBefore = AbsenceKind::sick,
+            .absenceAfter = AbsenceKind::firstOwn};
+}
+
+/// Adds a record of each kind that is few.
+inline void addSmallRecords(ModelContext& context)
+{
+    context.add(AbsenceKind{AbsenceKind::firstOwn, u"Jury"_s, Treatment::LeftOut});
+    context.add(DayAbsence{{2026, 3, 31}, AbsenceKind::firstOwn});
+    context.add(DayOff{{2026, 4, 3}, u"Karfreitag"_s, DayOffSource::Holidays});
+    context.add(HolidayRegion{u"DE-BY"_s, 2027});
+    context.add(WorkWeek{{2026, 5, 1}, Weekdays(0b1111)});
+    context.add(CountingChoices{true});
+    context.add(
+        AttendanceRule{.id = QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11), .name = u"Team"_s, .from = QDate(2026, 1, 1)});
 }
 
 /// A store in a folder of its own.
@@ -108,11 +142,14 @@ protected:
                                                         : QFile::ReadOwner | QFile::ExeOwner);
     }
 
-    /// Puts the released program's store in the place of whatever is there.
-    void putReleased() const
+    /// Puts the store of a released program, of version 1 or 2, in the place of whatever is there.
+    void putReleased(int version = 1) const
     {
         QFile::remove(path);
-        SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(releasedStore);
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        database.exec(releasedStore);
+        if (version > 1)
+            database.exec(releasedAdditions);
     }
 
     /// The same, as this program writes it, with a record of each newer kind.
@@ -128,9 +165,10 @@ protected:
             const auto note = std::make_shared<DayNote>(QDate(2026, 3, 31));
             note->text = u"café 'x'\n"_s;
             container->mainContext().insert(note);
+            addSmallRecords(container->mainContext());
         }
         sample = bytes();
-        QFile::remove(path + u".before-2"_s);
+        QFile::remove(path + u".before-3"_s);
     }
 
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
