@@ -34,13 +34,13 @@ void RowSet::remove(const Row& row)
 void RowSet::write()
 {
     m_written.clear();
+    if (!m_isChanged)
+        return;
     for (const std::int64_t key : m_removed) {
         SQLite::Statement deletion(m_database, m_layout.deleteSql());
         deletion.bind(1, key);
         deletion.exec();
     }
-    if (!m_entries)
-        return;
     for (const Entry& entry : *m_entries) {
         if (!entry.key)
             insert(entry.row);
