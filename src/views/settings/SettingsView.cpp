@@ -41,7 +41,7 @@ protected:
 
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
                            InOfficeCheck& check, LaunchAtLogin& launchAtLogin, BackupService& backups,
-                           ModelContext& context, QWidget* parent)
+                           ModelContext& context, CountingRecords& /*counting*/, Clock& /*clock*/, QWidget* parent)
     : QWidget(parent)
     , m_tabs(new SideTabs)
     , m_pages(new LazyStack({

@@ -5,6 +5,8 @@
 
 class AppSettings;
 class BackupService;
+class Clock;
+class CountingRecords;
 class InOfficeCheck;
 class LaunchAtLogin;
 class LazyStack;
@@ -20,8 +22,8 @@ class SettingsView : public QWidget {
 
 public:
     SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager, InOfficeCheck& check,
-                 LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context,
-                 QWidget* parent = nullptr);
+                 LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context, CountingRecords& counting,
+                 Clock& clock, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void welcomeRequested();

@@ -47,7 +47,8 @@ protected:
     }
 
     const QDate october{2026, 10, 30}, november{2026, 11, 19};
-    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context};
+    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
+                      counting,  clock};
 };
 
 TEST_F(DataSettingsTest, theChosenMonthsOfABackupAreRestoredAsOneStep)

@@ -45,7 +45,8 @@ protected:
     }
     [[nodiscard]] QStringList networks() const { return settings->inOfficeSsids.value(); }
 
-    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context};
+    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
+                      counting,  clock};
 };
 
 TEST_F(SettingsTest, aGoalIsAddedByReturnAndByTheButton)
