@@ -71,3 +71,8 @@ void FlatButton::paintFace(QPainter& painter, const QColor& hovered) const
     }
     m_focusVisible.drawRing(painter, *this, QRectF(rect()).adjusted(1, 1, -1, -1), radius);
 }
+
+void FlatButton::paintRing(QPainter& painter, const QRectF& area, qreal radius, const QColor& color) const
+{
+    m_focusVisible.drawRing(painter, *this, area, radius, color);
+}

@@ -20,6 +20,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Draws the background and the focus ring.
     void paintFace(QPainter& painter, const QColor& hovered) const;
+    /// Draws only the focus ring, for buttons with a face of their own.
+    void paintRing(QPainter& painter, const QRectF& area, qreal radius, const QColor& color) const;
 
 private:
     void setHovered(bool isHovered);

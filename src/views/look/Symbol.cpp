@@ -163,6 +163,16 @@ QPainterPath drawer()
     return path;
 }
 
+// Four strokes and a fifth across them.
+QPainterPath tally()
+{
+    QPainterPath path;
+    for (const qreal x : {3.2, 6.4, 9.6, 12.8})
+        path.addPath(line({{x, 2.8}, {x, 13.2}}));
+    path.addPath(line({{1.4, 11.2}, {14.6, 4.8}}));
+    return path;
+}
+
 QPainterPath strokesOf(Symbol symbol)
 {
     switch (symbol) {
@@ -204,6 +214,8 @@ QPainterPath strokesOf(Symbol symbol)
         return target();
     case Symbol::Drawer:
         return drawer();
+    case Symbol::Tally:
+        return tally();
     }
     Q_UNREACHABLE();
 }

@@ -26,6 +26,7 @@ enum class Symbol {
     Menu,
     Target,
     Drawer,
+    Tally,
 };
 
 /// Draws a symbol in a square area.
