@@ -4,6 +4,7 @@
 #include "Day.h"
 #include "Fonts.h"
 #include "Month.h"
+#include "PlainTree.h"
 #include "RestoreModel.h"
 #include "StateMark.h"
 #include "Theme.h"
@@ -18,7 +19,6 @@ namespace {
 constexpr int differenceGap = 8;
 constexpr int arrowWidth = 28;
 constexpr int linePadding = 4;
-constexpr qreal ringRadius = 6.0;
 constexpr QSize usualSwatch(22, 16);
 
 } // namespace
@@ -66,13 +66,7 @@ void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
         paintDay(*painter, row, found.value<DayDifference>());
     else
         QStyledItemDelegate::paint(painter, row, index);
-    // As on buttons, and not as the style draws it.
-    if (option.state.testFlags(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange)) {
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(themeFor(option.palette).accent, 2.0));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
-    }
+    PlainTree::drawRing(*painter, option);
     painter->restore();
 }
 

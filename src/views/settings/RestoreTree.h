@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QTreeView>
+#include "PlainTree.h"
 
 class DayDifferenceDelegate;
 
-/// The tree of a RestoreModel. However many days it has, only those in sight are laid out and drawn.
-class RestoreTree : public QTreeView {
+/// The tree of a RestoreModel.
+class RestoreTree : public PlainTree {
     Q_OBJECT
 
 public:
@@ -17,8 +17,6 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

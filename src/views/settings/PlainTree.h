@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTreeView>
+
+/// A tree on a card, without frame and heading. However many rows it has, only those in sight are laid out and drawn.
+class PlainTree : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit PlainTree(QWidget* parent = nullptr);
+
+    /// Draws the focus ring of a row, as on buttons. For delegates, which keep the style from drawing its own.
+    static void drawRing(QPainter& painter, const QStyleOptionViewItem& row);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
