@@ -19,6 +19,7 @@ namespace {
 constexpr QMargins comboPadding(9, 5, 9, 5);
 constexpr int arrowRoom = 20;
 constexpr int usualArrowSize = 12;
+constexpr int leastComboWidth = 140;
 constexpr int mostEntriesShown = 12;
 
 // The list opens below the field and scrolls, which a menu over the field would not.
@@ -53,7 +54,7 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     setAccessibleName(name);
     setMaxVisibleItems(mostEntriesShown);
     setItemDelegate(new RoomyDelegate(this));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     ThinScrollBarStyle::applyTo(*view());
 }
 
@@ -63,6 +64,11 @@ QSize ComboBox::sizeHint() const
     for (int i = 0; i < count(); ++i)
         widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(i)));
     return QSize(widest + arrowRoom, fontMetrics().height()).grownBy(comboPadding);
+}
+
+QSize ComboBox::minimumSizeHint() const
+{
+    return sizeHint().boundedTo({fonts::grown(leastComboWidth, font()), QWIDGETSIZE_MAX});
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event)

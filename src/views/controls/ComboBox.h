@@ -12,7 +12,8 @@ public:
     explicit ComboBox(const QString& name, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Long entries are elided where there is no room for them.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

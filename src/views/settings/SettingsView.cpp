@@ -2,6 +2,7 @@
 #include "SettingsView.h"
 
 #include "Bar.h"
+#include "CountingPage.h"
 #include "DataPage.h"
 #include "DaysPerWeekGoalView.h"
 #include "FocusOrder.h"
@@ -41,11 +42,12 @@ protected:
 
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
                            InOfficeCheck& check, LaunchAtLogin& launchAtLogin, BackupService& backups,
-                           ModelContext& context, CountingRecords& /*counting*/, Clock& /*clock*/, QWidget* parent)
+                           ModelContext& context, CountingRecords& counting, Clock& clock, QWidget* parent)
     : QWidget(parent)
     , m_tabs(new SideTabs)
     , m_pages(new LazyStack({
           [&settings] { return makeCardPage(new DaysPerWeekGoalView(settings, true)); },
+          [&counting, &clock] { return new CountingPage(counting, clock); },
           [&settings, &wifiClient, &locationManager, &check] {
               return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
           },
@@ -71,6 +73,7 @@ QWidget* SettingsView::makeSide()
     m_tabs->setObjectName("tabs"_L1);
     m_tabs->setAccessibleName(tr("Settings page"));
     m_tabs->addTab(Symbol::Target, tr("Goals"));
+    m_tabs->addTab(Symbol::Tally, tr("Counting"));
     m_tabs->addTab(Symbol::Wifi, tr("Office Networks"));
     m_tabs->addTab(Symbol::Gear, tr("General"));
     m_tabs->addTab(Symbol::Drawer, tr("Data"));

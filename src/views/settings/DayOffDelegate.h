@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStyledItemDelegate>
+
+struct ListedDayOff;
+
+/// Draws the rows of a DaysOffModel: date and name, and at the end the note if there is room for it. A click anywhere
+/// in a row turns its checkbox.
+class DayOffDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    explicit DayOffDelegate(const QFont& font, QObject* parent = nullptr);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
+
+private:
+    void paintDay(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
+                  const ListedDayOff& listed) const;
+
+    QFont m_font;
+    int m_dateWidth = 0;
+    int m_leastNameWidth;
+};

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "HolidayReview.h"
+
+#include "CountingRecords.h"
+#include "HolidayChooser.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int yearsAhead = 2;
+
+QString storedRegion(const CountingRecords& counting)
+{
+    const auto region = counting.holidayRegion();
+    return region ? region->id : QString();
+}
+
+// Whether holidays of a year were added. A date that is missing then was taken out.
+bool hasHolidays(const QList<DayOff>& daysOff, int year)
+{
+    return std::ranges::any_of(daysOff, [year](const DayOff& dayOff) {
+        return dayOff.source == DayOffSource::Holidays && dayOff.date.year() == year;
+    });
+}
+
+} // namespace
+
+HolidayReview::HolidayReview(CountingRecords& records, QDate today, QWidget* parent)
+    : DaysOffReview(records, tr("Public Holidays"), parent)
+    , m_today(today)
+    , m_before(storedRegion(records))
+    , m_chooser(new HolidayChooser(m_before, today.year()))
+{
+    head().addWidget(m_chooser);
+    connect(m_chooser, &HolidayChooser::changed, this, &HolidayReview::showHolidays);
+    showHolidays();
+}
+
+void HolidayReview::takeFocus()
+{
+    m_chooser->findChild<QWidget*>("country"_L1)->setFocus(Qt::TabFocusReason);
+}
+
+void HolidayReview::showHolidays()
+{
+    const QString area = m_chooser->area().id;
+    const auto present = counting().daysOff();
+    QList<ListedDayOff> days;
+    for (int year = m_chooser->firstYear(); year <= m_today.year() + yearsAhead; ++year) {
+        const bool isYearKnown = area == m_before && hasHolidays(present, year);
+        for (const DayOff& holiday : publicHolidays(area, year))
+            days.append(listed(holiday, present, isYearKnown));
+    }
+    showDays(days, m_today);
+    const QString before = m_before.isEmpty() || m_before == area ? QString() : holidayAreaName(m_before);
+    say(before.isEmpty()
+            ? tr("Uncheck the dates on which you work.")
+            : tr("Uncheck the dates on which you work. The holidays of %1 from today on are taken out.").arg(before));
+}
+
+ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present, bool isYearKnown)
+{
+    holiday.source = DayOffSource::Holidays;
+    const auto same = std::ranges::find(present, holiday.date, &DayOff::date);
+    const bool isHoliday = same != present.end() && same->source == DayOffSource::Holidays;
+    const bool isWorkday = counting().counting().value().isScheduled(holiday.date);
+    return {.day = holiday,
+            .note = same != present.end() ? tr("already a day off")
+                    : isWorkday           ? QString()
+                                          : tr("not a workday anyway"),
+            .isDim = !isWorkday,
+            .isChecked = same == present.end() ? !isYearKnown : isHoliday,
+            .isPresent = isHoliday};
+}
+
+bool HolidayReview::store(const QList<DayOff>& chosen, const QList<QDate>& takenOut)
+{
+    const HolidayRegion region{m_chooser->area().id, m_today.year() + yearsAhead};
+    return (takenOut.isEmpty() || counting().removeDaysOff(takenOut)) &&
+           counting().setHolidays(region, chosen, m_today);
+}

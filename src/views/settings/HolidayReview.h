@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DaysOffReview.h"
+
+class HolidayChooser;
+
+/// The choice of a region's public holidays.
+class HolidayReview : public DaysOffReview {
+    Q_OBJECT
+
+public:
+    HolidayReview(CountingRecords& counting, QDate today, QWidget* parent = nullptr);
+
+    void takeFocus() override;
+
+protected:
+    [[nodiscard]] bool store(const QList<DayOff>& chosen, const QList<QDate>& takenOut) override;
+
+private:
+    void showHolidays();
+    [[nodiscard]] ListedDayOff listed(DayOff holiday, const QList<DayOff>& present, bool isYearKnown);
+
+    QDate m_today;
+    /// The region whose holidays are days off already.
+    QString m_before;
+    HolidayChooser* m_chooser;
+};
