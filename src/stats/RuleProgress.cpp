@@ -160,7 +160,9 @@ CountedDays::CountedDays(DaySpan span, const StateOn& stateOn, const Counting& c
                          bool vacationDaysCountAsInOffice)
     : m_span(span)
 {
-    m_days.reserve(static_cast<std::size_t>(std::max<qint64>(0, span.first.daysTo(span.last) + 1)));
+    if (span.isEmpty())
+        return;
+    m_days.reserve(static_cast<std::size_t>(span.first.daysTo(span.last) + 1));
     for (QDate date = span.first; date <= span.last; date = date.addDays(1)) {
         const DayState state = stateOn(date);
         m_days.push_back({counting.count(date, state, vacationDaysCountAsInOffice), state, counting.isScheduled(date)});
@@ -187,7 +189,7 @@ std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const Count
 {
     const DaySpan whole = spanOf(rule, reference, firstDayOfWeek);
     const DaySpan span = cutByValidity(whole, rule);
-    if (span.first > span.last)
+    if (span.isEmpty())
         return {};
     const Tally tally = tallyOf(rule, days, span, today);
     RuleProgress progress{.span = span,
@@ -206,6 +208,8 @@ SpansKept spansKept(const AttendanceRule& rule, const CountedDays& days, DaySpan
                     Qt::DayOfWeek firstDayOfWeek)
 {
     SpansKept result;
+    if (period.isEmpty())
+        return result;
     QDate date = period.first;
     for (DaySpan span = spanOf(rule, date, firstDayOfWeek); span.last <= period.last;
          span = spanOf(rule, date, firstDayOfWeek)) {

@@ -16,6 +16,8 @@ struct DaySpan {
     QDate first;
     QDate last;
 
+    /// Without days, as one that ends before it begins or is of no valid dates.
+    [[nodiscard]] bool isEmpty() const { return !first.isValid() || last < first; }
     [[nodiscard]] bool contains(QDate date) const { return first <= date && date <= last; }
     bool operator==(const DaySpan&) const = default;
 };

@@ -5,6 +5,7 @@
 #include "ModelContainer.h"
 #include "ModelContext.h"
 #include "Month.h"
+#include "StoredDays.h"
 #include "StoredMonths.h"
 #include "Testing.h"
 
@@ -39,6 +40,11 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
     marker.mark({{{2026, 12, 20}, DayState::IN_OFFICE}, {{2026, 11, 20}, DayState::IN_OFFICE}}, ChangedBy::Hand);
     editor.cycleDayState(*november, 0);
     EXPECT_EQ(groups, QList<qint64>({1, 1, 1, 2, 2, 3, 4}));
+    const CountedDays counted = countedDays(context, {{2026, 9, 30}, {2027, 1, 31}}, {}, false);
+    EXPECT_EQ(counted.stateOn({2026, 11, 20}), november->days.value().first().state);
+    EXPECT_TRUE(counted.on({2026, 12, 20}).isInOffice);
+    EXPECT_EQ(counted.stateOn({2026, 11, 21}), DayState::UNKNOWN);
+    EXPECT_EQ(context.fetchMonths().size(), 2); // none was created
     Month sample(2026, 11);
     editor.cycleDayState(sample, 20);
     EXPECT_EQ(groups.size(), 7);

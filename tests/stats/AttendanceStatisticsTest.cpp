@@ -61,6 +61,24 @@ TEST(AttendanceStatistics, addUpMonthsWithTheirFillerCells)
     EXPECT_THAT((std::tuple(statistics.workdays, statistics.inOffice, statistics.planned)), FieldsAre(64, 1, 2));
 }
 
+// A choice without effect on a month takes the other way to the same figures.
+TEST(AttendanceStatistics, followWhatCountsAndOtherwiseStayTheSame)
+{
+    Month month(2026, 4);
+    for (int day = -3; day <= 30; ++day)
+        mark(month, day, allDayStates.at(static_cast<std::size_t>(day + 3) % 5));
+    markDays(month, 6, 5, DayState::VACATION_DAY);
+    const auto figures = [&](const Counting& counting, bool vacationCounts) {
+        const auto statistics = attendanceStatistics({&month}, goalsWith({u"3"_s}), vacationCounts, true, counting);
+        return std::tuple(statistics.workdays, statistics.inOffice, statistics.planned, statistics.remainingDays);
+    };
+    const Counting other({.daysOff = {{QDate(2027, 4, 5)}}, .kinds = {{AbsenceKind::sick}}});
+    for (const bool vacationCounts : {false, true})
+        EXPECT_EQ(figures(other, vacationCounts), figures(Counting({.kinds = {{AbsenceKind::sick}}}), vacationCounts));
+    // Of 22 workdays those from 6 to 10 April, 15, 20 and 30 April are vacation.
+    EXPECT_EQ(std::get<0>(figures(Counting({.leavesOutVacation = true}), false)), 14);
+}
+
 TEST(AttendanceStatistics, targetIsTheNextGoalOrElseTheLast)
 {
     // Month, days in the office, goals; index of the target, or -1; highest value; text.

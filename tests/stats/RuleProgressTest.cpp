@@ -164,6 +164,7 @@ TEST(RuleProgress, isWhatTheEmployerCounts)
     }
     const Rule next = with(Rule(), &Rule::from, on(12, 1));
     EXPECT_FALSE(ruleProgress(next, calendar({}), on(11, 30), on(11, 30), Qt::Monday));
+    EXPECT_FALSE(ruleProgress(next, CountedDays({}, {}, {}, false), {}, on(11, 30), Qt::Monday));
 }
 
 TEST(RuleProgress, spansDivideTheCalendar)
