@@ -65,8 +65,7 @@ QList<RulePreset> outOfOfficeRules()
                       .unit = Rule::Unit::Days,
                       .subject = Rule::Subject::OutOfOffice,
                       .span = Rule::Span::Year};
-    //: A kind of absence.
-    return {{halfOfTwoWeeks}, {abroad, RulePresets::tr("Abroad")}};
+    return {{halfOfTwoWeeks}, {abroad, RulePresets::tr("Abroad", "kind of absence")}};
 }
 
 } // namespace

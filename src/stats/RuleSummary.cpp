@@ -141,7 +141,9 @@ QString ruleSummary(const AttendanceRule& rule, const QList<AbsenceKind>& kinds)
     const QString bound =
         rule.bound == AttendanceRule::Bound::AtMost ? RuleSummary::tr("At most %1") : RuleSummary::tr("At least %1");
     QString text = bound.arg(amountText(rule, kinds));
-    if (rule.weekdays != Weekdays::all())
-        text = RuleSummary::tr("%1 on %2").arg(text, weekdaysText(rule.weekdays)); //: "3 days each month on Fridays"
+    if (rule.weekdays != Weekdays::all()) {
+        //: "3 days each month on Fridays"
+        text = RuleSummary::tr("%1 on %2").arg(text, weekdaysText(rule.weekdays));
+    }
     return withValidity(text, rule);
 }
