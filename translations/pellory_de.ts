@@ -1200,6 +1200,331 @@
     </message>
 </context>
 <context>
+    <name>RulePresets</name>
+    <message>
+        <source>3 days every week</source>
+        <translation>3 Tage in jeder Woche</translation>
+    </message>
+    <message>
+        <source>3 days a week over the last 8 weeks</source>
+        <translation>3 Tage pro Woche über die letzten 8 Wochen</translation>
+    </message>
+    <message>
+        <source>4 days a week on average over a month</source>
+        <translation>Im Monat durchschnittlich 4 Tage pro Woche</translation>
+    </message>
+    <message>
+        <source>2 days in two weeks</source>
+        <translation>2 Tage in zwei Wochen</translation>
+    </message>
+    <message>
+        <source>Half of two weeks</source>
+        <translation>Die Hälfte von zwei Wochen</translation>
+    </message>
+    <message>
+        <source>12 days a month</source>
+        <translation>12 Tage im Monat</translation>
+    </message>
+    <message>
+        <source>60 % of the workdays of a month</source>
+        <translation>60 % der Arbeitstage eines Monats</translation>
+    </message>
+    <message>
+        <source>Two Fridays a month</source>
+        <translation>Zwei Freitage im Monat</translation>
+    </message>
+    <message>
+        <source>10 days a quarter</source>
+        <translation>10 Tage im Quartal</translation>
+    </message>
+    <message>
+        <source>39 days a quarter, quarters from May</source>
+        <translation>39 Tage im Quartal, Quartale ab Mai</translation>
+    </message>
+    <message>
+        <source>75 % of the workdays of a quarter</source>
+        <translation>75 % der Arbeitstage eines Quartals</translation>
+    </message>
+    <message>
+        <source>At most half of two weeks out of office</source>
+        <translation>Höchstens die Hälfte von zwei Wochen nicht im Büro</translation>
+    </message>
+    <message>
+        <source>At most 34 days abroad a year</source>
+        <translation>Höchstens 34 Tage im Jahr im Ausland</translation>
+    </message>
+    <message>
+        <source>Abroad</source>
+        <comment>kind of absence</comment>
+        <translation>Ausland</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSummary</name>
+    <message>
+        <source>%1 (counted from %2)</source>
+        <extracomment>After &quot;each quarter&quot;, &quot;of each year&quot; and so on; %2 is a month.</extracomment>
+        <translation>%1 (ab %2 gezählt)</translation>
+    </message>
+    <message>
+        <source>every two weeks</source>
+        <translation>in je zwei Wochen</translation>
+    </message>
+    <message>
+        <source>each month</source>
+        <translation>in jedem Monat</translation>
+    </message>
+    <message>
+        <source>each quarter</source>
+        <translation>in jedem Quartal</translation>
+    </message>
+    <message>
+        <source>each year</source>
+        <translation>in jedem Jahr</translation>
+    </message>
+    <message>
+        <source>over the last week</source>
+        <translation>über die letzte Woche</translation>
+    </message>
+    <message numerus="yes">
+        <source>over the last %n weeks</source>
+        <translation>
+            <numerusform>über die letzten %n Wochen</numerusform>
+            <numerusform>über die letzten %n Wochen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>each week</source>
+        <translation>in jeder Woche</translation>
+    </message>
+    <message>
+        <source>of every two weeks</source>
+        <translation>von je zwei Wochen</translation>
+    </message>
+    <message>
+        <source>of each month</source>
+        <translation>jedes Monats</translation>
+    </message>
+    <message>
+        <source>of each quarter</source>
+        <translation>jedes Quartals</translation>
+    </message>
+    <message>
+        <source>of each year</source>
+        <translation>jedes Jahres</translation>
+    </message>
+    <message>
+        <source>of the last week</source>
+        <translation>der letzten Woche</translation>
+    </message>
+    <message numerus="yes">
+        <source>of the last %n weeks</source>
+        <translation>
+            <numerusform>der letzten %n Wochen</numerusform>
+            <numerusform>der letzten %n Wochen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>of each week</source>
+        <translation>jeder Woche</translation>
+    </message>
+    <message>
+        <source>%1 out of office</source>
+        <translation>%1 nicht im Büro</translation>
+    </message>
+    <message>
+        <source>a kind that was removed</source>
+        <translation>eine entfernte Art</translation>
+    </message>
+    <message>
+        <source>%1 out of office (%2)</source>
+        <extracomment>%2 is a kind of absence.</extracomment>
+        <translation>%1 nicht im Büro (%2)</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <extracomment>%L1 in place of %1 writes the number as the person&apos;s locale has it.</extracomment>
+        <translation>1 Tag</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%L1 Tage</translation>
+    </message>
+    <message>
+        <source>%1 % of the workdays %2</source>
+        <extracomment>%L1 in place of %1 writes the number as the person&apos;s locale has it. %2 is such as &quot;of each month&quot;.</extracomment>
+        <translation>%L1 % der Arbeitstage %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>&quot;3 days each month&quot;</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 a week on average, %2</source>
+        <extracomment>&quot;3 days a week on average, each month&quot;</extracomment>
+        <translation>%1 pro Woche im Durchschnitt, %2</translation>
+    </message>
+    <message>
+        <source>Mondays to Fridays</source>
+        <translation>montags bis freitags</translation>
+    </message>
+    <message>
+        <source>Mondays</source>
+        <translation>montags</translation>
+    </message>
+    <message>
+        <source>Tuesdays</source>
+        <translation>dienstags</translation>
+    </message>
+    <message>
+        <source>Wednesdays</source>
+        <translation>mittwochs</translation>
+    </message>
+    <message>
+        <source>Thursdays</source>
+        <translation>donnerstags</translation>
+    </message>
+    <message>
+        <source>Fridays</source>
+        <translation>freitags</translation>
+    </message>
+    <message>
+        <source>Saturdays</source>
+        <translation>samstags</translation>
+    </message>
+    <message>
+        <source>Sundays</source>
+        <translation>sonntags</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3</source>
+        <translation>%1, vom %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1, from %2</source>
+        <translation>%1, ab %2</translation>
+    </message>
+    <message>
+        <source>%1, until %2</source>
+        <translation>%1, bis %2</translation>
+    </message>
+    <message>
+        <source>At most %1</source>
+        <translation>Höchstens %1</translation>
+    </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Mindestens %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <extracomment>&quot;3 days each month on Fridays&quot;</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>RuleTexts</name>
+    <message>
+        <source>d MMMM</source>
+        <translation>d. MMMM</translation>
+    </message>
+    <message>
+        <source>%1 too many</source>
+        <translation>%1 zu viel</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Eingehalten</translation>
+    </message>
+    <message>
+        <source>None left until %1</source>
+        <translation>Keine mehr bis %1</translation>
+    </message>
+    <message>
+        <source>%1 more allowed until %2</source>
+        <translation>Noch %1 erlaubt bis %2</translation>
+    </message>
+    <message>
+        <source>%1 more by %2, 1 workday left</source>
+        <translation>Noch %1 bis %2, 1 Arbeitstag übrig</translation>
+    </message>
+    <message>
+        <source>%1 more by %2, %3 workdays left</source>
+        <translation>Noch %1 bis %2, %3 Arbeitstage übrig</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pairs of weeks</source>
+        <translation>%1 von %2 Doppelwochen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 months</source>
+        <translation>%1 von %2 Monaten</translation>
+    </message>
+    <message>
+        <source>%1 of %2 quarters</source>
+        <translation>%1 von %2 Quartalen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 years</source>
+        <translation>%1 von %2 Jahren</translation>
+    </message>
+    <message>
+        <source>%1 of %2 weeks</source>
+        <translation>%1 von %2 Wochen</translation>
+    </message>
+    <message>
+        <source>%1 of at most 1 day</source>
+        <translation>%1 von höchstens 1 Tag</translation>
+    </message>
+    <message>
+        <source>%1 of 1 day</source>
+        <translation>%1 von 1 Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of at most %n days</source>
+        <translation>
+            <numerusform>%1 von höchstens %n Tag</numerusform>
+            <numerusform>%1 von höchstens %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n days</source>
+        <translation>
+            <numerusform>%1 von %n Tag</numerusform>
+            <numerusform>%1 von %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Erreicht</translation>
+    </message>
+    <message>
+        <source>Reached with the planned days</source>
+        <translation>Mit den geplanten Tagen erreicht</translation>
+    </message>
+    <message>
+        <source>Missed by %1</source>
+        <translation>Um %1 verfehlt</translation>
+    </message>
+    <message>
+        <source>Cannot be reached any more (%1 short)</source>
+        <translation>Nicht mehr erreichbar (%1 zu wenig)</translation>
+    </message>
+    <message>
+        <source>Kept in %1</source>
+        <translation>In %1 eingehalten</translation>
+    </message>
+    <message>
+        <source>Reached in %1</source>
+        <translation>In %1 erreicht</translation>
+    </message>
+</context>
+<context>
     <name>SaveAlert</name>
     <message>
         <source>Try Again</source>
