@@ -14,6 +14,8 @@
 #include "MonthView.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
+#include "RulePresets.h"
+#include "RuleProgress.h"
 #include "SampleStore.h"
 #include "SystemBus.h"
 #include "SystemClock.h"
@@ -43,10 +45,10 @@ QString sampleStore()
     return path;
 }
 
-AttendanceStatistics statisticsOf(const std::array<Month, 3>& months)
+AttendanceStatistics statisticsOf(const std::array<Month, 3>& months, const Counting& counting = {})
 {
     const QList<const Month*> quarter{&months[0], &months[1], &months[2]};
-    return attendanceStatistics(quarter, AppSettings::defaultGoals(), true, true);
+    return attendanceStatistics(quarter, AppSettings::defaultGoals(), !counting.isUsed(), true, counting);
 }
 
 void statisticsOfQuarter(benchmark::State& state)
@@ -54,6 +56,57 @@ void statisticsOfQuarter(benchmark::State& state)
     const std::array months{Month(2026, 1), Month(2026, 2), Month(2026, 3)};
     while (state.KeepRunning())
         benchmark::DoNotOptimize(statisticsOf(months));
+}
+
+constexpr DaySpan year2026{QDate::fromJulianDay(2461042), QDate::fromJulianDay(2461406)};
+
+/// With a day off, a day of leave and a day of sickness each month.
+DayState sampleState(QDate date)
+{
+    return date.day() == 6 ? DayState::VACATION_DAY
+                           : allDayStates.at(static_cast<std::size_t>(date.day()) % allDayStates.size());
+}
+
+Counting sampleCounting()
+{
+    Counting::Choices choices{.leavesOutVacation = true,
+                              .workWeeks = {{year2026.first, Weekdays::mondayToFriday()}},
+                              .kinds = {{.id = AbsenceKind::sick, .treatment = Treatment::LeftOut}}};
+    for (int month = 1; month <= 12; ++month) {
+        choices.daysOff.append({QDate(2026, month, 1)});
+        choices.absences[QDate(2026, month, 7)] = AbsenceKind::sick;
+    }
+    return Counting(choices);
+}
+
+CountedDays sampleYear(const Counting& counting)
+{
+    return {{year2026.first.addDays(-14), year2026.last}, sampleState, counting, false};
+}
+
+void quarterStatisticsWithTwelveRules(benchmark::State& state)
+{
+    const std::array months{Month(2026, 1), Month(2026, 2), Month(2026, 3)};
+    const Counting counting = sampleCounting();
+    const CountedDays days = sampleYear(counting);
+    QList<AttendanceRule> rules;
+    for (const RulePreset& preset : rulePresets())
+        rules.append(preset.rule);
+    rules.resize(12);
+    rules[11].span = rules[10].span = AttendanceRule::Span::Year;
+    const QDate today(2026, 3, 20);
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(statisticsOf(months, counting));
+        for (const AttendanceRule& rule : rules)
+            benchmark::DoNotOptimize(ruleProgress(rule, days, today, today, Qt::Monday));
+    }
+}
+
+void countDaysOfYear(benchmark::State& state)
+{
+    const Counting counting = sampleCounting();
+    while (state.KeepRunning())
+        benchmark::DoNotOptimize(sampleYear(counting));
 }
 
 void fractionsOfQuarter(benchmark::State& state)
@@ -175,6 +228,8 @@ void openWindow(benchmark::State& state, WindowId id)
 }
 
 BENCHMARK(statisticsOfQuarter)->MeasureProcessCPUTime();
+BENCHMARK(quarterStatisticsWithTwelveRules)->MeasureProcessCPUTime();
+BENCHMARK(countDaysOfYear)->MeasureProcessCPUTime();
 BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(monthChange)->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, settings, WindowId::settings)->Name("openWindow:settings")->MeasureProcessCPUTime();
