@@ -104,11 +104,17 @@ private:
         return days;
     }
 
+    [[nodiscard]] static QDate dateFrom(const QString& text)
+    {
+        const QDate date = QDate::fromString(text, Qt::ISODate);
+        if (!date.isValid())
+            refuse(u"\"%1\" is no date"_s.arg(text));
+        return date;
+    }
+
     [[nodiscard]] static DayOfMonth dayFrom(QStringView monthAndDay)
     {
-        const QDate date = QDate::fromString("2000-"_L1 + monthAndDay.toString(), Qt::ISODate); // a leap year
-        if (!date.isValid())
-            refuse(u"\"%1\" is no day of a year"_s.arg(monthAndDay));
+        const QDate date = dateFrom("2000-"_L1 + monthAndDay.toString()); // a leap year
         return {date.month(), date.day()};
     }
 
@@ -128,13 +134,10 @@ private:
 
     void readDayOfYear(QStringView word)
     {
-        if (word.size() == 10) {
-            m_rule.from = m_rule.until = word.left(4).toInt();
-            if (m_rule.from < 1000 || word.at(4) != u'-')
-                refuse(u"\"%1\" is no date"_s.arg(word));
-            word = word.sliced(5);
-        }
-        m_rule.day = dayFrom(word);
+        const bool hasYear = word.size() == 10;
+        if (hasYear)
+            m_rule.from = m_rule.until = dateFrom(word.toString()).year();
+        m_rule.day = dayFrom(hasYear ? word.sliced(5) : word);
     }
 
     void readWeekdayOfMonth(std::optional<int> ordinal)
