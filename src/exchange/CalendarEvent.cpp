@@ -5,6 +5,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -14,10 +16,12 @@ constexpr qint64 maximumLength = 366;
 constexpr qsizetype maximumSummary = 100;
 
 // A date has eight digits; with a time there are more.
-QDate dateFrom(const QString& value)
+QDate dateFrom(QStringView value)
 {
-    const bool isDate = value.size() == 8;
-    return isDate ? QDate::fromString(value, u"yyyyMMdd"_s) : QDate();
+    const bool isDate = value.size() == 8 && std::ranges::all_of(value, [](QChar character) {
+                            return character >= u'0' && character <= u'9';
+                        });
+    return isDate ? QDate(value.left(4).toInt(), value.sliced(4, 2).toInt(), value.sliced(6).toInt()) : QDate();
 }
 
 /// A text without its escapes, on one line.
@@ -98,7 +102,7 @@ void CalendarEvent::readExceptions(const CalendarLine& line)
 
 QDate CalendarEvent::dateOf(const CalendarLine& line)
 {
-    const QDate date = dateFrom(line.value.trimmed());
+    const QDate date = dateFrom(QStringView(line.value).trimmed());
     if (date.isValid())
         return date;
     const bool hasTime = line.value.contains(u'T', Qt::CaseInsensitive);

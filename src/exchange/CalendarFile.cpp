@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -24,7 +25,7 @@ void open(QFile& file)
 {
     const int descriptor = ::open(QFile::encodeName(file.fileName()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
-        refuseUnreadable(qt_error_string(errno));
+        refuseUnreadable(QString::fromStdString(std::generic_category().message(errno)));
     struct stat status = {};
     if (!file.open(descriptor, QFile::ReadOnly, QFile::AutoCloseHandle)) {
         ::close(descriptor);

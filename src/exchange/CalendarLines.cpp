@@ -5,43 +5,28 @@ namespace {
 
 constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
 
-/// The place of a character outside of quotes, from a place on; the size if there is none.
-qsizetype findUnquoted(QStringView text, QStringView characters, qsizetype from)
+/// The place of the colon before the value; negative if there is none. A parameter may have colons within quotes.
+qsizetype findColon(const QString& text)
 {
     bool isQuoted = false;
-    for (qsizetype i = from; i < text.size(); ++i) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
         if (text.at(i) == u'"')
             isQuoted = !isQuoted;
-        else if (!isQuoted && characters.contains(text.at(i)))
+        else if (text.at(i) == u':' && !isQuoted)
             return i;
     }
-    return text.size();
-}
-
-void addParameter(CalendarLine& line, QStringView parameter)
-{
-    const auto equals = parameter.indexOf(u'=');
-    if (equals <= 0)
-        return;
-    QString value = parameter.sliced(equals + 1).toString();
-    line.parameters.insert(parameter.left(equals).toString().toUpper(), value.remove(u'"'));
+    return -1;
 }
 
 CalendarLine lineFrom(const QByteArray& bytes, int number)
 {
     CalendarLine line{.number = number, .isText = bytes.isValidUtf8() && !bytes.contains('\0')};
     const QString text = QString::fromUtf8(bytes);
-    auto end = findUnquoted(text, u":;", 0);
-    const auto nameEnd = end;
-    while (end < text.size() && text.at(end) == u';') {
-        const auto start = end + 1;
-        end = findUnquoted(text, u":;", start);
-        addParameter(line, QStringView(text).sliced(start, end - start));
-    }
-    if (end == text.size()) // there is no value
+    const auto colon = findColon(text);
+    if (colon < 0)
         return line;
-    line.name = text.left(nameEnd).toUpper();
-    line.value = text.sliced(end + 1);
+    line.name = text.left(colon).section(u';', 0, 0).toUpper();
+    line.value = text.sliced(colon + 1);
     return line;
 }
 

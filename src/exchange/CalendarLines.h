@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
 
 #include <optional>
@@ -11,9 +10,8 @@
 struct CalendarLine {
     /// Of its first part in the file, counted from 1.
     int number = 0;
-    /// In upper case, as are the names of the parameters.
+    /// In upper case, without its parameters.
     QString name = {};
-    QHash<QString, QString> parameters = {};
     QString value = {};
     /// Whether it is valid UTF-8 without null bytes.
     bool isText = true;

@@ -123,7 +123,6 @@ CalendarFileContents CalendarReader::contents() const
     for (auto day = m_names.begin(); day != m_names.end(); ++day)
         contents.daysOff.append({day.key(), day.value().join(u", "_s), DayOffSource::File});
     if (m_furtherProblems > 0)
-        contents.problems.append(
-            CalendarFileError::tr("%n more problem(s) are not listed.", nullptr, m_furtherProblems));
+        contents.problems.append(CalendarFileError::tr("%n more problems are not listed.", nullptr, m_furtherProblems));
     return contents;
 }
