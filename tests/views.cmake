@@ -17,7 +17,8 @@ pellory_test(life
 )
 pellory_test(app
     SOURCES support/FakeWiFiClient.h support/WindowTestMain.cpp
-        app/BackgroundTest.cpp app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp app/TranslationsTest.cpp
+        app/BackgroundTest.cpp app/FurtherHolidaysTest.cpp app/MessageBoxAlertsTest.cpp app/PelloryAppTest.cpp
+        app/TranslationsTest.cpp
     LINKS Pellory::app SQLiteCpp Qt6::Test
 )
 pellory_test(platform

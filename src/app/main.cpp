@@ -12,6 +12,7 @@
 #include "DayMarker.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
+#include "FurtherHolidays.h"
 #include "InOfficeCheck.h"
 #include "JournalLog.h"
 #include "LaunchAtLogin.h"
@@ -43,6 +44,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -85,8 +87,8 @@ void quit()
     QCoreApplication::exit();
 }
 
-void openFirstWindow(AppWindows& windows, Background& background, BackupService& backups, PlatformServices& platform,
-                     std::jthread& fonts, StartMode mode)
+void openFirstWindow(AppWindows& windows, Background& background, const std::function<void()>& startQuietJobs,
+                     PlatformServices& platform, std::jthread& fonts, StartMode mode)
 {
     if (fonts.joinable())
         fonts.join();
@@ -99,11 +101,11 @@ void openFirstWindow(AppWindows& windows, Background& background, BackupService&
     afterFirstPaint(&windows, [] { logStage("window painted"); });
     if (mode == StartMode::AtLogin) {
         platform.trayHost.start();
-        backups.start();
+        startQuietJobs();
         background.remindOfSetUp();
     } else {
         afterFirstPaint(&platform.trayHost, &TrayHost::start);
-        afterFirstPaint(&backups, &BackupService::start);
+        afterFirstPaint(&windows, startQuietJobs);
         windows.openMain();
         logStage("window built");
     }
@@ -117,6 +119,7 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     UndoHistory history(marker);
     CountingRecords counting(marker, pellory.settings());
     BackupService backups(marker, platform.clock);
+    FurtherHolidays furtherHolidays(counting, platform.clock);
     InOfficeCheck check({pellory.container(), marker, counting, pellory.settings(), platform.wifiClient,
                          platform.notifier, platform.clock});
     QTimer::singleShot(timeToAppear, &platform.clock, [&check] { check.start(); });
@@ -153,7 +156,11 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     });
     if (const auto lost = pellory.lostStore())
         windows.offerBackup(*lost);
-    openFirstWindow(windows, background, backups, platform, fonts, mode);
+    const auto startQuietJobs = [&backups, &furtherHolidays] {
+        backups.start();
+        furtherHolidays.start();
+    };
+    openFirstWindow(windows, background, startQuietJobs, platform, fonts, mode);
     return QApplication::exec();
 }
 
