@@ -259,6 +259,80 @@
     </message>
 </context>
 <context>
+    <name>CalendarFileError</name>
+    <message>
+        <source>it recurs in a way that is not supported</source>
+        <translation>Er wiederholt sich auf eine Art, die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>it does not last whole days</source>
+        <translation>Er dauert keine ganzen Tage</translation>
+    </message>
+    <message>
+        <source>it has a time, and only all-day events count</source>
+        <translation>Er hat eine Uhrzeit, und nur ganztägige Termine zählen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date</source>
+        <translation>„%1“ ist kein Datum</translation>
+    </message>
+    <message>
+        <source>it has no date</source>
+        <translation>Er hat kein Datum</translation>
+    </message>
+    <message>
+        <source>its end does not fit its start</source>
+        <translation>Sein Ende passt nicht zu seinem Beginn</translation>
+    </message>
+    <message>
+        <source>it is longer than a year</source>
+        <translation>Er dauert länger als ein Jahr</translation>
+    </message>
+    <message>
+        <source>Line %1: an event is left out: %2.</source>
+        <translation>Zeile %1: Ein Termin wird ausgelassen. %2.</translation>
+    </message>
+    <message>
+        <source>Line %1: &quot;%2&quot; is left out: %3.</source>
+        <translation>Zeile %1: Der Termin „%2“ wird ausgelassen. %3.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1. Choose another file.</source>
+        <translation>Die Datei kann nicht gelesen werden: %1. Wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>it is a folder or a device</source>
+        <translation>ein Ordner oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>The file has more than 10 MB. Export only the calendar with the days off, and choose that file.</source>
+        <translation>Die Datei ist größer als 10 MB. Exportieren Sie nur den Kalender mit den freien Tagen und wählen Sie diese Datei.</translation>
+    </message>
+    <message>
+        <source>This is not a calendar file. Export the calendar in the iCalendar format (.ics) and choose that file.</source>
+        <translation>Dies ist keine Kalenderdatei. Exportieren Sie den Kalender im Format iCalendar (.ics) und wählen Sie diese Datei.</translation>
+    </message>
+    <message>
+        <source>The file has no end. Events may be missing.</source>
+        <translation>Die Datei hat kein Ende. Termine fehlen vielleicht.</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>Sein Ende fehlt</translation>
+    </message>
+    <message>
+        <source>The calendar has more than %L1 days. Export only the calendar with the days off.</source>
+        <translation>Der Kalender hat mehr als %L1 Tage. Exportieren Sie nur den Kalender mit den freien Tagen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more problems are not listed.</source>
+        <translation>
+            <numerusform>%n weiteres Problem ist nicht aufgeführt.</numerusform>
+            <numerusform>%n weitere Probleme sind nicht aufgeführt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CalendarPage</name>
     <message>
         <source>Error loading month!</source>
@@ -1100,6 +1174,517 @@
         <source>Progress of %1</source>
         <comment>month</comment>
         <translation>Fortschritt im %1</translation>
+    </message>
+</context>
+<context>
+    <name>PublicHolidays</name>
+    <message>
+        <source>Austria</source>
+        <translation>Österreich</translation>
+    </message>
+    <message>
+        <source>Belgium</source>
+        <translation>Belgien</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Kanada</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Frankreich</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Deutschland</translation>
+    </message>
+    <message>
+        <source>Ireland</source>
+        <translation>Irland</translation>
+    </message>
+    <message>
+        <source>Luxembourg</source>
+        <translation>Luxemburg</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Niederlande</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Vereinigtes Königreich</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>Vereinigte Staaten</translation>
+    </message>
+    <message>
+        <source>Alsace and Moselle</source>
+        <translation>Elsass und Moselle</translation>
+    </message>
+    <message>
+        <source>Appenzell Ausserrhoden</source>
+        <translation>Appenzell Ausserrhoden</translation>
+    </message>
+    <message>
+        <source>Appenzell Innerrhoden</source>
+        <translation>Appenzell Innerrhoden</translation>
+    </message>
+    <message>
+        <source>Baden-Württemberg</source>
+        <translation>Baden-Württemberg</translation>
+    </message>
+    <message>
+        <source>Basel-City</source>
+        <translation>Basel-Stadt</translation>
+    </message>
+    <message>
+        <source>Basel-Country</source>
+        <translation>Basel-Landschaft</translation>
+    </message>
+    <message>
+        <source>Bavaria</source>
+        <translation>Bayern</translation>
+    </message>
+    <message>
+        <source>Bavaria without Assumption Day</source>
+        <translation>Bayern ohne Mariä Himmelfahrt</translation>
+    </message>
+    <message>
+        <source>Berlin</source>
+        <translation>Berlin</translation>
+    </message>
+    <message>
+        <source>Bern</source>
+        <translation>Bern</translation>
+    </message>
+    <message>
+        <source>Brandenburg</source>
+        <translation>Brandenburg</translation>
+    </message>
+    <message>
+        <source>Bremen</source>
+        <translation>Bremen</translation>
+    </message>
+    <message>
+        <source>England and Wales</source>
+        <translation>England und Wales</translation>
+    </message>
+    <message>
+        <source>Geneva</source>
+        <translation>Genf</translation>
+    </message>
+    <message>
+        <source>Hamburg</source>
+        <translation>Hamburg</translation>
+    </message>
+    <message>
+        <source>Hesse</source>
+        <translation>Hessen</translation>
+    </message>
+    <message>
+        <source>Jura</source>
+        <translation>Jura</translation>
+    </message>
+    <message>
+        <source>Lower Saxony</source>
+        <translation>Niedersachsen</translation>
+    </message>
+    <message>
+        <source>Lucerne</source>
+        <translation>Luzern</translation>
+    </message>
+    <message>
+        <source>Mecklenburg-Western Pomerania</source>
+        <translation>Mecklenburg-Vorpommern</translation>
+    </message>
+    <message>
+        <source>Neuchâtel</source>
+        <translation>Neuenburg</translation>
+    </message>
+    <message>
+        <source>Nidwalden</source>
+        <translation>Nidwalden</translation>
+    </message>
+    <message>
+        <source>North Rhine-Westphalia</source>
+        <translation>Nordrhein-Westfalen</translation>
+    </message>
+    <message>
+        <source>Northern Ireland</source>
+        <translation>Nordirland</translation>
+    </message>
+    <message>
+        <source>Obwalden</source>
+        <translation>Obwalden</translation>
+    </message>
+    <message>
+        <source>Rhineland-Palatinate</source>
+        <translation>Rheinland-Pfalz</translation>
+    </message>
+    <message>
+        <source>Saarland</source>
+        <translation>Saarland</translation>
+    </message>
+    <message>
+        <source>Saxony</source>
+        <translation>Sachsen</translation>
+    </message>
+    <message>
+        <source>Saxony-Anhalt</source>
+        <translation>Sachsen-Anhalt</translation>
+    </message>
+    <message>
+        <source>Schaffhausen</source>
+        <translation>Schaffhausen</translation>
+    </message>
+    <message>
+        <source>Schleswig-Holstein</source>
+        <translation>Schleswig-Holstein</translation>
+    </message>
+    <message>
+        <source>Schwyz</source>
+        <translation>Schwyz</translation>
+    </message>
+    <message>
+        <source>Scotland</source>
+        <translation>Schottland</translation>
+    </message>
+    <message>
+        <source>St. Gallen</source>
+        <translation>St. Gallen</translation>
+    </message>
+    <message>
+        <source>Thurgau</source>
+        <translation>Thurgau</translation>
+    </message>
+    <message>
+        <source>Thuringia</source>
+        <translation>Thüringen</translation>
+    </message>
+    <message>
+        <source>Ticino</source>
+        <translation>Tessin</translation>
+    </message>
+    <message>
+        <source>Uri</source>
+        <translation>Uri</translation>
+    </message>
+    <message>
+        <source>Valais</source>
+        <translation>Wallis</translation>
+    </message>
+    <message>
+        <source>Vaud</source>
+        <translation>Waadt</translation>
+    </message>
+    <message>
+        <source>Zug</source>
+        <translation>Zug</translation>
+    </message>
+    <message>
+        <source>Zurich</source>
+        <translation>Zürich</translation>
+    </message>
+    <message>
+        <source>2 January</source>
+        <translation>2. Januar</translation>
+    </message>
+    <message>
+        <source>All Saints&apos; Day</source>
+        <translation>Allerheiligen</translation>
+    </message>
+    <message>
+        <source>Anniversary of the 1953 Uprising</source>
+        <translation>Jahrestag des Volksaufstandes von 1953</translation>
+    </message>
+    <message>
+        <source>Armistice Day</source>
+        <translation>Waffenstillstandstag</translation>
+    </message>
+    <message>
+        <source>Ascension Day</source>
+        <translation>Christi Himmelfahrt</translation>
+    </message>
+    <message>
+        <source>Assumption Day</source>
+        <translation>Mariä Himmelfahrt</translation>
+    </message>
+    <message>
+        <source>August Bank Holiday</source>
+        <translation>August Bank Holiday</translation>
+    </message>
+    <message>
+        <source>Bastille Day</source>
+        <translation>Französischer Nationalfeiertag</translation>
+    </message>
+    <message>
+        <source>Battle of the Boyne</source>
+        <translation>Schlacht am Boyne</translation>
+    </message>
+    <message>
+        <source>Berchtold&apos;s Day</source>
+        <translation>Berchtoldstag</translation>
+    </message>
+    <message>
+        <source>Boxing Day</source>
+        <translation>2. Weihnachtstag</translation>
+    </message>
+    <message>
+        <source>Canada Day</source>
+        <translation>Canada Day</translation>
+    </message>
+    <message>
+        <source>Christmas Day</source>
+        <translation>1. Weihnachtstag</translation>
+    </message>
+    <message>
+        <source>Columbus Day</source>
+        <translation>Kolumbus-Tag</translation>
+    </message>
+    <message>
+        <source>Coronation of King Charles III</source>
+        <translation>Krönung von König Charles III.</translation>
+    </message>
+    <message>
+        <source>Corpus Christi</source>
+        <translation>Fronleichnam</translation>
+    </message>
+    <message>
+        <source>Day of German Unity</source>
+        <translation>Tag der Deutschen Einheit</translation>
+    </message>
+    <message>
+        <source>Day of Remembrance and Recognition</source>
+        <translation>Tag des Gedenkens und der Anerkennung</translation>
+    </message>
+    <message>
+        <source>Day of Repentance and Prayer</source>
+        <translation>Buß- und Bettag</translation>
+    </message>
+    <message>
+        <source>Diamond Jubilee</source>
+        <translation>Diamantenes Thronjubiläum</translation>
+    </message>
+    <message>
+        <source>Early May Bank Holiday</source>
+        <translation>Early May Bank Holiday</translation>
+    </message>
+    <message>
+        <source>Easter Monday</source>
+        <translation>Ostermontag</translation>
+    </message>
+    <message>
+        <source>Easter Sunday</source>
+        <translation>Ostersonntag</translation>
+    </message>
+    <message>
+        <source>Epiphany</source>
+        <translation>Heilige Drei Könige</translation>
+    </message>
+    <message>
+        <source>Europe Day</source>
+        <translation>Europatag</translation>
+    </message>
+    <message>
+        <source>Fast of Geneva</source>
+        <translation>Genfer Bettag</translation>
+    </message>
+    <message>
+        <source>Federal Fast Monday</source>
+        <translation>Bettagsmontag</translation>
+    </message>
+    <message>
+        <source>Golden Jubilee</source>
+        <translation>Goldenes Thronjubiläum</translation>
+    </message>
+    <message>
+        <source>Good Friday</source>
+        <translation>Karfreitag</translation>
+    </message>
+    <message>
+        <source>Immaculate Conception</source>
+        <translation>Mariä Empfängnis</translation>
+    </message>
+    <message>
+        <source>Independence Day</source>
+        <translation>Unabhängigkeitstag</translation>
+    </message>
+    <message>
+        <source>International Women&apos;s Day</source>
+        <translation>Frauentag</translation>
+    </message>
+    <message>
+        <source>June Bank Holiday</source>
+        <translation>June Bank Holiday</translation>
+    </message>
+    <message>
+        <source>Juneteenth</source>
+        <translation>Juneteenth</translation>
+    </message>
+    <message>
+        <source>King&apos;s Day</source>
+        <translation>Königstag</translation>
+    </message>
+    <message>
+        <source>Labor Day</source>
+        <translation>Labor Day</translation>
+    </message>
+    <message>
+        <source>Labour Day</source>
+        <translation>Tag der Arbeit</translation>
+    </message>
+    <message>
+        <source>Liberation Day</source>
+        <translation>Tag der Befreiung</translation>
+    </message>
+    <message>
+        <source>Martin Luther King Jr. Day</source>
+        <translation>Martin-Luther-King-Tag</translation>
+    </message>
+    <message>
+        <source>May Day</source>
+        <translation>May Day</translation>
+    </message>
+    <message>
+        <source>Memorial Day</source>
+        <translation>Memorial Day</translation>
+    </message>
+    <message>
+        <source>National Day</source>
+        <translation>Nationalfeiertag</translation>
+    </message>
+    <message>
+        <source>National Day for Truth and Reconciliation</source>
+        <translation>Tag der Wahrheit und Versöhnung</translation>
+    </message>
+    <message>
+        <source>New Year&apos;s Day</source>
+        <translation>Neujahr</translation>
+    </message>
+    <message>
+        <source>October Bank Holiday</source>
+        <translation>October Bank Holiday</translation>
+    </message>
+    <message>
+        <source>Platinum Jubilee</source>
+        <translation>Platin-Thronjubiläum</translation>
+    </message>
+    <message>
+        <source>Queen&apos;s Day</source>
+        <translation>Königinnentag</translation>
+    </message>
+    <message>
+        <source>Reformation Day</source>
+        <translation>Reformationstag</translation>
+    </message>
+    <message>
+        <source>Remembrance Day</source>
+        <translation>Remembrance Day</translation>
+    </message>
+    <message>
+        <source>Republic Day</source>
+        <translation>Tag der Republik</translation>
+    </message>
+    <message>
+        <source>Restoration of the Republic</source>
+        <translation>Wiederherstellung der Republik</translation>
+    </message>
+    <message>
+        <source>Second Day of Christmas</source>
+        <translation>2. Weihnachtstag</translation>
+    </message>
+    <message>
+        <source>Spring Bank Holiday</source>
+        <translation>Spring Bank Holiday</translation>
+    </message>
+    <message>
+        <source>St Andrew&apos;s Day</source>
+        <translation>Andreastag</translation>
+    </message>
+    <message>
+        <source>St Brigid&apos;s Day</source>
+        <translation>Brigidstag</translation>
+    </message>
+    <message>
+        <source>St Joseph&apos;s Day</source>
+        <translation>Josefstag</translation>
+    </message>
+    <message>
+        <source>St Nicholas of Flüe</source>
+        <translation>Bruder Klaus</translation>
+    </message>
+    <message>
+        <source>St Patrick&apos;s Day</source>
+        <translation>St. Patrick’s Day</translation>
+    </message>
+    <message>
+        <source>St Peter and St Paul</source>
+        <translation>Peter und Paul</translation>
+    </message>
+    <message>
+        <source>St Stephen&apos;s Day</source>
+        <translation>Stephanstag</translation>
+    </message>
+    <message>
+        <source>State Funeral of Queen Elizabeth II</source>
+        <translation>Staatsbegräbnis von Königin Elisabeth II.</translation>
+    </message>
+    <message>
+        <source>Summer Bank Holiday</source>
+        <translation>Summer Bank Holiday</translation>
+    </message>
+    <message>
+        <source>Swiss National Day</source>
+        <translation>Bundesfeier</translation>
+    </message>
+    <message>
+        <source>Thanksgiving Day</source>
+        <translation>Thanksgiving</translation>
+    </message>
+    <message>
+        <source>Veterans Day</source>
+        <translation>Veterans Day</translation>
+    </message>
+    <message>
+        <source>Victoria Day</source>
+        <translation>Victoria Day</translation>
+    </message>
+    <message>
+        <source>Victory Day</source>
+        <translation>Tag des Sieges</translation>
+    </message>
+    <message>
+        <source>Washington&apos;s Birthday</source>
+        <translation>Washingtons Geburtstag</translation>
+    </message>
+    <message>
+        <source>Wedding of Prince William</source>
+        <translation>Hochzeit von Prinz William</translation>
+    </message>
+    <message>
+        <source>Whit Monday</source>
+        <translation>Pfingstmontag</translation>
+    </message>
+    <message>
+        <source>Whit Sunday</source>
+        <translation>Pfingstsonntag</translation>
+    </message>
+    <message>
+        <source>World Children&apos;s Day</source>
+        <translation>Weltkindertag</translation>
+    </message>
+    <message>
+        <source>World Cup Bank Holiday</source>
+        <translation>WM-Feiertag</translation>
+    </message>
+    <message>
+        <source>%1 (substitute)</source>
+        <translation>%1 (Ersatztag)</translation>
     </message>
 </context>
 <context>
