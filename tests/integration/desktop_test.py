@@ -166,7 +166,8 @@ class DesktopTest(unittest.TestCase):
         steps = [("Back" if step == 1 else "Next", f"Step {step} of 5") for step in (2, 1, 2, 3, 4, 5)]
         for label, then in [*steps, ("Done", lambda: self.titles() == ["Pellory"]), ("Quarter", "Last Quarter"),
                             ("Calendar View Settings", "Show Quarter Stats"), ("Help", "Weekend Day"),
-                            ("Settings", "Goals"), ("Office Networks", "Scan"), ("General", "Launch at login")]:
+                            ("Settings", "Goals"), ("Counting", "Set Workdays"),
+                            ("Office Networks", "Scan"), ("General", "Launch at login")]:
             self.press(label, then=then)
             for window, name, states, place in self.shown():
                 role = str(self.tell(place, ACCESSIBLE, "GetRoleName"))

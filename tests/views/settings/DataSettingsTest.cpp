@@ -19,7 +19,7 @@ protected:
     {
         view.resize(740, 660);
         show(view);
-        view.findChild<SideTabs*>()->setCurrentIndex(3);
+        view.findChild<SideTabs*>()->setCurrentIndex(4);
     }
     template <class Signal = decltype(&BackupService::made)> void backUp(Signal expected = &BackupService::made)
     {
@@ -139,10 +139,10 @@ TEST_F(DataSettingsTest, theListTurnsByKeyAndMakesRoomForThePage)
     tabs.setFocus();
     const std::tuple<Qt::Key, Qt::KeyboardModifiers, int> rows[]{{Qt::Key_Up, {}, 0},
                                                                  {Qt::Key_Down, {}, 1},
-                                                                 {Qt::Key_End, {}, 3},
-                                                                 {Qt::Key_Down, {}, 3},
+                                                                 {Qt::Key_End, {}, 4},
+                                                                 {Qt::Key_Down, {}, 4},
                                                                  {Qt::Key_PageDown, Qt::ControlModifier, 0},
-                                                                 {Qt::Key_PageUp, Qt::ControlModifier, 3}};
+                                                                 {Qt::Key_PageUp, Qt::ControlModifier, 4}};
     for (const auto& [key, held, page] : rows) {
         press(view, key, held);
         EXPECT_EQ(tabs.currentIndex(), page) << key;
@@ -152,7 +152,7 @@ TEST_F(DataSettingsTest, theListTurnsByKeyAndMakesRoomForThePage)
     view.setMinimumSize(1, 1);
     view.resize(view.width() / 3, 600);
     EXPECT_TRUE(eventually([&] { return tabs.width() < wide / 2; }));
-    EXPECT_EQ(tabs.tabToolTip(1), u"Office Networks"_s);
+    EXPECT_EQ(tabs.tabToolTip(2), u"Office Networks"_s);
     view.resize(1000, 600);
     EXPECT_TRUE(eventually([&] { return tabs.width() == wide; }));
 }

@@ -13,7 +13,7 @@
 
 class SettingsTest : public ViewTest {
 protected:
-    enum Page { goalsPage, networksPage, generalPage };
+    enum Page { goalsPage, countingPage, networksPage, generalPage };
 
     void open(Page page)
     {
