@@ -9,6 +9,7 @@
 #include "ThinScrollBarStyle.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyledItemDelegate>
@@ -16,8 +17,8 @@
 
 namespace {
 
-constexpr QMargins comboPadding(9, 5, 9, 5);
-constexpr int arrowRoom = 20;
+constexpr QMargins comboPadding(9, 6, 9, 7);
+constexpr int arrowRoom = 24;
 constexpr int usualArrowSize = 12;
 constexpr int leastComboWidth = 140;
 constexpr int mostEntriesShown = 12;
@@ -56,6 +57,7 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     setItemDelegate(new RoomyDelegate(this));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     ThinScrollBarStyle::applyTo(*view());
+    view()->installEventFilter(this);
 }
 
 QSize ComboBox::sizeHint() const
@@ -69,6 +71,20 @@ QSize ComboBox::sizeHint() const
 QSize ComboBox::minimumSizeHint() const
 {
     return sizeHint().boundedTo({fonts::grown(leastComboWidth, font()), QWIDGETSIZE_MAX});
+}
+
+void ComboBox::showPopup()
+{
+    view()->setMinimumWidth(sizeHint().width()); // also where the field is narrower than its entries
+    QComboBox::showPopup();
+}
+
+bool ComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+    // Escape closes the list, and not the window as well.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        event->accept();
+    return QComboBox::eventFilter(watched, event);
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event)

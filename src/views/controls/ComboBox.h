@@ -14,8 +14,10 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     /// Long entries are elided where there is no room for them.
     [[nodiscard]] QSize minimumSizeHint() const override;
+    void showPopup() override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     /// Ignored: the wheel scrolls the page.
