@@ -3,6 +3,10 @@
 
 #include "CalendarFile.h"
 #include "CountingRecords.h"
+#include "Labels.h"
+#include "TextArea.h"
+
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -10,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostProblemsShown = 4;
+constexpr qsizetype mostLinesShown = 4;
 
 } // namespace
 
@@ -22,14 +26,21 @@ CalendarFileReview::CalendarFileReview(CountingRecords& records, const QString& 
     QList<ListedDayOff> days;
     for (const DayOff& dayOff : contents.daysOff)
         days.append(listed(dayOff, present));
-    showDays(days, today);
-    QStringList lines{days.isEmpty() ? tr("The file has no all-day entries.")
-                                     : tr("Uncheck the dates on which you work.")};
-    lines += contents.problems.first(qMin(contents.problems.size(), mostProblemsShown));
-    if (const auto more = contents.problems.size() - mostProblemsShown; more > 0)
-        lines.append(more == 1 ? tr("1 more entry was left out.")
-                               : tr("%n more entries were left out.", nullptr, static_cast<int>(more)));
-    say(lines.join(u'\n'));
+    showDays(days, today.year());
+    say(days.isEmpty() ? tr("The file has no all-day entries.") : tr("Uncheck the dates on which you work."));
+    if (!contents.problems.isEmpty())
+        showProblems(contents.problems);
+}
+
+void CalendarFileReview::showProblems(const QStringList& problems)
+{
+    head().addWidget(labels::error(tr("Not everything in the file can be read:")));
+    auto* list = new TextArea(static_cast<int>(qBound<qsizetype>(2, problems.size(), mostLinesShown)));
+    list->setObjectName("problems"_L1);
+    list->setAccessibleName(tr("What was left out"));
+    list->setReadOnly(true);
+    list->setPlainText(problems.join(u'\n'));
+    head().addWidget(list);
 }
 
 ListedDayOff CalendarFileReview::listed(DayOff dayOff, const QList<DayOff>& present)
@@ -40,7 +51,7 @@ ListedDayOff CalendarFileReview::listed(DayOff dayOff, const QList<DayOff>& pres
     return {.day = dayOff,
             .note = isPresent   ? tr("already a day off")
                     : isWorkday ? QString()
-                                : tr("not a workday anyway"),
+                                : tr("not a workday"),
             .isDim = !isWorkday,
             .isChecked = !isPresent};
 }

@@ -17,5 +17,6 @@ protected:
     [[nodiscard]] bool store(const QList<DayOff>& chosen, const QList<QDate>& takenOut) override;
 
 private:
+    void showProblems(const QStringList& problems);
     [[nodiscard]] ListedDayOff listed(DayOff dayOff, const QList<DayOff>& present);
 };

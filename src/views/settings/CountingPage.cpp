@@ -48,7 +48,7 @@ void CountingPage::reviewHolidays()
 void CountingPage::reviewFile(const QString& path)
 {
     try {
-        const CalendarFileContents contents = readCalendarFile(path);
+        const CalendarFileContents contents = readCalendarFile(path, m_clock.now().date());
         show(new CalendarFileReview(m_counting, QFileInfo(path).fileName(), contents, m_clock.now().date()),
              DaysOffCard::Origin::File);
     } catch (const CalendarFileError& error) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int dayOffGap = 12;
 constexpr int dayOffPadding = 8;
-constexpr int usualNameWidth = 150;
+constexpr int usualNameWidth = 140;
 
 const ListedDayOff* dayOffAt(const QModelIndex& index)
 {

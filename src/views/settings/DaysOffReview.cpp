@@ -62,10 +62,10 @@ void DaysOffReview::takeFocus()
     m_tree->setFocus(Qt::OtherFocusReason);
 }
 
-void DaysOffReview::showDays(const QList<ListedDayOff>& days, QDate from)
+void DaysOffReview::showDays(const QList<ListedDayOff>& days, int firstYear)
 {
     m_model.setDays(days);
-    m_tree->showFrom(from);
+    m_tree->showFrom({firstYear, 1, 1});
     refreshButton();
 }
 

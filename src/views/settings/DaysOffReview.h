@@ -29,8 +29,8 @@ protected:
     [[nodiscard]] CountingRecords& counting() { return m_counting; }
     /// The room between the heading and the message.
     [[nodiscard]] QVBoxLayout& head() { return *m_head; }
-    /// Shows days, those from a date on opened.
-    void showDays(const QList<ListedDayOff>& days, QDate from);
+    /// Shows days, those from a year on opened.
+    void showDays(const QList<ListedDayOff>& days, int firstYear);
     void say(const QString& message);
     /// Stores the choice. Returns whether that was possible.
     [[nodiscard]] virtual bool store(const QList<DayOff>& chosen, const QList<QDate>& takenOut) = 0;

@@ -63,7 +63,7 @@ void HolidayChooser::build(int year)
     table->setColumnStretch(1, 1);
     for (int row = 0; ComboBox * each : {m_country, m_region, m_year}) {
         table->addWidget(labels::singleLine(labels::text(each->accessibleName())), row, 0);
-        table->addWidget(each, row++, 1);
+        table->addWidget(each, row++, 1, Qt::AlignLeft);
     }
     m_country->setObjectName("country"_L1);
     m_region->setObjectName("region"_L1);

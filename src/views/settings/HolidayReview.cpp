@@ -56,7 +56,7 @@ void HolidayReview::showHolidays()
         for (const DayOff& holiday : publicHolidays(area, year))
             days.append(listed(holiday, present, isYearKnown));
     }
-    showDays(days, m_today);
+    showDays(days, m_chooser->firstYear());
     const QString before = m_before.isEmpty() || m_before == area ? QString() : holidayAreaName(m_before);
     say(before.isEmpty()
             ? tr("Uncheck the dates on which you work.")
@@ -72,7 +72,7 @@ ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present,
     return {.day = holiday,
             .note = same != present.end() ? tr("already a day off")
                     : isWorkday           ? QString()
-                                          : tr("not a workday anyway"),
+                                          : tr("not a workday"),
             .isDim = !isWorkday,
             .isChecked = same == present.end() ? !isYearKnown : isHoliday,
             .isPresent = isHoliday};
