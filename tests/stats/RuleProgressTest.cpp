@@ -90,7 +90,7 @@ TEST(RuleProgress, isWhatTheEmployerCounts)
     const QString november = u"office 1102 1106, leave 1109 1120"_s;
     const QString autumn = u"off 1012, off 1111, off 1126, off 1225, office 1001 1106"_s;
     const QString travel = u"sick 1116 1118, client 1119, leave 1102 1106, office 1109 1113"_s;
-    const QString fortnight = u"office 1110, planned 1120"_s;
+    const QString fortnight = u"office 1114, planned 1120"_s;
     const QString summer = u"office 0427 0612, leave 0720 0731"_s;
     const QString trips = u"abroad 0301 0331, abroad 0803 0814, out 0901 0904"_s;
     const QString fridays = u"off 1111, office 1102 1119"_s;
@@ -130,7 +130,7 @@ TEST(RuleProgress, isWhatTheEmployerCounts)
          u"6 of 8 days: 2 more by 30 November, 7 workdays left"_s},
         {"today, and a Saturday that is planned though no workday", weekly, u"office 1116, planned 1121"_s, on(11, 20),
          u"1 of 3 days: 2 more by 22 November, 1 workday left"_s},
-        {"in the weeks from 9 November", twoWeeks, fortnight, on(11, 20),
+        {"a Saturday in the weeks from 9 November", twoWeeks, fortnight, on(11, 20),
          u"1 of 2 days: Reached with the planned days"_s},
         {"in those from 16 November", with(twoWeeks, &Rule::anchor, on(1, 12)), fortnight, on(11, 20),
          u"0 of 2 days: 2 more by 29 November, 6 workdays left"_s},
