@@ -43,8 +43,8 @@ public:
 private:
     struct Entry {
         CountedDay counted;
-        DayState state;
-        bool isScheduled;
+        DayState state = DayState::UNKNOWN;
+        bool isScheduled = false;
     };
 
     DaySpan m_span;
