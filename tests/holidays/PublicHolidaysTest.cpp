@@ -27,7 +27,7 @@ TEST(PublicHolidays, areWhereAndWhenTheLawSays)
         const char* name;
     } rows[] = {
         {"DE-HH", "2017-10-31", "Reformation Day"},
-        {"DE-HE", "2017-10-31", "Reformation Day"},
+        {"DE-SN", "2017-10-31", "Reformation Day"},
         {"DE-HH", "2016-10-31", none},
         {"DE-SN", "2016-10-31", "Reformation Day"},
         {"DE-SN", "2027-11-17", "Day of Repentance and Prayer"},
