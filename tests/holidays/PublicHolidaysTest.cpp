@@ -61,7 +61,8 @@ TEST(PublicHolidays, areWhereAndWhenTheLawSays)
 TEST(PublicHolidays, areThoseOfEveryYearInOrderWithNamesToTranslate)
 {
     for (const HolidayArea& area : holidayAreas()) {
-        EXPECT_TRUE(hasHolidayText(area.country) && (area.name.isEmpty() || hasHolidayText(area.name))) << qPrintable(area.id);
+        EXPECT_TRUE(hasHolidayText(area.country) && (area.name.isEmpty() || hasHolidayText(area.name)))
+            << qPrintable(area.id);
         for (int year = 2000; year < 2100; year += 33) {
             QDate last(year - 1, 12, 31);
             for (const DayOff& holiday : publicHolidays(area.id, year)) {
