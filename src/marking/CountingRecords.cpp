@@ -2,7 +2,6 @@
 #include "CountingRecords.h"
 
 #include "AppSettings.h"
-#include "DayAbsences.h"
 #include "DayMarker.h"
 #include "ModelContext.h"
 #include "StoreError.h"
@@ -10,40 +9,55 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 namespace {
 
 Q_LOGGING_CATEGORY(logCounting, "pellory.marking", QtInfoMsg)
 
-constexpr std::array ownKinds{AbsenceKind::sick, AbsenceKind::businessTrip, AbsenceKind::clientVisit,
-                              AbsenceKind::training};
-
-template <class Record> void replaceAll(ModelContext& context, const QList<Record>& before, const QList<Record>& after)
-{
-    for (const Record& record : before) {
-        if (!after.contains(record))
-            context.remove(record);
-    }
-    for (const Record& record : after) {
-        if (!before.contains(record))
-            context.add(record);
-    }
-}
-
-template <class Record, class Key, class Value>
-const Record* findBy(const QList<Record>& records, Key key, const Value& value)
+template <class Record, class Key, class Value> Record* findBy(QList<Record>& records, Key key, const Value& value)
 {
     const auto found = std::ranges::find(records, value, key);
     return found == records.end() ? nullptr : &*found;
 }
 
-void removeHolidaysFrom(ModelContext& context, QDate today)
+/// Takes the place of every record with the same key.
+template <class Record, class Key> void put(QList<Record>& records, Key key, const Record& record)
 {
-    for (const DayOff& dayOff : context.records<DayOff>()) {
-        if (dayOff.source == DayOffSource::Holidays && dayOff.date >= today)
-            context.remove(dayOff);
+    records.removeIf([&](const Record& other) { return other.*key == record.*key; });
+    records.append(record);
+}
+
+template <class Record, class Key> QList<Record> sortedBy(Key key, QList<Record> records)
+{
+    std::ranges::stable_sort(records, {}, key);
+    return records;
+}
+
+void removeHolidaysFrom(QList<DayOff>& daysOff, QDate today)
+{
+    daysOff.removeIf([today](const DayOff& day) { return day.source == DayOffSource::Holidays && day.date >= today; });
+}
+
+void addHolidays(QList<DayOff>& daysOff, const QList<DayOff>& holidays)
+{
+    for (const DayOff& holiday : holidays) {
+        const DayOff* present = findBy(daysOff, &DayOff::date, holiday.date);
+        if (present == nullptr || present->source == DayOffSource::Holidays)
+            put(daysOff, &DayOff::date, holiday);
     }
+}
+
+/// The changed rule follows the one that it was, which ends before it.
+void split(QList<AttendanceRule>& rules, AttendanceRule& before, AttendanceRule changed)
+{
+    for (AttendanceRule& other : rules)
+        other.position += other.position > before.position ? 1 : 0;
+    changed.id = QUuid::createUuid();
+    changed.position = before.position + 1;
+    const QDate lastDay = changed.from->addDays(-1);
+    before.until = std::min(before.until.value_or(lastDay), lastDay);
+    rules.append(changed);
 }
 
 } // namespace
@@ -51,297 +65,296 @@ void removeHolidaysFrom(ModelContext& context, QDate today)
 CountingRecords::CountingRecords(DayMarker& marker, AppSettings& settings)
     : m_marker(marker)
     , m_settings(settings)
+    , m_retry([this] { readAgain(); })
 {
     m_vacationFollower = settings.vacationDaysCountAsInOffice.addNotifier([this] {
-        if (m_settings.vacationDaysCountAsInOffice && leavesOutVacation())
-            setLeavesOutVacation(false);
+        if (m_settings.vacationDaysCountAsInOffice) // both are saved at the end of the turn
+            apply(leavingOutVacation(false));
     });
     connect(&marker, &DayMarker::absencesChanged, this, &CountingRecords::readAgain);
 }
 
 const QProperty<Counting>& CountingRecords::counting() const
 {
-    read();
+    readOnce();
     return m_counting;
 }
 
 const QProperty<QList<AttendanceRule>>& CountingRecords::rules() const
 {
-    read();
+    readOnce();
     return m_rules;
 }
 
 const QProperty<bool>& CountingRecords::leavesOutVacation() const
 {
-    read();
+    readOnce();
     return m_leavesOutVacation;
 }
 
 bool CountingRecords::setLeavesOutVacation(bool leavesOut)
 {
-    const bool isChanged = change([leavesOut](ModelContext& context) {
+    return change(leavingOutVacation(leavesOut));
+}
+
+CountingRecords::Action CountingRecords::leavingOutVacation(bool leavesOut)
+{
+    return [=, this](ModelContext& context) {
         const auto before = context.records<CountingChoices>();
         CountingChoices choices = before.isEmpty() ? CountingChoices() : before.last();
         choices.leavesOutVacation = leavesOut;
-        replaceAll(context, before, choices == CountingChoices() ? QList<CountingChoices>() : QList{choices});
-    });
-    if (isChanged && leavesOut)
-        m_settings.vacationDaysCountAsInOffice = false;
-    return isChanged;
+        context.replace(before, choices == CountingChoices() ? QList<CountingChoices>() : QList{choices});
+        if (leavesOut)
+            m_settings.vacationDaysCountAsInOffice = false;
+        return leavesOut != m_leavesOutVacation;
+    };
 }
 
 QList<AbsenceKind> CountingRecords::absenceKinds() const
 {
-    QList<AbsenceKind> kinds;
-    try {
-        const auto stored = m_marker.context().records<AbsenceKind>();
-        for (const int id : ownKinds) {
-            const AbsenceKind* kind = findBy(stored, &AbsenceKind::id, id);
-            kinds.append(kind != nullptr ? *kind : AbsenceKind{.id = id});
-        }
-        std::ranges::copy_if(stored, std::back_inserter(kinds),
-                             [](const AbsenceKind& kind) { return kind.id >= AbsenceKind::firstOwn; });
-        std::ranges::sort(kinds, {}, &AbsenceKind::id);
-    } catch (const StoreError& error) {
-        qCWarning(logCounting, "The kinds of absence cannot be read: %s", error.what());
-    }
-    return kinds;
+    return m_marker.absences().kinds();
 }
 
 bool CountingRecords::setTreatment(int kind, Treatment treatment)
 {
-    return change([=](ModelContext& context) {
-        const auto stored = context.records<AbsenceKind>();
-        const AbsenceKind* before = findBy(stored, &AbsenceKind::id, kind);
-        AbsenceKind after = before != nullptr ? *before : AbsenceKind{.id = kind};
-        after.treatment = treatment;
-        if (before != nullptr)
-            context.remove(*before);
-        if (after != AbsenceKind{.id = kind})
-            context.add(after);
+    auto known = absenceKinds();
+    AbsenceKind* changed = findBy(known, &AbsenceKind::id, kind);
+    if (changed == nullptr)
+        return false;
+    changed->treatment = treatment;
+    return edit<AbsenceKind>([&](auto& kinds) {
+        put(kinds, &AbsenceKind::id, *changed);
+        kinds.removeAll(AbsenceKind{.id = kind}); // as the program has it
     });
 }
 
 std::optional<AbsenceKind> CountingRecords::addAbsenceKind(const QString& name)
 {
-    const QString trimmed = name.simplified();
-    if (trimmed.isEmpty())
+    const QString simplified = name.simplified();
+    if (simplified.isEmpty())
         return {};
-    AbsenceKind added{.id = AbsenceKind::firstOwn, .name = trimmed};
     for (const AbsenceKind& kind : absenceKinds()) {
-        if (description(kind).compare(trimmed, Qt::CaseInsensitive) == 0)
+        if (description(kind).compare(simplified, Qt::CaseInsensitive) == 0)
             return kind;
-        added.id = std::max(added.id, kind.id + 1);
     }
-    const bool isAdded = change([&](ModelContext& context) {
-        for (const DayAbsence& absence : context.records<DayAbsence>()) // of a kind that was removed
-            added.id = std::max(added.id, absence.kind + 1);
-        context.add(added);
+    AbsenceKind added{.id = AbsenceKind::firstOwn, .name = simplified};
+    const bool isAdded = edit<AbsenceKind>([&](auto& kinds) {
+        for (const AbsenceKind& kind : kinds)
+            added.id = std::max(added.id, kind.id + 1);
+        kinds.append(added);
     });
     return isAdded ? std::optional(added) : std::nullopt;
 }
 
 bool CountingRecords::removeAbsenceKind(int kind)
 {
-    return kind >= AbsenceKind::firstOwn && change([kind](ModelContext& context) {
-               const auto stored = context.records<AbsenceKind>();
-               if (const AbsenceKind* found = findBy(stored, &AbsenceKind::id, kind))
-                   context.remove(*found);
+    return kind >= AbsenceKind::firstOwn && edit<AbsenceKind>([kind](auto& kinds) {
+               if (AbsenceKind* found = findBy(kinds, &AbsenceKind::id, kind))
+                   *found = {.id = kind};
            });
 }
 
 QList<DayOff> CountingRecords::daysOff() const
 {
-    try {
-        auto daysOff = m_marker.context().records<DayOff>();
-        std::ranges::stable_sort(daysOff, {}, &DayOff::date);
-        return daysOff;
-    } catch (const StoreError& error) {
-        qCWarning(logCounting, "The days off cannot be read: %s", error.what());
-        return {};
-    }
+    return sortedBy(&DayOff::date, stored<DayOff>());
 }
 
 bool CountingRecords::addDaysOff(const QList<DayOff>& daysOff)
 {
-    return change([&](ModelContext& context) {
-        const auto before = context.records<DayOff>();
-        for (const DayOff& dayOff : daysOff) {
-            if (const DayOff* same = findBy(before, &DayOff::date, dayOff.date))
-                context.remove(*same);
-            context.add(dayOff);
-        }
+    return edit<DayOff>([&](auto& all) {
+        for (const DayOff& dayOff : daysOff)
+            put(all, &DayOff::date, dayOff);
     });
 }
 
 bool CountingRecords::removeDaysOff(const QList<QDate>& dates)
 {
-    return change([&](ModelContext& context) {
-        for (const DayOff& dayOff : context.records<DayOff>()) {
-            if (dates.contains(dayOff.date))
-                context.remove(dayOff);
-        }
-    });
+    return edit<DayOff>(
+        [&](auto& all) { all.removeIf([&](const DayOff& dayOff) { return dates.contains(dayOff.date); }); });
 }
 
 std::optional<HolidayRegion> CountingRecords::holidayRegion() const
 {
-    try {
-        const auto regions = m_marker.context().records<HolidayRegion>();
-        return regions.isEmpty() ? std::nullopt : std::optional(regions.last());
-    } catch (const StoreError& error) {
-        qCWarning(logCounting, "The region of the holidays cannot be read: %s", error.what());
-        return {};
-    }
+    const auto regions = stored<HolidayRegion>();
+    return regions.isEmpty() ? std::nullopt : std::optional(regions.last());
 }
 
 bool CountingRecords::setHolidays(const HolidayRegion& region, const QList<DayOff>& holidays, QDate today)
 {
     return change([&](ModelContext& context) {
-        const auto before = context.records<HolidayRegion>();
-        if (!before.isEmpty() && before.last().id != region.id)
-            removeHolidaysFrom(context, today);
-        replaceAll(context, before, {region});
-        const auto daysOff = context.records<DayOff>();
-        for (const DayOff& holiday : holidays) {
-            if (const DayOff* same = findBy(daysOff, &DayOff::date, holiday.date))
-                context.remove(*same);
-            context.add(holiday);
-        }
+        const auto regions = context.records<HolidayRegion>();
+        const auto before = context.records<DayOff>();
+        const bool isSame = !regions.isEmpty() && regions.last().id == region.id;
+        HolidayRegion merged = region;
+        if (isSame)
+            merged.lastYear = std::max(region.lastYear, regions.last().lastYear);
+        auto after = before;
+        if (!isSame)
+            removeHolidaysFrom(after, today);
+        addHolidays(after, holidays);
+        const bool hasOtherDays = context.replace(before, after);
+        return context.replace(regions, {merged}) || hasOtherDays;
     });
 }
 
 bool CountingRecords::removeHolidayRegion(QDate today)
 {
     return change([&](ModelContext& context) {
-        removeHolidaysFrom(context, today);
-        replaceAll(context, context.records<HolidayRegion>(), {});
+        const auto regions = context.records<HolidayRegion>();
+        const auto before = context.records<DayOff>();
+        auto after = before;
+        removeHolidaysFrom(after, today);
+        const bool hasOtherDays = context.replace(before, after);
+        return context.replace(regions, {}) || hasOtherDays;
     });
 }
 
 QList<WorkWeek> CountingRecords::workWeeks() const
 {
-    try {
-        auto weeks = m_marker.context().records<WorkWeek>();
-        std::ranges::stable_sort(weeks, {}, &WorkWeek::from);
-        return weeks;
-    } catch (const StoreError& error) {
-        qCWarning(logCounting, "The weekdays of work cannot be read: %s", error.what());
-        return {};
-    }
+    return sortedBy(&WorkWeek::from, stored<WorkWeek>());
 }
 
 bool CountingRecords::setWorkWeek(const WorkWeek& week)
 {
-    return change([&](ModelContext& context) {
-        const auto weeks = context.records<WorkWeek>();
-        if (const WorkWeek* same = findBy(weeks, &WorkWeek::from, week.from))
-            context.remove(*same);
-        context.add(week);
-    });
+    return edit<WorkWeek>([&](auto& weeks) { put(weeks, &WorkWeek::from, week); });
 }
 
 bool CountingRecords::removeWorkWeek(QDate from)
 {
-    return change([&](ModelContext& context) {
-        const auto weeks = context.records<WorkWeek>();
-        if (const WorkWeek* found = findBy(weeks, &WorkWeek::from, from))
-            context.remove(*found);
-    });
+    return edit<WorkWeek>(
+        [&](auto& weeks) { weeks.removeIf([from](const WorkWeek& week) { return week.from == from; }); });
 }
 
 bool CountingRecords::addRule(AttendanceRule rule)
 {
     rule.id = QUuid::createUuid();
-    rule.position = rules().value().isEmpty() ? 0 : rules().value().last().position + 1;
-    return change([&](ModelContext& context) { context.add(rule); });
+    return edit<AttendanceRule>([&](auto& rules) {
+        const auto last = std::ranges::max_element(rules, {}, &AttendanceRule::position);
+        rule.position = last == rules.end() ? 0 : last->position + 1;
+        rules.append(rule);
+    });
 }
 
 bool CountingRecords::changeRule(const AttendanceRule& rule)
 {
-    const auto all = rules().value();
-    const AttendanceRule* before = findBy(all, &AttendanceRule::id, rule.id);
-    return before != nullptr && change([&](ModelContext& context) {
-               context.remove(*before);
-               context.add(rule);
-           });
+    bool isFound = false;
+    return edit<AttendanceRule>([&](auto& rules) {
+               AttendanceRule* found = findBy(rules, &AttendanceRule::id, rule.id);
+               isFound = found != nullptr;
+               if (isFound)
+                   *found = rule;
+           }) &&
+           isFound;
 }
 
 bool CountingRecords::changeRule(const AttendanceRule& rule, QDate from)
 {
-    const auto all = rules().value();
-    const AttendanceRule* before = findBy(all, &AttendanceRule::id, rule.id);
-    if (before == nullptr)
-        return false;
-    if (before->from && *before->from >= from)
-        return changeRule(rule);
-    return change([&](ModelContext& context) {
-        AttendanceRule ended = *before;
-        ended.until = from.addDays(-1);
-        AttendanceRule changed = rule;
-        changed.id = QUuid::createUuid();
-        changed.from = from;
-        changed.position = before->position + 1;
-        for (const AttendanceRule& other : all) {
-            if (other.position <= before->position)
-                continue;
-            AttendanceRule moved = other;
-            ++moved.position;
-            context.remove(other);
-            context.add(moved);
-        }
-        context.remove(*before);
-        context.add(ended);
-        context.add(changed);
-    });
+    AttendanceRule changed = rule;
+    changed.from = std::max(rule.from.value_or(from), from);
+    bool isFound = false;
+    return edit<AttendanceRule>([&](auto& rules) {
+               AttendanceRule* before = findBy(rules, &AttendanceRule::id, rule.id);
+               isFound = before != nullptr;
+               if (!isFound)
+                   return;
+               const bool heldBefore = !before->from || *before->from < *changed.from;
+               const bool willHold = !changed.until || *changed.until >= *changed.from;
+               if (heldBefore && willHold)
+                   split(rules, *before, changed);
+               else
+                   *before = rule;
+           }) &&
+           isFound;
 }
 
 bool CountingRecords::removeRule(const QUuid& id)
 {
-    const auto all = rules().value();
-    const AttendanceRule* found = findBy(all, &AttendanceRule::id, id);
-    return found != nullptr && change([&](ModelContext& context) { context.remove(*found); });
+    bool isFound = false;
+    return edit<AttendanceRule>([&](auto& rules) {
+               isFound = rules.removeIf([&](const AttendanceRule& rule) { return rule.id == id; }) > 0;
+           }) &&
+           isFound;
 }
 
-void CountingRecords::read() const
+template <class Record> QList<Record> CountingRecords::stored() const
 {
-    if (m_isRead)
-        return;
+    try {
+        return m_marker.context().records<Record>();
+    } catch (const StoreError& error) {
+        qCWarning(logCounting, "What counts cannot be read: %s", error.what());
+        return {};
+    }
+}
+
+void CountingRecords::readOnce() const
+{
+    if (!std::exchange(m_isWanted, true))
+        static_cast<void>(read());
+}
+
+bool CountingRecords::read() const
+{
     try {
         ModelContext& context = m_marker.context();
         const auto choices = context.records<CountingChoices>();
-        const bool leavesOutVacation = !choices.isEmpty() && choices.last().leavesOutVacation;
-        auto rules = context.records<AttendanceRule>();
-        std::ranges::stable_sort(rules, {}, &AttendanceRule::position);
+        const bool leavesOutVacation = std::ranges::any_of(choices, &CountingChoices::leavesOutVacation) &&
+                                       !m_settings.vacationDaysCountAsInOffice;
+        const auto kinds = context.records<AbsenceKind>();
+        auto absences = m_marker.absences().all();
+        for (const AbsenceKind& kind : kinds) {
+            if (kind.isRemoved())
+                absences.removeIf([&](const auto& absence) { return absence.value() == kind.id; });
+        }
+        const auto rules = sortedBy(&AttendanceRule::position, context.records<AttendanceRule>());
         m_counting = Counting({.leavesOutVacation = leavesOutVacation,
                                .daysOff = context.records<DayOff>(),
                                .workWeeks = context.records<WorkWeek>(),
-                               .kinds = context.records<AbsenceKind>(),
-                               .absences = m_marker.absences().all()});
+                               .kinds = kinds,
+                               .absences = absences});
         m_rules = rules;
         m_leavesOutVacation = leavesOutVacation;
-        m_isRead = true;
+        m_retry.setNeeded(false);
+        return true;
     } catch (const StoreError& error) {
         qCWarning(logCounting, "How days count cannot be read: %s", error.what());
+        m_retry.setNeeded(true);
+        return false;
     }
 }
 
 void CountingRecords::readAgain()
 {
-    m_isRead = false;
-    read();
-    Q_EMIT changed();
+    m_isWanted = true;
+    if (read())
+        Q_EMIT changed();
 }
 
-bool CountingRecords::change(const std::function<void(ModelContext&)>& action)
+bool CountingRecords::apply(const Action& action)
 {
     try {
-        action(m_marker.context());
+        if (action(m_marker.context()))
+            readAgain();
+        return true;
     } catch (const StoreError& error) {
         qCWarning(logCounting, "How days count cannot be changed: %s", error.what());
         return false;
     }
-    m_marker.context().save();
-    readAgain();
-    return true;
+}
+
+bool CountingRecords::change(const Action& action)
+{
+    const bool isApplied = apply(action);
+    if (isApplied)
+        m_marker.context().save();
+    return isApplied;
+}
+
+template <class Record> bool CountingRecords::edit(const std::function<void(QList<Record>&)>& action)
+{
+    return change([&](ModelContext& context) {
+        const auto before = context.records<Record>();
+        auto after = before;
+        action(after);
+        return context.replace(before, after);
+    });
 }

@@ -3,6 +3,7 @@
 
 #include "AttendanceRule.h"
 #include "Counting.h"
+#include "Retry.h"
 
 #include <QList>
 #include <QObject>
@@ -15,8 +16,9 @@ class AppSettings;
 class DayMarker;
 class ModelContext;
 
-/// What a person has chosen about how days count, and the rules of the employer. Every change is saved at once. Each
-/// operation that changes something returns false, and changes nothing, if the store cannot be read.
+/// What a person has chosen about how days count, and the rules of the employer. Every change is saved at once; if that
+/// fails, it stays in memory for the next save. Each operation that changes something returns false, and changes
+/// nothing, if the store cannot be read or there is no such kind or rule.
 class CountingRecords : public QObject {
     Q_OBJECT
 
@@ -39,18 +41,19 @@ public:
     /// The kind with this name, which is added if there is none; nothing if the name is blank or the store cannot be
     /// read. Names are trimmed, and compared without regard to case.
     std::optional<AbsenceKind> addAbsenceKind(const QString& name);
-    /// Days keep their state; those of this kind have none then. False also for a kind of the program.
+    /// Days keep their state; those of this kind have none then. False for a kind of the program.
     bool removeAbsenceKind(int kind);
 
     /// In the order of their dates.
     [[nodiscard]] QList<DayOff> daysOff() const;
-    /// A date that is a day off already gets the new name and source.
+    /// A date that is a day off already gets the new name and source, and of a date that is twice in the list the last
+    /// counts.
     bool addDaysOff(const QList<DayOff>& daysOff);
     bool removeDaysOff(const QList<QDate>& dates);
 
     [[nodiscard]] std::optional<HolidayRegion> holidayRegion() const;
-    /// Adds the holidays, and remembers the region. The holidays of another region that lie in the future, on the day
-    /// `today` or later, are removed.
+    /// Adds the holidays, and remembers the region and its last year. The holidays of another region that lie in the
+    /// future, on the day `today` or later, are removed. Days off that are no holidays stay as they are.
     bool setHolidays(const HolidayRegion& region, const QList<DayOff>& holidays, QDate today);
     /// Forgets the region. Removes its holidays from `today` on.
     bool removeHolidayRegion(QDate today);
@@ -65,25 +68,36 @@ public:
     bool addRule(AttendanceRule rule);
     /// Changes a rule for the whole time of its validity. The rule with this id must exist.
     bool changeRule(const AttendanceRule& rule);
-    /// Changes a rule from a day on: the rule with this id ends on the day before, and the changed one, with an id of
-    /// its own, follows it in the list. If the rule did not hold before that day, it is changed as by changeRule().
+    /// Changes a rule from a day on, or from the later day from which the changed one is to hold: the rule with this id
+    /// ends before it, and the changed one, with an id of its own, follows it in the list. If one of the two would
+    /// never hold, the rule is changed for the whole time.
     bool changeRule(const AttendanceRule& rule, QDate from);
     bool removeRule(const QUuid& id);
 
 Q_SIGNALS:
-    /// How days count, or a rule, has changed.
+    /// How days count, or a rule, has changed. It is emitted once for each change.
     void changed();
 
 private:
-    void read() const;
+    template <class Record> [[nodiscard]] QList<Record> stored() const;
+    void readOnce() const;
+    [[nodiscard]] bool read() const;
     void readAgain();
-    bool change(const std::function<void(ModelContext&)>& action);
+    /// Returns whether it has changed anything.
+    using Action = std::function<bool(ModelContext&)>;
+    [[nodiscard]] Action leavingOutVacation(bool leavesOut);
+    bool apply(const Action& action);
+    bool change(const Action& action);
+    template <class Record> bool edit(const std::function<void(QList<Record>&)>& action);
 
     DayMarker& m_marker;
     AppSettings& m_settings;
     QPropertyNotifier m_vacationFollower;
-    /// What is stored, as far as it could be read.
-    mutable bool m_isRead = false;
+    /// Reads what could not be read.
+    mutable Retry m_retry;
+    /// What is stored, as far as it could be read. It is read when it is wanted first, while no binding can depend on
+    /// it yet; later it changes only outside of bindings.
+    mutable bool m_isWanted = false;
     mutable QProperty<Counting> m_counting;
     mutable QProperty<QList<AttendanceRule>> m_rules;
     mutable QProperty<bool> m_leavesOutVacation{false};

@@ -6,35 +6,74 @@
 
 #include <QLoggingCategory>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 Q_LOGGING_CATEGORY(logAbsences, "pellory.marking", QtInfoMsg)
 
+constexpr std::array programKinds{AbsenceKind::sick, AbsenceKind::businessTrip, AbsenceKind::clientVisit,
+                                  AbsenceKind::training};
+
 } // namespace
+
+QList<AbsenceKind> DayAbsences::kinds() const
+{
+    QList<AbsenceKind> kinds;
+    try {
+        kinds = m_context.records<AbsenceKind>();
+    } catch (const StoreError& error) {
+        qCWarning(logAbsences, "The kinds of absence cannot be read: %s", error.what());
+    }
+    kinds.removeIf([](const AbsenceKind& kind) { return kind.isRemoved(); });
+    for (const int id : programKinds) {
+        if (std::ranges::find(kinds, id, &AbsenceKind::id) == kinds.end())
+            kinds.append(AbsenceKind{.id = id});
+    }
+    std::ranges::sort(kinds, {}, &AbsenceKind::id);
+    return kinds;
+}
+
+QString DayAbsences::describe(DayState state, int kind) const
+{
+    if (state != DayState::OUT_OF_OFFICE || kind == AbsenceKind::none)
+        return description(state);
+    const auto known = kinds();
+    const auto found = std::ranges::find(known, kind, &AbsenceKind::id);
+    return found == known.end() ? description(state)
+                                : tr("%1 (%2)", "state and reason").arg(description(state), description(*found));
+}
+
+int DayAbsences::kindOf(QDate date) const
+{
+    try {
+        return all().value(date, AbsenceKind::none);
+    } catch (const StoreError& error) {
+        qCWarning(logAbsences, "The absences cannot be read: %s", error.what());
+        return AbsenceKind::none;
+    }
+}
 
 const QHash<QDate, int>& DayAbsences::all() const
 {
-    if (m_isRead)
-        return m_kinds;
-    try {
+    if (!m_isRead) {
         for (const DayAbsence& absence : m_context.records<DayAbsence>())
             m_kinds.insert(absence.date, absence.kind);
         m_isRead = true;
-    } catch (const StoreError& error) {
-        qCWarning(logAbsences, "The kinds of absence cannot be read: %s", error.what());
     }
     return m_kinds;
 }
 
 void DayAbsences::set(QDate date, int kind)
 {
-    const int before = kindOf(date);
+    const int before = kind == AbsenceKind::none ? kindOf(date) : all().value(date, AbsenceKind::none);
     if (before == kind)
         return;
-    if (before != AbsenceKind::none)
-        m_context.remove(DayAbsence{date, before});
-    if (kind != AbsenceKind::none)
-        m_context.add(DayAbsence{date, kind});
+    const auto stored = [date](int of) {
+        return of == AbsenceKind::none ? QList<DayAbsence>() : QList{DayAbsence{date, of}};
+    };
+    m_context.replace(stored(before), stored(kind));
     if (kind == AbsenceKind::none)
         m_kinds.remove(date);
     else

@@ -99,13 +99,15 @@ qint64 DayMarker::apply(Month& month, qsizetype index, const DayMark& mark, Mark
     if (absenceBefore != absence && isRecorded)
         Q_EMIT absencesChanged();
     if (isRecorded)
-        Q_EMIT changed({group, changedBy(by), {date}, state});
+        Q_EMIT changed({group, changedBy(by), {date}, state, absence});
     return group;
 }
 
 qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup)
 {
     // Everything is read before anything changes.
+    if (std::ranges::any_of(marks, [](const DayMark& mark) { return mark.absenceKind != AbsenceKind::none; }))
+        static_cast<void>(m_absences.all());
     std::map<QDate, std::shared_ptr<Month>> months;
     for (const DayMark& mark : marks) {
         auto& month = months[firstOfMonth(mark.date)];
@@ -119,8 +121,9 @@ qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 reverte
     for (const DayMark& mark : marks) {
         const auto& month = months.at(firstOfMonth(mark.date));
         const auto before = markOn(*month, mark.date);
-        if (!before || *before == mark || !setAbsence(mark.date, mark.absenceKind))
+        if (!before || *before == mark)
             continue;
+        m_absences.set(mark.date, mark.absenceKind);
         setState(*month, mark.date, mark.state);
         m_context.insert(month);
         record({.date = mark.date,
@@ -134,6 +137,7 @@ qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 reverte
         hasOtherAbsences |= before->absenceKind != mark.absenceKind;
         result.dates.append(mark.date);
         result.state = mark.state;
+        result.absenceKind = mark.absenceKind;
     }
     if (result.dates.isEmpty())
         return 0;

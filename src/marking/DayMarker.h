@@ -34,6 +34,7 @@ struct ChangedDays {
     QList<QDate> dates = {};
     /// Of the day that changed last.
     DayState state = DayState::UNKNOWN;
+    int absenceKind = AbsenceKind::none;
 
     bool operator==(const ChangedDays&) const = default;
 };

@@ -22,6 +22,9 @@ struct AbsenceKind {
     QString name = {};
     Treatment treatment = Treatment::OutOfOffice;
 
+    /// A kind that the person has removed is stored without its name, so that its number is never used again.
+    [[nodiscard]] bool isRemoved() const { return id >= firstOwn && name.isEmpty(); }
+
     bool operator==(const AbsenceKind&) const = default;
 };
 

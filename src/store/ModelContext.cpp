@@ -212,20 +212,34 @@ template <class Record> QList<Record> ModelContext::records()
     });
 }
 
-template <class Record> void ModelContext::add(const Record& record)
+template <class Record> bool ModelContext::replace(const QList<Record>& before, const QList<Record>& after)
 {
-    withStoreErrors([&] { rowsOf<Record>().add(fieldsOf<Record>().row(record)); });
-}
-
-template <class Record> void ModelContext::remove(const Record& record)
-{
-    withStoreErrors([&] { rowsOf<Record>().remove(fieldsOf<Record>().row(record)); });
+    return withStoreErrors([&] {
+        const auto fields = fieldsOf<Record>();
+        QList<Row> removed;
+        QList<Row> added;
+        for (const Record& record : before) {
+            if (!after.contains(record))
+                removed.append(fields.row(record));
+        }
+        for (const Record& record : after) {
+            if (before.contains(record))
+                continue;
+            added.append(fields.row(record));
+            static_cast<void>(fields.record(added.last())); // what could not be read later must not be stored
+        }
+        RowSet& rows = rowsOf<Record>();
+        for (const Row& row : removed)
+            rows.remove(row);
+        for (const Row& row : added)
+            rows.add(row);
+        return !removed.isEmpty() || !added.isEmpty();
+    });
 }
 
 #define PELLORY_SMALL_RECORDS(Record)                                                                                  \
     template QList<Record> ModelContext::records();                                                                    \
-    template void ModelContext::add(const Record&);                                                                    \
-    template void ModelContext::remove(const Record&)
+    template bool ModelContext::replace(const QList<Record>&, const QList<Record>&)
 
 PELLORY_SMALL_RECORDS(AbsenceKind);
 PELLORY_SMALL_RECORDS(AttendanceRule);

@@ -61,12 +61,14 @@ public:
     /// Of the changes before a time, in milliseconds since 1970, keeps only the last of each day.
     void thinChanges(qint64 before);
 
-    /// The records of a kind that are few and never change, such as days off, in the order in which they were added. To
-    /// change one, remove it and add another. Reading them throws a StoreError if the store cannot be read; all three
-    /// read them at first use.
+    /// The records of a kind that are few and never change, such as days off, in the order in which they were added.
+    /// They are read at first use. All operations throw a StoreError if the store cannot be read.
     template <class Record> [[nodiscard]] QList<Record> records();
-    template <class Record> void add(const Record& record);
-    template <class Record> void remove(const Record& record);
+    /// Removes what is only in `before`, and adds what is only in `after`, with the next save. False if there is
+    /// nothing of either. Throws a StoreError, and changes nothing, if a record has a value that cannot be stored.
+    template <class Record> bool replace(const QList<Record>& before, const QList<Record>& after);
+    template <class Record> void add(const Record& record) { replace<Record>({}, {record}); }
+    template <class Record> void remove(const Record& record) { replace<Record>({record}, {}); }
 
     /// Adds a record. Goals are added with the settings that list them, and deleted by the save of settings after which
     /// no settings list them. Inserting a removed record before the next save takes the removal back.

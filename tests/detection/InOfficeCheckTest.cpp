@@ -98,6 +98,22 @@ TEST_F(InOfficeCheckTest, marksDaysThatAreUnknownOrPlannedAndNoOthers)
     }
 }
 
+TEST_F(InOfficeCheckTest, marksTheLastDayThatWasAWorkday)
+{
+    clock.beginDay({2026, 11, 23}); // a Monday
+    client.networks = {};
+    // A day off, the weekdays that are worked, and the day that is marked.
+    const std::tuple<QDate, Weekdays, QDate> rows[]{{{2026, 11, 21}, Weekdays::mondayToFriday(), {2026, 11, 20}},
+                                                    {{2026, 11, 20}, Weekdays::mondayToFriday(), {2026, 11, 19}},
+                                                    {{2026, 11, 19}, Weekdays(0b111), {2026, 11, 18}},
+                                                    {{2026, 11, 18}, Weekdays::all(), {2026, 11, 22}}};
+    for (const auto& [dayOff, worked, marked] : rows) {
+        EXPECT_TRUE(counting.addDaysOff({{dayOff}}) && counting.setWorkWeek({{2026, 11, 1}, worked}));
+        checkNow();
+        EXPECT_EQ(logged.last(), u"Logged as out of office on "_s + marked.toString(u"yyyy-M-d"_s));
+    }
+}
+
 TEST_F(InOfficeCheckTest, findsAnOfficeByItsWholeNameAndTheSameCharacters)
 {
     // The offices, what is in range, and whether that is one of them. A network without a name is hidden.

@@ -43,6 +43,8 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         ModelContext& context = container->mainContext();
         const auto march = context.fetchMonths(2026, 3).first();
         const auto note = context.fetchNotes({2026, 3, 31}, {2026, 3, 31}).first();
+        const auto daysOff = context.records<DayOff>() + QList{DayOff{{2026, 4, 6}}};
+        context.add(daysOff.last());
         if (!isOverwritten)
             QFile::remove(path);
         if (there != none)
@@ -62,6 +64,8 @@ TEST_F(SaveStateTest, anotherFileIsKeptAsideWhenThePersonKeepsTheirRecords)
         EXPECT_TRUE(there == none || bytes(u".replaced"_s) == there);
         EXPECT_EQ(files().size(), there == none ? 1 : 2);
         EXPECT_EQ(context.fetchMonths().size(), months);
+        EXPECT_EQ(context.records<DayOff>(), daysOff);
+        EXPECT_EQ(context.records<WorkWeek>().size(), there == damaged ? 0 : 1) << "which was not read before";
         EXPECT_EQ(context.fetchNotes({2026, 3, 1}, {2026, 3, 31}), QList{note});
         EXPECT_EQ(changes(context).size(), there == damaged ? 1 : 2);
         mark(*march, 30, DayState::IN_OFFICE);
