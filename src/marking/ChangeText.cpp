@@ -21,9 +21,9 @@ QString dayText(QDate date, QDate today)
     return QLocale().toString(date, format);
 }
 
-QString whatChanged(const ChangedDays& change, QDate today)
+QString whatChanged(const ChangedDays& change, QDate today, const DayAbsences& absences)
 {
-    const QString state = description(change.state);
+    const QString state = absences.describe(change.state, change.absenceKind);
     const int count = static_cast<int>(change.dates.size());
     if (count == 1) {
         const QString day = dayText(change.dates.first(), today);
@@ -37,11 +37,11 @@ QString whatChanged(const ChangedDays& change, QDate today)
 
 } // namespace
 
-QString changeText(const QList<ChangedDays>& changes, QDate today)
+QString changeText(const QList<ChangedDays>& changes, QDate today, const DayAbsences& absences)
 {
     QStringList parts;
     for (const ChangedDays& change : changes)
-        parts += whatChanged(change, today);
+        parts += whatChanged(change, today, absences);
     QString what = parts.join(QStringLiteral(", "));
     switch (changes.last().by) {
     case ChangedBy::Check:

@@ -47,10 +47,10 @@ QWidget* makeColumn(int spacing)
     return widget;
 }
 
-QWidget* makeState(const Day& day, const QString& how)
+QWidget* makeState(const Day& day, const QString& what, const QString& how)
 {
     auto* texts = makeColumn(1);
-    texts->layout()->addWidget(labels::text(description(day.state)));
+    texts->layout()->addWidget(labels::text(what));
     if (!how.isEmpty())
         texts->layout()->addWidget(labels::dim(how));
     auto* state = new QWidget;
@@ -149,13 +149,13 @@ void DayDetails::showStates()
 {
     QList<PastState> states = DayHistory::states(m_history.changesOf(m_date));
     QString how;
-    if (!states.isEmpty() && states.first().state == day().state)
+    if (!states.isEmpty() && isCurrent(states.first()))
         how = DayHistory::describe(states.takeFirst(), m_clock.today());
     else if (states.isEmpty() && day().state != DayState::UNKNOWN)
         how = tr("Set before changes were recorded");
-    const QString state = description(day().state);
+    const QString state = m_marker.absences().describe(day().state, m_marker.absences().kindOf(m_date));
     setAccessibleDescription(how.isEmpty() ? state : tr("%1. %2", "state, and who set it when").arg(state, how));
-    replaceContents(*m_current, makeState(day(), how));
+    replaceContents(*m_current, makeState(day(), state, how));
     m_earlier->setVisible(!states.isEmpty());
     if (!states.isEmpty())
         replaceContents(*m_earlier, makeEarlierStates(states));
@@ -201,21 +201,31 @@ QWidget* DayDetails::makeEarlierState(const PastState& state)
     Day then = day();
     then.state = state.state;
     const QString how = DayHistory::describe(state, m_clock.today());
-    QWidget* row = makeState(then, how);
-    if (then == day())
+    const QString name = m_marker.absences().describe(state.state, state.absenceKind);
+    QWidget* row = makeState(then, name, how);
+    if (isCurrent(state))
         return row;
     auto* button = new LinkButton(tr("Set Back"));
-    button->setAccessibleName(tr("Set back to %1. %2", "state, and who set it when").arg(description(then.state), how));
-    connect(button, &QAbstractButton::clicked, this, [this, then] { setBack(then.state); });
+    button->setAccessibleName(tr("Set back to %1. %2", "state, and who set it when").arg(name, how));
+    connect(button, &QAbstractButton::clicked, this, [this, state] { setBack(state); });
     row->layout()->addWidget(button);
     return row;
 }
 
-// As an undo of today's check, so that the next check does not set the state again.
-void DayDetails::setBack(DayState state)
+bool DayDetails::isCurrent(const PastState& state) const
 {
-    if (m_date != m_clock.today() || !m_history.undoCheck(m_date, state))
-        m_marker.mark(*m_place.month, m_place.index, state, MarkedBy::Click);
+    return m_marker.markOn(*m_place.month, m_date) == DayMark{m_date, state.state, state.absenceKind};
+}
+
+// As an undo of today's check, so that the next check does not set the state again.
+void DayDetails::setBack(const PastState& state)
+{
+    if (m_date == m_clock.today() && m_history.undoCheck(m_date, state.state))
+        return;
+    if (state.absenceKind != AbsenceKind::none)
+        m_marker.markAbsence(*m_place.month, m_place.index, state.absenceKind);
+    else
+        m_marker.mark(*m_place.month, m_place.index, state.state, MarkedBy::Click);
 }
 
 void DayDetails::saveNote()

@@ -15,7 +15,6 @@ class Month;
 class QLabel;
 class TextArea;
 class UndoHistory;
-enum class DayState;
 struct Day;
 struct PastState;
 
@@ -42,7 +41,8 @@ private:
     void followStates();
     [[nodiscard]] QWidget* makeEarlierStates(const QList<PastState>& states);
     [[nodiscard]] QWidget* makeEarlierState(const PastState& state);
-    void setBack(DayState state);
+    [[nodiscard]] bool isCurrent(const PastState& state) const;
+    void setBack(const PastState& state);
     void saveNote();
 
     DayMarker& m_marker;

@@ -10,17 +10,20 @@ QList<PastState> DayHistory::states(const QList<DayChange>& changes)
 {
     QList<DayChange> steps;
     for (const DayChange& change : changes) {
-        if (!steps.isEmpty() && steps.last().group == change.group)
+        if (!steps.isEmpty() && steps.last().group == change.group) {
             steps.last().before = change.before;
-        else
+            steps.last().absenceBefore = change.absenceBefore;
+        } else {
             steps.append(change);
+        }
     }
-    steps.removeIf([](const DayChange& step) { return step.before == step.after; });
+    steps.removeIf(
+        [](const DayChange& step) { return step.before == step.after && step.absenceBefore == step.absenceAfter; });
     QList<PastState> states;
     for (const DayChange& step : steps)
-        states.append({step.after, step});
+        states.append({step.after, step.absenceAfter, step});
     if (!steps.isEmpty())
-        states.append({steps.last().before, {}});
+        states.append({steps.last().before, steps.last().absenceBefore, {}});
     return states;
 }
 

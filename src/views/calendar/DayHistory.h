@@ -11,6 +11,8 @@
 /// A state that a day had.
 struct PastState {
     DayState state = DayState::UNKNOWN;
+    /// See AbsenceKind.
+    int absenceKind = 0;
     /// What set it; unknown for the state before the first recorded change.
     std::optional<DayChange> setBy = {};
 

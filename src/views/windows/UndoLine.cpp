@@ -18,6 +18,7 @@
 
 UndoLine::UndoLine(DayMarker& marker, UndoHistory& history, const Clock& clock, QStackedWidget& pages)
     : QObject(&pages)
+    , m_marker(marker)
     , m_history(history)
     , m_clock(clock)
     , m_pages(pages)
@@ -62,7 +63,7 @@ void UndoLine::showChanges()
 {
     if (std::exchange(m_isShown, true)) // a later key has found nothing, which is shown
         return;
-    const QString text = changeText(m_changes, m_clock.today());
+    const QString text = changeText(m_changes, m_clock.today(), m_marker.absences());
     line().showText(text, m_changes.last().by == ChangedBy::Undo ? tr("Redo") : tr("Undo"));
     if (!isSaidByDay())
         announce(line(), text);
@@ -107,12 +108,13 @@ void UndoLine::makeRoom()
 
 bool UndoLine::isAsBefore(const ChangedDays& change) const
 {
-    DayState before = change.state;
+    const std::pair after(change.state, change.absenceKind);
+    auto before = after;
     for (const DayChange& each : m_history.changesOf(change.dates.first())) {
         if (each.group == change.group)
-            before = each.before; // at last that of the first change
+            before = {each.before, each.absenceBefore}; // at last those of the first change
     }
-    return before == change.state;
+    return before == after;
 }
 
 bool UndoLine::isSaidByDay() const

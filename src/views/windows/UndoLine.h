@@ -38,6 +38,7 @@ private:
     [[nodiscard]] CalendarPage& page() const;
     [[nodiscard]] FootLine& line();
 
+    const DayMarker& m_marker;
     UndoHistory& m_history;
     const Clock& m_clock;
     QStackedWidget& m_pages;

@@ -35,12 +35,20 @@ TEST(DayHistoryTest, aGroupIsOneStepAndOneThatLedNowhereIsNone)
     const auto second = change(at({2027, 1, 2}), IN_OFFICE, VACATION_DAY, ChangedBy::Hand, 3);
     const auto there = change(at(day), VACATION_DAY, UNKNOWN, ChangedBy::Hand, 4);
     const auto back = change(at(day), UNKNOWN, VACATION_DAY, ChangedBy::Hand, 4);
+    auto training = change(at(day), OUT_OF_OFFICE, OUT_OF_OFFICE, ChangedBy::Hand, 6);
+    auto trip = change(at(day), VACATION_DAY, OUT_OF_OFFICE, ChangedBy::Hand, 5);
+    training.absenceBefore = trip.absenceAfter = 2;
+    training.absenceAfter = 4;
     QStringList texts;
-    for (const PastState& state : DayHistory::states({back, there, second, first, undo, check}))
+    for (const PastState& state : DayHistory::states({training, trip, back, there, second, first, undo, check})) {
         texts += rawValue(state.state) + u' ' + DayHistory::describe(state, {2026, 11, 21});
-    EXPECT_THAT(texts, testing::ElementsAre(u"VACATION_DAY By hand, 2 January 2027, 18:03:00"_s,
-                                            u"UNKNOWN Undone, 20 November, 18:03:00"_s,
-                                            u"IN_OFFICE Automatically, 18:03:00, Head Office"_s,
-                                            u"UNKNOWN Before the first recorded change"_s));
+        if (state.absenceKind != 0)
+            texts.last() += u' ' + QString::number(state.absenceKind);
+    }
+    EXPECT_THAT(
+        texts, testing::ElementsAre(
+                   u"OUT_OF_OFFICE By hand, 18:03:00 4"_s, u"OUT_OF_OFFICE By hand, 18:03:00 2"_s,
+                   u"VACATION_DAY By hand, 2 January 2027, 18:03:00"_s, u"UNKNOWN Undone, 20 November, 18:03:00"_s,
+                   u"IN_OFFICE Automatically, 18:03:00, Head Office"_s, u"UNKNOWN Before the first recorded change"_s));
     EXPECT_EQ(DayHistory::states({}), QList<PastState>());
 }

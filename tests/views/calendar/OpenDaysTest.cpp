@@ -55,6 +55,14 @@ TEST_F(OpenDaysTest, areCountedFromTheFirstMarkedDayToYesterday)
          },
          1},
         {[&] { page.next(); }, 10},
+        {[&] {
+             counting.addDaysOff({{{2026, 11, 4}}});
+         },
+         9},
+        {[&] {
+             counting.setWorkWeek({{2026, 11, 9}, Weekdays(1)});
+         },
+         5}, // Mondays
     };
     const QPoint place = inWindow(grid);
     for (const auto& [action, count] : rows) {

@@ -32,6 +32,9 @@ TEST_F(UndoLineTest, saysWhatChangedAndTakesItBackByKeyAndLink)
     const auto redo = [&] { press(window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); };
     const auto link = [&] { click(named<QWidget>(window, "footLink")); };
     const auto set = [&](const QList<DayMark>& marks, ChangedBy by) { return [=, this] { marker.mark(marks, by); }; };
+    const auto absent = [&](int kind) {
+        return set({{{2026, 11, 19}, DayState::OUT_OF_OFFICE, kind}}, ChangedBy::Hand);
+    };
     const DayState off = DayState::VACATION_DAY;
     const std::pair<std::function<void()>, QString> rows[]{
         {undo, u"Nothing to undo"_s},
@@ -45,6 +48,9 @@ TEST_F(UndoLineTest, saysWhatChangedAndTakesItBackByKeyAndLink)
          },
          u"Marked automatically: Tue 17 November: Vacation Day, Tue 4 March 2025: Vacation Day"_s},
         {link, u"Taken back: Tue 4 March 2025 is Unknown again, Tue 17 November is Unknown again"_s},
+        {absent(AbsenceKind::sick), u"Thu 19 November: Out of Office (Sick)"_s},
+        {absent(AbsenceKind::none), u"Thu 19 November: Out of Office"_s},
+        {undo, u"Taken back: Thu 19 November is Out of Office (Sick) again"_s},
         {set({{{2026, 3, 2}, off}, {{2026, 3, 3}, off}}, ChangedBy::Restore), u"Restored: 2 days"_s},
         {set({{{2025, 2, 3}, off}, {{2025, 2, 4}, off}}, ChangedBy::Hand), u"2 days: Vacation Day"_s},
         {undo, u"Taken back: 2 days"_s},
