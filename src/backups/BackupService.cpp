@@ -43,6 +43,11 @@ BackupService::~BackupService()
     m_worker.waitForDone();
 }
 
+const DayAbsences& BackupService::absences() const
+{
+    return m_marker.absences();
+}
+
 void BackupService::start()
 {
     connect(&m_marker.context(), &ModelContext::saved, this, &BackupService::waitForQuiet);
@@ -178,7 +183,7 @@ void BackupService::restore(const QList<DayDifference>& days)
 {
     QList<DayMark> marks;
     for (const DayDifference& day : days)
-        marks.append({day.date, day.after});
+        marks.append({day.date, day.after, day.absenceAfter});
     // The backup that the days come from must not go.
     make(Thinning::No, [this, marks](const StoreError* error) {
         try {

@@ -15,6 +15,7 @@
 #include <optional>
 
 class Clock;
+class DayAbsences;
 class DayMarker;
 class ModelContext;
 class StoreError;
@@ -34,6 +35,8 @@ public:
     void start();
 
     [[nodiscard]] const BackupFolder& folder() const { return m_folder; }
+    /// Names the kinds of absence that days had.
+    [[nodiscard]] const DayAbsences& absences() const;
 
     /// Ends with made() or failed().
     void makeNow();

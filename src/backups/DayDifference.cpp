@@ -5,9 +5,11 @@ QList<DayDifference> differences(const DayStates& now, const DayStates& inBackup
 {
     QList<DayDifference> days;
     for (auto day = inBackup.begin(); day != inBackup.end(); ++day) {
-        const DayState before = now.value(day.key(), DayState::UNKNOWN);
-        if (before != day.value())
-            days.append({day.key(), before, day.value()});
+        const StoredDay before = now.value(day.key());
+        const bool hasOtherKind = day->absenceKind && day->absenceKind != before.absenceKind;
+        if (before.state != day->state || hasOtherKind)
+            days.append(
+                {day.key(), before.state, day->state, before.absenceKind.value_or(0), day->absenceKind.value_or(0)});
     }
     return days;
 }

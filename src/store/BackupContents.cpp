@@ -17,6 +17,7 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -35,20 +36,43 @@ void add(DayStates& states, QSet<QDate>& months, int year, int month, const QLis
     for (const Day& day : days) {
         const QDate date(year, month, static_cast<int>(day.id));
         if (day.isInMonth() && date.isValid())
-            states[date] = day.state;
+            states[date] = {day.state};
     }
 }
 
-DayStates readMonths(SQLite::Database& database, const TableLayout& table)
+void readRows(SQLite::Database& database, const TableLayout& table, const std::function<void(const Row&)>& take)
+{
+    SQLite::Statement rows(database, table.selectSql());
+    while (rows.executeStep())
+        take(readRow(rows, table));
+}
+
+void addAbsences(DayStates& states, SQLite::Database& database, const Schema& schema)
+{
+    const auto table = std::ranges::find(schema.tables, fieldsOf<DayAbsence>().table, &TableLayout::name);
+    for (StoredDay& day : states) {
+        if (table == schema.tables.end() && day.state == DayState::OUT_OF_OFFICE)
+            day.absenceKind.reset();
+    }
+    if (table == schema.tables.end())
+        return;
+    readRows(database, *table, [&](const Row& row) {
+        const auto day = states.find(valueOf<QDate>(row, *table, "date"));
+        if (day != states.end() && day->state == DayState::OUT_OF_OFFICE)
+            day->absenceKind = valueOf<int>(row, *table, "kind");
+    });
+}
+
+DayStates readDays(SQLite::Database& database, const Schema& schema)
 {
     DayStates states;
     QSet<QDate> months;
-    SQLite::Statement rows(database, table.selectSql());
-    while (rows.executeStep()) {
-        const Row row = readRow(rows, table);
+    const TableLayout& table = *std::ranges::find(schema.tables, monthFields().table, &TableLayout::name);
+    readRows(database, table, [&](const Row& row) {
         add(states, months, valueOf<int>(row, table, "year"), valueOf<int>(row, table, "month"),
             valueOf<QList<Day>>(row, table, "days"));
-    }
+    });
+    addAbsences(states, database, schema);
     return states;
 }
 
@@ -76,7 +100,7 @@ DayStates readStore(const QString& path, const std::stop_token& stop)
     DayStates states;
     try {
         readUnlocked(
-            path, [&](SQLite::Database& store) { states = readMonths(store, monthFields().layout()); }, stop);
+            path, [&](SQLite::Database& store) { states = readDays(store, pellorySchema()); }, stop);
     } catch (const SQLite::Exception& error) {
         throw storeError(error);
     }
@@ -92,9 +116,7 @@ DayStates readBackup(const QString& path)
         const int version = verifyStore(backup, schema);
         if (version == schema.version())
             verifySettings(backup);
-        const Schema stored = schema.atVersion(version);
-        const std::string name = monthFields().table;
-        return readMonths(backup, *std::ranges::find(stored.tables, name, &TableLayout::name));
+        return readDays(backup, schema.atVersion(version));
     } catch (const SQLite::Exception& error) {
         throw storeError(error);
     }

@@ -79,16 +79,21 @@ TEST_F(BackupServiceTest, makesOneBackupOnEachDayWithAChangeAndTriesAgainAfterAF
 
 TEST_F(BackupServiceTest, restoresDaysAsOneUndoStepAfterABackup)
 {
+    const QDate second(2026, 11, 2);
+    marker.mark({{second, DayState::OUT_OF_OFFICE, AbsenceKind::sick}}, ChangedBy::Hand);
     mark(3, DayState::OUT_OF_OFFICE);
     service->makeNow();
     ASSERT_TRUE(eventually([&] { return made == 1; }));
     const QString file = service->folder().backups().first().path;
+    marker.mark({{second, DayState::OUT_OF_OFFICE, AbsenceKind::training}}, ChangedBy::Hand);
     mark(3, DayState::VACATION_DAY);
     mark(4, DayState::IN_OFFICE);
     marker.mark({{{2027, 1, 4}, DayState::IN_OFFICE}}, ChangedBy::Hand); // a month that the backup does not hold
     const auto before = states();
     const auto differing = service->compare(file).result();
-    EXPECT_EQ(differing, (QList<DayDifference>{{{2026, 11, 3}, DayState::VACATION_DAY, DayState::OUT_OF_OFFICE},
+    EXPECT_EQ(differing, (QList<DayDifference>{{second, DayState::OUT_OF_OFFICE, DayState::OUT_OF_OFFICE,
+                                                AbsenceKind::training, AbsenceKind::sick},
+                                               {{2026, 11, 3}, DayState::VACATION_DAY, DayState::OUT_OF_OFFICE},
                                                {{2026, 11, 4}, DayState::IN_OFFICE, DayState::UNKNOWN}}));
 
     const QString backups = service->folder().path();
@@ -104,6 +109,13 @@ TEST_F(BackupServiceTest, restoresDaysAsOneUndoStepAfterABackup)
     EXPECT_EQ(readBackup(service->folder().backups().first().path), before);
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(states(), before);
+    DayStates old = before; // as in a backup from before there were kinds
+    for (StoredDay& day : old)
+        day.absenceKind.reset();
+    EXPECT_EQ(differences(before, old), QList<DayDifference>());
+    old[second].state = DayState::IN_OFFICE;
+    EXPECT_EQ(differences(before, old), (QList<DayDifference>{{second, DayState::OUT_OF_OFFICE, DayState::IN_OFFICE,
+                                                               AbsenceKind::training, AbsenceKind::none}}));
 }
 
 TEST_F(BackupServiceTest, putsTheNewestSoundBackupInTheStoresPlace)
@@ -126,5 +138,5 @@ TEST_F(BackupServiceTest, putsTheNewestSoundBackupInTheStoresPlace)
     service.reset(); // abandons it
     container = std::make_unique<ModelContainer>(configuration);
     EXPECT_EQ(states(), backedUp);
-    EXPECT_EQ(readBackup(kept)[QDate(2026, 11, 2)], DayState::OUT_OF_OFFICE);
+    EXPECT_EQ(readBackup(kept)[QDate(2026, 11, 2)].state, DayState::OUT_OF_OFFICE);
 }

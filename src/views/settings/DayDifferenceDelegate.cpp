@@ -36,8 +36,14 @@ DayDifferenceDelegate::DayDifferenceDelegate(const QFont& font, QObject* parent)
         }
     }
     for (const DayState state : allDayStates)
-        m_stateWidth = qMax(m_stateWidth, metrics.horizontalAdvance(description(state)));
-    m_stateWidth += m_swatch.width() + differenceGap;
+        makeRoomFor({description(state)});
+}
+
+void DayDifferenceDelegate::makeRoomFor(const QStringList& states)
+{
+    const QFontMetrics metrics(m_font);
+    for (const QString& state : states)
+        m_stateWidth = qMax(m_stateWidth, m_swatch.width() + differenceGap + metrics.horizontalAdvance(state));
 }
 
 bool DayDifferenceDelegate::setWidth(int width)
@@ -60,10 +66,9 @@ void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
 {
     QStyleOptionViewItem row = option;
     row.state.setFlag(QStyle::State_HasFocus, false);
-    const QVariant found = index.data(RestoreModel::differenceRole);
     painter->save();
-    if (found.isValid())
-        paintDay(*painter, row, found.value<DayDifference>());
+    if (index.data(RestoreModel::differenceRole).isValid())
+        paintDay(*painter, row, index);
     else
         QStyledItemDelegate::paint(painter, row, index);
     PlainTree::drawRing(*painter, option);
@@ -71,8 +76,10 @@ void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
 }
 
 void DayDifferenceDelegate::paintDay(QPainter& painter, const QStyleOptionViewItem& option,
-                                     const DayDifference& day) const
+                                     const QModelIndex& index) const
 {
+    const auto day = index.data(RestoreModel::differenceRole).value<DayDifference>();
+    const bool isWorkday = isMondayToFriday(day.date);
     const QRect whole = option.rect.adjusted(differenceGap, linePadding / 2, -differenceGap, -linePadding / 2);
     const auto place = [&](QRect area) { return QStyle::visualRect(option.direction, whole, area); };
     const QRect date(whole.topLeft(), QSize(m_dateWidth, m_isNarrow ? lineHeight() : whole.height()));
@@ -84,22 +91,24 @@ void DayDifferenceDelegate::paintDay(QPainter& painter, const QStyleOptionViewIt
     const int edge = static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter);
     painter.drawText(place(date), edge, QLocale().toString(day.date, RestoreModel::tr("ddd d MMMM")));
     states.setWidth(stateWidth);
-    paintState(painter, option, place(states), day.before, day.date);
+    paintState(painter, option, place(states), {day.date.day(), day.before, isWorkday},
+               index.data(RestoreModel::beforeRole).toString());
     const QRect arrow(states.right() + 1, states.top(), arrowWidth, states.height());
     painter.setPen(option.palette.color(QPalette::PlaceholderText));
     painter.drawText(place(arrow), Qt::AlignCenter, QString(option.direction == Qt::LeftToRight ? u'→' : u'←'));
     states.moveLeft(arrow.right() + 1);
-    paintState(painter, option, place(states), day.after, day.date);
+    paintState(painter, option, place(states), {day.date.day(), day.after, isWorkday},
+               index.data(RestoreModel::afterRole).toString());
 }
 
 void DayDifferenceDelegate::paintState(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
-                                       DayState state, QDate date) const
+                                       const Day& day, const QString& name) const
 {
     const QRect swatch = QStyle::alignedRect(option.direction, Qt::AlignLeft | Qt::AlignVCenter, m_swatch, area);
-    drawDaySwatch(painter, swatch, themeFor(option.palette), {date.day(), state, isMondayToFriday(date)});
+    drawDaySwatch(painter, swatch, themeFor(option.palette), day);
     const QRect words =
         QStyle::visualRect(option.direction, area, area.adjusted(m_swatch.width() + differenceGap, 0, 0, 0));
     painter.setPen(option.palette.color(QPalette::WindowText));
     const int edge = static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter);
-    painter.drawText(words, edge, painter.fontMetrics().elidedText(description(state), Qt::ElideRight, words.width()));
+    painter.drawText(words, edge, painter.fontMetrics().elidedText(name, Qt::ElideRight, words.width()));
 }

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "DayState.h"
-
-#include <QDate>
 #include <QStyledItemDelegate>
 
-struct DayDifference;
+struct Day;
 
 /// Draws the rows of a RestoreModel: a day with its state before and after as marks and words.
 class DayDifferenceDelegate : public QStyledItemDelegate {
@@ -15,6 +12,8 @@ class DayDifferenceDelegate : public QStyledItemDelegate {
 public:
     explicit DayDifferenceDelegate(const QFont& font, QObject* parent = nullptr);
 
+    /// Widens the room of a state so that each of these fits.
+    void makeRoomFor(const QStringList& states);
     /// Sets the room that a day has. Where it is narrow, the states stand below the date. Returns whether the height of
     /// rows has changed.
     bool setWidth(int width);
@@ -23,9 +22,9 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    void paintDay(QPainter& painter, const QStyleOptionViewItem& option, const DayDifference& day) const;
-    void paintState(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area, DayState state,
-                    QDate date) const;
+    void paintDay(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    void paintState(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area, const Day& day,
+                    const QString& name) const;
     [[nodiscard]] int lineHeight() const;
 
     QFont m_font;

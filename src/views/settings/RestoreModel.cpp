@@ -2,6 +2,7 @@
 #include "RestoreModel.h"
 
 #include "BackupTexts.h"
+#include "DayAbsences.h"
 
 #include <QLocale>
 
@@ -19,9 +20,10 @@ bool isSameMonth(QDate a, QDate b)
 
 } // namespace
 
-RestoreModel::RestoreModel(QList<DayDifference> days, QObject* parent)
+RestoreModel::RestoreModel(QList<DayDifference> days, const DayAbsences& absences, QObject* parent)
     : QAbstractItemModel(parent)
     , m_days(std::move(days))
+    , m_absences(absences)
 {
     for (qsizetype i = 0; i < m_days.size(); ++i) {
         if (i == 0 || !isSameMonth(m_days.at(i - 1).date, m_days.at(i).date))
@@ -29,6 +31,25 @@ RestoreModel::RestoreModel(QList<DayDifference> days, QObject* parent)
         ++m_months.last().dayCount;
     }
     m_allRows = m_months.size() > 1 ? 1 : 0;
+}
+
+QStringList RestoreModel::stateNames() const
+{
+    QStringList names;
+    for (const DayDifference& day : m_days)
+        names << before(day) << after(day);
+    names.removeDuplicates();
+    return names;
+}
+
+QString RestoreModel::before(const DayDifference& day) const
+{
+    return m_absences.describe(day.before, day.absenceBefore);
+}
+
+QString RestoreModel::after(const DayDifference& day) const
+{
+    return m_absences.describe(day.after, day.absenceAfter);
 }
 
 QList<DayDifference> RestoreModel::checkedDays() const
@@ -98,11 +119,13 @@ QVariant RestoreModel::data(const QModelIndex& index, int role) const
     const DayDifference& day = m_days.at(monthAt(index.parent()).firstDay + index.row());
     if (role == differenceRole)
         return QVariant::fromValue(day);
+    if (role == beforeRole || role == afterRole)
+        return role == beforeRole ? before(day) : after(day);
     if (role != Qt::DisplayRole)
         return {};
     //: A short date, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     return tr("%1: %2 → %3", "date, state now, state in the backup")
-        .arg(QLocale().toString(day.date, tr("ddd d MMMM")), description(day.before), description(day.after));
+        .arg(QLocale().toString(day.date, tr("ddd d MMMM")), before(day), after(day));
 }
 
 QVariant RestoreModel::monthData(const MonthRows& month, int role) const

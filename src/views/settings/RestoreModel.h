@@ -5,17 +5,24 @@
 
 #include <QAbstractItemModel>
 
+class DayAbsences;
+
 /// The days that restoring a backup would change, by month. Months can be unchecked, and all at once in the first row
 /// if there are several.
 class RestoreModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
-    /// The DayDifference of a day's row.
+    /// Of a day's row: the DayDifference, and what the day is now and in the backup, in words.
     static constexpr int differenceRole = Qt::UserRole;
+    static constexpr int beforeRole = Qt::UserRole + 1;
+    static constexpr int afterRole = Qt::UserRole + 2;
 
     /// The days are in order.
-    explicit RestoreModel(QList<DayDifference> days, QObject* parent = nullptr);
+    RestoreModel(QList<DayDifference> days, const DayAbsences& absences, QObject* parent = nullptr);
+
+    /// The words of all days, each once.
+    [[nodiscard]] QStringList stateNames() const;
 
     /// The days of the checked months.
     [[nodiscard]] QList<DayDifference> checkedDays() const;
@@ -41,10 +48,13 @@ private:
 
     [[nodiscard]] bool isAllRow(const QModelIndex& index) const;
     [[nodiscard]] const MonthRows& monthAt(const QModelIndex& index) const;
+    [[nodiscard]] QString before(const DayDifference& day) const;
+    [[nodiscard]] QString after(const DayDifference& day) const;
     [[nodiscard]] QVariant monthData(const MonthRows& month, int role) const;
     [[nodiscard]] Qt::CheckState allChecked() const;
 
     QList<DayDifference> m_days;
+    const DayAbsences& m_absences;
     QList<MonthRows> m_months;
     /// How many rows stand above the months.
     int m_allRows;

@@ -3,6 +3,10 @@
 
 #include "DayDifferenceDelegate.h"
 #include "Fonts.h"
+#include "RestoreModel.h"
+#include "ThinScrollBarStyle.h"
+
+#include <QFocusEvent>
 
 RestoreTree::RestoreTree(QWidget* parent)
     : PlainTree(parent)
@@ -15,6 +19,12 @@ RestoreTree::RestoreTree(QWidget* parent)
 void RestoreTree::setModel(QAbstractItemModel* model)
 {
     PlainTree::setModel(model);
+
+    QTreeView::setModel(model);
+    if (const auto* days = qobject_cast<RestoreModel*>(model)) {
+        m_delegate->makeRoomFor(days->stateNames());
+        fitDays();
+    }
     expandAll();
     setCurrentIndex(model->index(0, 0));
 }
@@ -27,6 +37,13 @@ QSize RestoreTree::sizeHint() const
 void RestoreTree::resizeEvent(QResizeEvent* event)
 {
     PlainTree::resizeEvent(event);
+
+    QTreeView::resizeEvent(event);
+    fitDays();
+}
+
+void RestoreTree::fitDays()
+{
     if (m_delegate->setWidth(viewport()->width() - 2 * indentation()))
         scheduleDelayedItemsLayout();
 }

@@ -20,5 +20,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void fitDays();
+
     DayDifferenceDelegate* m_delegate;
 };

@@ -76,7 +76,7 @@ void RestoreView::showDays()
         say(tr("Every day is as it was in this backup. There is nothing to restore."));
         return;
     }
-    m_model = new RestoreModel(days, this);
+    m_model = new RestoreModel(days, m_backups.absences(), this);
     m_tree->setModel(m_model);
     connect(m_model, &RestoreModel::checkedChanged, this, &RestoreView::refreshButton);
     refreshButton();

@@ -52,7 +52,7 @@ void LostDataAlert::showContents()
         QSet<QDate> months;
         qsizetype days = 0;
         for (auto day = states.begin(); day != states.end(); ++day) {
-            if (day.value() == DayState::UNKNOWN)
+            if (day->state == DayState::UNKNOWN)
                 continue;
             ++days;
             months.insert(day.key().addDays(1 - day.key().day()));

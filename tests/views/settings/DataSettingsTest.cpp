@@ -60,7 +60,7 @@ TEST_F(DataSettingsTest, theChosenMonthsOfABackupAreRestoredAsOneStep)
     click(named<Button>(view, "backUp"));
     EXPECT_TRUE(waitFor(u"Backed up at 09:00"_s));
     EXPECT_TRUE(waitFor(u"same as now"_s));
-    set(october, DayState::OUT_OF_OFFICE);
+    marker.mark({{october, DayState::OUT_OF_OFFICE, AbsenceKind::sick}}, ChangedBy::Hand);
     set(november, DayState::VACATION_DAY);
     view.hide();
     show(view);
@@ -75,7 +75,7 @@ TEST_F(DataSettingsTest, theChosenMonthsOfABackupAreRestoredAsOneStep)
     for (QModelIndex row = tree.model()->index(0, 0); row.isValid(); row = tree.indexBelow(row))
         rows.append(row.data().toString());
     EXPECT_EQ(rows, (QStringList{u"All Months"_s, u"October 2026: 1 day"_s,
-                                 u"Fri 30 October: Out of Office → In the Office"_s, u"November 2026: 1 day"_s,
+                                 u"Fri 30 October: Out of Office (Sick) → In the Office"_s, u"November 2026: 1 day"_s,
                                  u"Thu 19 November: Vacation Day → Unknown"_s}));
     press(view, Qt::Key_Space); // none
     EXPECT_FALSE(named<Button>(view, "restore").isEnabled());
