@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MenuStyle.h"
 
+#include "Symbol.h"
 #include "Theme.h"
 
 #include <QMenu>
@@ -13,6 +14,7 @@ constexpr int menuPadding = 6;
 constexpr QMargins entryPadding(6, 5, 10, 5);
 constexpr qreal entryRadius = 6.0;
 constexpr int columnGap = 16;
+constexpr int arrowSize = 10;
 constexpr int separatorHeight = 9;
 
 } // namespace
@@ -61,6 +63,8 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const QStringList texts = item->text.split(u'\t');
     const int gaps = columnGap * static_cast<int>(texts.size() - 1);
     QSize whole(iconRoom() + gaps, qMax(m_icon.height(), item->fontMetrics.height()));
+    if (item->menuItemType == QStyleOptionMenuItem::SubMenu)
+        whole.rwidth() += columnGap + arrowSize;
     for (const QString& text : texts)
         whole.rwidth() += item->fontMetrics.size(Qt::TextShowMnemonic, text).width();
     return whole.grownBy(entryPadding);
@@ -112,5 +116,10 @@ void MenuStyle::drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) c
     };
     draw(Qt::AlignLeft, item.text.section(u'\t', 0, 0));
     draw(Qt::AlignRight, item.text.section(u'\t', 1));
+    if (item.menuItemType == QStyleOptionMenuItem::SubMenu)
+        drawSymbol(painter,
+                   alignedRect(item.direction, Qt::AlignRight | Qt::AlignVCenter, {arrowSize, arrowSize}, inside),
+                   item.direction == Qt::LeftToRight ? Symbol::GreaterThan : Symbol::LessThan,
+                   item.palette.color(isActive ? QPalette::HighlightedText : QPalette::Text));
     painter.restore();
 }
