@@ -46,8 +46,8 @@ HoverLabel::HoverLabel(QWidget* anchor, const QRect& area, const Style& style)
 
 void HoverLabel::setText(const QString& text, const Mark& mark, const QString& below)
 {
-    m_text = text;
     m_mark = mark;
+    m_text = fontMetrics().elidedText(text, Qt::ElideRight, room() - markRoom());
     m_below = below;
     reposition();
     raise();
@@ -74,9 +74,12 @@ QSize HoverLabel::sizeHint() const
 
 QStringList HoverLabel::linesBelow() const
 {
-    const QMargins& padding = m_style.padding;
-    const int room = window()->width() - padding.left() - padding.right();
-    return elidedLines(m_below, font(), qMin(fonts::grown(widestBelow, font()), room), mostLinesBelow);
+    return elidedLines(m_below, font(), qMin(fonts::grown(widestBelow, font()), room()), mostLinesBelow);
+}
+
+int HoverLabel::room() const
+{
+    return window()->width() - m_style.padding.left() - m_style.padding.right();
 }
 
 int HoverLabel::markSize() const

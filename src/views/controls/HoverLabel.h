@@ -49,6 +49,8 @@ private:
     [[nodiscard]] int markSize() const;
     [[nodiscard]] int markRoom() const;
     [[nodiscard]] QStringList linesBelow() const;
+    /// The width that lines may have.
+    [[nodiscard]] int room() const;
 
     QPointer<QWidget> m_anchor;
     QRect m_area;
