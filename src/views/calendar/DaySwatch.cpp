@@ -6,9 +6,10 @@
 
 #include <QPainter>
 
-DaySwatch::DaySwatch(const Day& day, QWidget* parent)
+DaySwatch::DaySwatch(const Day& day, bool isDayOff, QWidget* parent)
     : QWidget(parent)
     , m_day(day)
+    , m_isDayOff(isDayOff)
 {
     setFixedSize(28, 21);
 }
@@ -16,5 +17,5 @@ DaySwatch::DaySwatch(const Day& day, QWidget* parent)
 void DaySwatch::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    drawDaySwatch(painter, rect(), themeFor(palette()), m_day);
+    drawDaySwatch(painter, rect(), themeFor(palette()), m_day, m_isDayOff);
 }

@@ -10,11 +10,12 @@ class DaySwatch : public QWidget {
     Q_OBJECT
 
 public:
-    explicit DaySwatch(const Day& day, QWidget* parent = nullptr);
+    explicit DaySwatch(const Day& day, bool isDayOff = false, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     Day m_day;
+    bool m_isDayOff;
 };

@@ -17,6 +17,19 @@ void drawOutline(QPainter& painter, const QRectF& area, qreal radius, const Them
     painter.restore();
 }
 
+void drawDayOffOutline(QPainter& painter, const QRectF& face, qreal radius, const QColor& tint, const Theme& theme)
+{
+    const bool isOutlined = theme.outline.alpha() > 0;
+    const qreal inset = isOutlined ? 2.5 : 1.5;
+    QColor color = readableTextOn(tint);
+    color.setAlphaF(isOutlined ? 1.0F : 0.75F);
+    painter.save();
+    painter.setPen(QPen(color, 1.0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(face.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
+    painter.restore();
+}
+
 void drawField(QWidget& field)
 {
     constexpr qreal radius = 7.0;

@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+class QColor;
 class QPainter;
 class QRectF;
 class QWidget;
@@ -10,6 +11,9 @@ struct Theme;
 
 /// Draws the outline that high contrast gives to what would differ from its ground by colour alone.
 void drawOutline(QPainter& painter, const QRectF& area, qreal radius, const Theme& theme);
+
+/// Draws the thin outline of a day off, inside the face of the day and the outline of high contrast.
+void drawDayOffOutline(QPainter& painter, const QRectF& face, qreal radius, const QColor& tint, const Theme& theme);
 
 /// Draws the ground and the border of a text field, which tells whether it has the focus.
 void drawField(QWidget& field);

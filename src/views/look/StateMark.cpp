@@ -46,7 +46,7 @@ void drawStateMark(QPainter& painter, const QRectF& area, DayState state, const 
     painter.fillPath(toArea.map(outlineOf(state)), color);
 }
 
-void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, const Day& day)
+void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, const Day& day, bool isDayOff)
 {
     const QColor color = dayColor(theme, day);
     painter.save();
@@ -55,6 +55,8 @@ void drawDaySwatch(QPainter& painter, const QRectF& area, const Theme& theme, co
     painter.setBrush(color);
     painter.drawRoundedRect(area, swatchRadius, swatchRadius);
     drawOutline(painter, area, swatchRadius, theme);
+    if (isDayOff)
+        drawDayOffOutline(painter, area, swatchRadius, color, theme);
     QRectF mark({}, QSizeF(1, 1) * (swatchMark * area.height()));
     mark.moveCenter(area.center());
     drawStateMark(painter, mark, day.state, readableTextOn(color));
