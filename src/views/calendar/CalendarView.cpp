@@ -7,26 +7,21 @@
 #include "CommandClickableButton.h"
 #include "CountingRecords.h"
 #include "Follow.h"
-#include "Fonts.h"
 #include "ModelContext.h"
 #include "Month.h"
 #include "RestingPointer.h"
 #include "ReturnKey.h"
 #include "StateGestures.h"
-#include "StatisticsTexts.h"
 #include "StatusPicker.h"
 #include "Theme.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,7 +29,6 @@ constexpr int columns = 7;
 // The last row has two cells. A month that starts on a Saturday and has 31 days ends in the 37th cell, so the 38th is
 // never shown.
 constexpr qsizetype drawnCells = 37;
-constexpr int firstCellRow = 3;
 constexpr qreal highlightRadius = 12.0;
 constexpr float highlightOpacity = 0.1F;
 
@@ -46,60 +40,27 @@ CalendarView::CalendarView(const CalendarParts& parts, bool highlighted, QWidget
     , m_editor(parts.marker)
     , m_notes(parts.marker.notes())
     , m_highlighted(highlighted)
+    , m_grid(new QGridLayout(this))
+    , m_header(*m_grid)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     new RestingPointer(this);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins({});
-    grid->setSpacing(0); // a click between two cells would be lost
-    addHeader(*grid);
-    addWeekdays(*grid);
-    addCells(*grid);
+    m_grid->setContentsMargins({});
+    m_grid->setSpacing(0); // a click between two cells would be lost
+    addCells();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&parts.clock, &Clock::dayChanged, this, &CalendarView::refresh);
     connect(&parts.counting, &CountingRecords::changed, this, &CalendarView::refresh);
     connect(&m_notes, &MonthNotes::changed, this, &CalendarView::refresh);
 }
 
-void CalendarView::addHeader(QGridLayout& grid)
-{
-    // Neither is ever empty: an empty line may be lower, which the layouts around a hidden grid would not forget.
-    m_name = new QLabel(u" "_s);
-    m_name->setFont(fonts::title(font()));
-    m_name->setAlignment(Qt::AlignCenter);
-    m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long name would move the cells
-    m_workdays = new QLabel(workdaysText(0));
-    m_workdays->setFont(fonts::body(font()));
-    m_workdays->setForegroundRole(QPalette::PlaceholderText);
-    m_workdays->setAlignment(Qt::AlignCenter);
-    m_workdays->setContentsMargins(0, 0, 0, 10);
-    grid.addWidget(m_name, 0, 0, 1, columns);
-    grid.addWidget(m_workdays, 1, 0, 1, columns);
-}
-
-void CalendarView::addWeekdays(QGridLayout& grid)
-{
-    const QString letters[columns]{
-        tr("S", "Sunday"),   tr("M", "Monday"), tr("T", "Tuesday"),  tr("W", "Wednesday"),
-        tr("T", "Thursday"), tr("F", "Friday"), tr("S", "Saturday"),
-    };
-    for (int column = 0; column < columns; ++column) {
-        auto* letter = new QLabel(letters[column]);
-        letter->setFont(fonts::body(font()));
-        letter->setForegroundRole(QPalette::PlaceholderText);
-        letter->setAlignment(Qt::AlignCenter);
-        letter->setContentsMargins(0, 0, 0, 6);
-        grid.addWidget(letter, 2, column);
-    }
-}
-
-void CalendarView::addCells(QGridLayout& grid)
+void CalendarView::addCells()
 {
     m_cells.reserve(drawnCells);
     for (qsizetype index = 0; index < drawnCells; ++index) {
         m_cells.push_back(makeCell(index));
-        grid.addWidget(m_cells.back(), firstCellRow + static_cast<int>(index) / columns,
-                       static_cast<int>(index) % columns);
+        m_grid->addWidget(m_cells.back(), CalendarHeader::rows + static_cast<int>(index) / columns,
+                          static_cast<int>(index) % columns);
     }
 }
 
@@ -178,21 +139,14 @@ void CalendarView::focusCurrentDay(Qt::FocusReason reason)
     m_tabStop->setFocus(reason);
 }
 
-QString CalendarView::title(QDate today) const
-{
-    if (m_month->year == today.year())
-        return m_month->name;
-    return tr("%1 %2", "month and year").arg(m_month->name.value(), QString::number(m_month->year));
-}
-
 void CalendarView::refresh()
 {
     if (!m_month)
         return;
     const QDate today = m_parts.clock.today();
-    m_name->setText(title(today));
-    setAccessibleName(m_name->text());
-    m_workdays->setText(workdaysText(workdayCount(*m_month, counting())));
+    setAccessibleName(calendarTitle(*m_month, today));
+    m_header.setName(accessibleName());
+    m_header.setWorkdays(workdayCount(*m_month, counting()));
     for (qsizetype index = 0; index < drawnCells; ++index)
         refreshCell(index, today);
 }

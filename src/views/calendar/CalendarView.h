@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarHeader.h"
 #include "CalendarParts.h"
 #include "Counting.h"
 #include "DayEditor.h"
@@ -15,7 +16,6 @@
 class CommandClickableButton;
 class Month;
 class QGridLayout;
-class QLabel;
 
 /// The grid of a month, in which days are marked by hand. The arrow keys move between days.
 class CalendarView : public QWidget {
@@ -48,9 +48,7 @@ protected:
 private:
     using Operation = void (DayEditor::*)(Month&, qsizetype);
 
-    void addHeader(QGridLayout& grid);
-    void addWeekdays(QGridLayout& grid);
-    void addCells(QGridLayout& grid);
+    void addCells();
     [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
     [[nodiscard]] bool hasDetails() const;
     /// How the days of the month count. A sample has no days off.
@@ -61,7 +59,6 @@ private:
     void refreshCell(qsizetype index, QDate today);
     void moveFocus(int days);
     void setTabStop(CommandClickableButton* cell);
-    [[nodiscard]] QString title(QDate today) const;
 
     CalendarParts m_parts;
     DayEditor m_editor;
@@ -70,8 +67,8 @@ private:
     std::shared_ptr<Month> m_month;
     /// Owner of the followers of the month that is shown.
     std::unique_ptr<QObject> m_monthFollowers;
-    QLabel* m_name = nullptr;
-    QLabel* m_workdays = nullptr;
+    QGridLayout* m_grid;
+    CalendarHeader m_header;
     std::vector<CommandClickableButton*> m_cells;
     CommandClickableButton* m_tabStop = nullptr;
 };
