@@ -6,11 +6,8 @@
 #include "StatisticsTexts.h"
 
 #include <QCoreApplication>
-#include <QDate>
 #include <QGridLayout>
 #include <QLabel>
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -19,8 +16,6 @@ namespace {
 struct HeaderTexts {
     Q_DECLARE_TR_FUNCTIONS(CalendarView)
 };
-
-constexpr int weekdayCount = 7;
 
 QLabel* makeDimLabel(const QString& text, const QFont& base, int roomBelow)
 {
@@ -50,15 +45,13 @@ CalendarHeader::CalendarHeader(QGridLayout& grid)
     m_name->setAlignment(Qt::AlignCenter);
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long name would move the cells
     m_workdays = makeDimLabel(workdaysText(0), base, 10);
-    grid.addWidget(m_name, 0, 0, 1, weekdayCount);
-    grid.addWidget(m_workdays, 1, 0, 1, weekdayCount);
-    const std::array letters{
-        HeaderTexts::tr("S", "Sunday"),    HeaderTexts::tr("M", "Monday"),   HeaderTexts::tr("T", "Tuesday"),
-        HeaderTexts::tr("W", "Wednesday"), HeaderTexts::tr("T", "Thursday"), HeaderTexts::tr("F", "Friday"),
-        HeaderTexts::tr("S", "Saturday"),
-    };
-    for (int column = 0; const QString& letter : letters)
-        grid.addWidget(makeDimLabel(letter, base, 6), 2, column++);
+    // Also over the weeks, so that it stays in the middle of the card.
+    grid.addWidget(m_name, 0, 0, 1, GridOrder::columns + 1);
+    grid.addWidget(m_workdays, 1, 0, 1, GridOrder::columns + 1);
+    for (int column = 0; auto& letter : m_weekdays) {
+        letter = makeDimLabel({}, base, 6);
+        grid.addWidget(letter, 2, column++);
+    }
 }
 
 void CalendarHeader::setName(const QString& name)
@@ -69,4 +62,15 @@ void CalendarHeader::setName(const QString& name)
 void CalendarHeader::setWorkdays(qint64 workdays)
 {
     m_workdays->setText(workdaysText(workdays));
+}
+
+void CalendarHeader::setWeekStart(Qt::DayOfWeek weekStart)
+{
+    const std::array letters{
+        HeaderTexts::tr("M", "Monday"),   HeaderTexts::tr("T", "Tuesday"), HeaderTexts::tr("W", "Wednesday"),
+        HeaderTexts::tr("T", "Thursday"), HeaderTexts::tr("F", "Friday"),  HeaderTexts::tr("S", "Saturday"),
+        HeaderTexts::tr("S", "Sunday"),
+    };
+    for (int day = Qt::Monday; const QString& letter : letters)
+        m_weekdays.at(static_cast<std::size_t>(GridOrder::columnOf(day++, weekStart)))->setText(letter);
 }

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "GridOrder.h"
+
 #include <QString>
+
+#include <array>
 
 class Month;
 class QGridLayout;
-class QDate;
 class QLabel;
 
 /// The name of a month, with its year if that is not the present one.
@@ -22,8 +25,10 @@ public:
 
     void setName(const QString& name);
     void setWorkdays(qint64 workdays);
+    void setWeekStart(Qt::DayOfWeek weekStart);
 
 private:
     QLabel* m_name;
     QLabel* m_workdays;
+    std::array<QLabel*, GridOrder::columns> m_weekdays{};
 };

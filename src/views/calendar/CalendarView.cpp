@@ -14,6 +14,7 @@
 #include "StateGestures.h"
 #include "StatusPicker.h"
 #include "Theme.h"
+#include "ViewSettings.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -25,10 +26,7 @@
 
 namespace {
 
-constexpr int columns = 7;
-// The last row has two cells. A month that starts on a Saturday and has 31 days ends in the 37th cell, so the 38th is
-// never shown.
-constexpr qsizetype drawnCells = 37;
+constexpr int columns = GridOrder::columns;
 constexpr qreal highlightRadius = 12.0;
 constexpr float highlightOpacity = 0.1F;
 
@@ -52,22 +50,22 @@ CalendarView::CalendarView(const CalendarParts& parts, bool highlighted, QWidget
     connect(&parts.clock, &Clock::dayChanged, this, &CalendarView::refresh);
     connect(&parts.counting, &CountingRecords::changed, this, &CalendarView::refresh);
     connect(&m_notes, &MonthNotes::changed, this, &CalendarView::refresh);
+    follow(parts.viewSettings.firstDayOfWeek, this, [this] { followWeekStart(); });
 }
 
 void CalendarView::addCells()
 {
-    m_cells.reserve(drawnCells);
-    for (qsizetype index = 0; index < drawnCells; ++index) {
-        m_cells.push_back(makeCell(index));
-        m_grid->addWidget(m_cells.back(), CalendarHeader::rows + static_cast<int>(index) / columns,
-                          static_cast<int>(index) % columns);
+    m_cells.reserve(GridOrder::places);
+    for (int place = 0; place < GridOrder::places; ++place) {
+        m_cells.push_back(makeCell(place));
+        m_grid->addWidget(m_cells.back(), CalendarHeader::rows + place / columns, place % columns);
     }
 }
 
-CommandClickableButton* CalendarView::makeCell(qsizetype index)
+CommandClickableButton* CalendarView::makeCell(qsizetype place)
 {
-    const auto operation = [this, index](Operation change) {
-        return [this, index, change] { (m_editor.*change)(*m_month, index); };
+    const auto operation = [this, place](Operation change) {
+        return [this, place, change] { (m_editor.*change)(*m_month, m_order.indexAt(place)); };
     };
     auto* cell = new CommandClickableButton({operation(&DayEditor::cycleDayState), operation(&DayEditor::resetDayState),
                                              operation(&DayEditor::toggleWillBeInOffice),
@@ -79,13 +77,14 @@ CommandClickableButton* CalendarView::makeCell(qsizetype index)
     cell->setFocusPolicy(Qt::ClickFocus);
     cell->setVisible(false);
     cell->installEventFilter(this);
-    connect(cell, &CommandClickableButton::menuRequested, this, [this, index] { showPicker(index); });
+    connect(cell, &CommandClickableButton::menuRequested, this, [this, place] { showPicker(place); });
     return cell;
 }
 
-void CalendarView::showPicker(qsizetype index)
+void CalendarView::showPicker(qsizetype place)
 {
-    auto& cell = *m_cells[static_cast<std::size_t>(index)];
+    auto& cell = *m_cells[static_cast<std::size_t>(place)];
+    const qsizetype index = m_order.indexAt(place);
     auto* picker = new StatusPicker(m_month->days.value().at(index).state, this);
     // Marks the month that was clicked, even if another is shown by then.
     connect(picker, &StatusPicker::chosen, this,
@@ -122,16 +121,42 @@ void CalendarView::setMonth(const std::shared_ptr<Month>& month)
         cell->resetHover();
     if (hasDetails())
         m_notes.read(*month);
+    m_order = {m_parts.viewSettings.weekStart(), month->dateOf(1)};
     refresh();
     const QDate today = m_parts.clock.today();
     const bool isThisMonth = today.year() == month->year && today.month() == month->month;
-    setTabStop(m_cells[static_cast<std::size_t>(*month->indexOf(isThisMonth ? today.day() : 1))]);
+    setTabStop(&cellOf(isThisMonth ? today.day() : 1));
+}
+
+void CalendarView::followWeekStart()
+{
+    const Qt::DayOfWeek start = m_parts.viewSettings.weekStart();
+    m_header.setWeekStart(start);
+    if (!m_month)
+        return;
+    const int focused = focusedDay();
+    const int tabStop = dayOf(m_tabStop);
+    m_order = {start, m_month->dateOf(1)};
+    refresh();
+    setTabStop(&cellOf(tabStop));
+    if (focused != 0)
+        focusDay(focused, Qt::OtherFocusReason);
+}
+
+CommandClickableButton& CalendarView::cellOf(int dayOfMonth) const
+{
+    return *m_cells[static_cast<std::size_t>(m_order.placeOf(*m_month->indexOf(dayOfMonth)))];
+}
+
+int CalendarView::dayOf(const CommandClickableButton* cell) const
+{
+    const qsizetype place = std::ranges::find(m_cells, cell) - m_cells.begin();
+    return static_cast<int>(m_month->days.value().value(m_order.indexAt(place)).id);
 }
 
 void CalendarView::focusDay(int dayOfMonth, Qt::FocusReason reason)
 {
-    const auto index = m_month->indexOf(std::min<int>(dayOfMonth, m_month->daysInMonth));
-    m_cells[static_cast<std::size_t>(*index)]->setFocus(reason);
+    cellOf(std::min<int>(dayOfMonth, m_month->daysInMonth)).setFocus(reason);
 }
 
 void CalendarView::focusCurrentDay(Qt::FocusReason reason)
@@ -147,19 +172,20 @@ void CalendarView::refresh()
     setAccessibleName(calendarTitle(*m_month, today));
     m_header.setName(accessibleName());
     m_header.setWorkdays(workdayCount(*m_month, counting()));
-    for (qsizetype index = 0; index < drawnCells; ++index)
-        refreshCell(index, today);
+    for (int place = 0; place < GridOrder::places; ++place)
+        refreshCell(place, today);
 }
 
-void CalendarView::refreshCell(qsizetype index, QDate today)
+void CalendarView::refreshCell(qsizetype place, QDate today)
 {
-    const Day& day = m_month->days.value().at(index);
-    CommandClickableButton& cell = *m_cells[static_cast<std::size_t>(index)];
-    const QDate date = m_month->dateOf(day.id);
-    cell.setVisible(day.isInMonth());
-    cell.setRinged(day.isInMonth() && date == today);
-    if (!day.isInMonth())
+    CommandClickableButton& cell = *m_cells[static_cast<std::size_t>(place)];
+    const QDate date = m_order.dateAt(place);
+    const bool isInMonth = date.month() == m_month->month;
+    cell.setVisible(isInMonth);
+    cell.setRinged(isInMonth && date == today);
+    if (!isInMonth)
         return;
+    const Day& day = m_month->days.value().at(m_order.indexAt(place));
     cell.setText(QString::number(day.id));
     cell.setTint(dayColor(themeFor(palette()), day));
     cell.setState(day.state);
@@ -174,9 +200,7 @@ void CalendarView::refreshCell(qsizetype index, QDate today)
 int CalendarView::focusedDay() const
 {
     const auto focused = std::ranges::find_if(m_cells, [](const auto* cell) { return cell->hasFocus(); });
-    if (focused == m_cells.end())
-        return 0;
-    return static_cast<int>(m_month->days.value().at(focused - m_cells.begin()).id);
+    return focused == m_cells.end() ? 0 : dayOf(*focused);
 }
 
 void CalendarView::moveFocus(int days)
@@ -239,7 +263,7 @@ bool CalendarView::handleDayKey(const QKeyEvent& event)
     const bool asksForDetails = isReturn(event) && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (!asksForDetails || !hasDetails())
         return false;
-    Q_EMIT detailsRequested(m_month, index, m_cells[static_cast<std::size_t>(index)]);
+    Q_EMIT detailsRequested(m_month, index, &cellOf(focusedDay()));
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "CalendarParts.h"
 #include "Counting.h"
 #include "DayEditor.h"
+#include "GridOrder.h"
 #include "MonthNotes.h"
 
 #include <QDate>
@@ -49,14 +50,18 @@ private:
     using Operation = void (DayEditor::*)(Month&, qsizetype);
 
     void addCells();
-    [[nodiscard]] CommandClickableButton* makeCell(qsizetype index);
+    [[nodiscard]] CommandClickableButton* makeCell(qsizetype place);
     [[nodiscard]] bool hasDetails() const;
     /// How the days of the month count. A sample has no days off.
     [[nodiscard]] Counting counting() const;
-    void showPicker(qsizetype index);
+    void showPicker(qsizetype place);
     [[nodiscard]] bool handleDayKey(const QKeyEvent& event);
+    void followWeekStart();
     void refresh();
-    void refreshCell(qsizetype index, QDate today);
+    void refreshCell(qsizetype place, QDate today);
+    [[nodiscard]] CommandClickableButton& cellOf(int dayOfMonth) const;
+    /// The day of a cell, 0 or less if it shows none.
+    [[nodiscard]] int dayOf(const CommandClickableButton* cell) const;
     void moveFocus(int days);
     void setTabStop(CommandClickableButton* cell);
 
@@ -69,6 +74,8 @@ private:
     std::unique_ptr<QObject> m_monthFollowers;
     QGridLayout* m_grid;
     CalendarHeader m_header;
+    GridOrder m_order;
+    /// By their places.
     std::vector<CommandClickableButton*> m_cells;
     CommandClickableButton* m_tabStop = nullptr;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarViewSettingsView.h"
 
+#include "ComboBox.h"
+#include "Labels.h"
 #include "Switch.h"
 #include "ViewSettings.h"
 
@@ -23,4 +25,20 @@ CalendarViewSettingsView::CalendarViewSettingsView(ViewSettings& settings, QWidg
     add(tr("Show \"Will be In Office\" in Progress Tracker"), settings.showWillBeInOfficeStats);
     add(tr("Show day status on hover"), settings.showStatusLabelOnHover);
     add(tr("Show Unmarked Workdays"), settings.showUnmarkedWorkdays);
+    addFirstDay(*rows, settings.firstDayOfWeek);
+}
+
+void CalendarViewSettingsView::addFirstDay(QVBoxLayout& rows, QProperty<int>& field)
+{
+    auto* name = labels::text(tr("First Day of Week"));
+    auto* choice = new ComboBox(name->text());
+    choice->addItem(tr("Sunday"), static_cast<int>(Qt::Sunday));
+    choice->addItem(tr("Monday"), static_cast<int>(Qt::Monday));
+    choice->addItem(tr("As the System Has It"), 0);
+    choice->setCurrentIndex(choice->findData(field.value()));
+    connect(choice, &QComboBox::currentIndexChanged, this, [&field, choice] { field = choice->currentData().toInt(); });
+    auto* row = new QHBoxLayout;
+    row->addWidget(name, 1);
+    row->addWidget(choice);
+    rows.addLayout(row);
 }

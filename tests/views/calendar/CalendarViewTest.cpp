@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarViewTest.h"
+#include "GridOrder.h"
 
 #include <QAccessible>
 
@@ -20,6 +21,53 @@ TEST_F(CalendarViewTest, showsTheDaysOfTheMonthUnderTheirWeekdaysAndNothingElse)
         const auto buttons = view.findChildren<CommandClickableButton*>();
         EXPECT_EQ(std::ranges::count_if(buttons, &QWidget::isVisible), shown->daysInMonth);
     }
+}
+
+TEST(GridOrderTest, everyDayHasAPlaceInTheColumnOfItsWeekdayWhateverDayIsTheFirst)
+{
+    for (int start = Qt::Monday; start <= Qt::Sunday; ++start) {
+        for (QDate first(2026, 1, 1); first.year() < 2033; first = first.addMonths(1)) {
+            const Month month(first.year(), first.month());
+            const GridOrder order(Qt::DayOfWeek(start), first);
+            for (int day = 1; day <= first.daysInMonth(); ++day) {
+                const qsizetype index = *month.indexOf(day);
+                const qsizetype place = order.placeOf(index);
+                ASSERT_TRUE(place >= day - 1 && place < GridOrder::places) << start << ' ' << place;
+                ASSERT_EQ(order.indexAt(place), index);
+                ASSERT_EQ(order.dateAt(place), month.dateOf(day));
+                ASSERT_TRUE(place == index || start != Qt::Sunday);
+                ASSERT_EQ(place % 7, GridOrder::columnOf(month.dateOf(day).dayOfWeek(), Qt::DayOfWeek(start)));
+            }
+        }
+    }
+}
+
+TEST_F(CalendarViewTest, anotherFirstDayOfTheWeekMovesTheDaysAndNotTheFocus)
+{
+    const QSize size = view.size();
+    const auto expectDays = [&](const QString& letters, int lineOf29) {
+        EXPECT_EQ(shownTexts(view).last(7).join(QString()), letters);
+        EXPECT_EQ(dayButton(view, 29).y() - dayButton(view, 1).y(), lineOf29 * dayButton(view, 1).height());
+        EXPECT_EQ(dayButton(view, 2).x() > dayButton(view, 1).x(), letters.startsWith(u"S"));
+        EXPECT_EQ(view.focusedDay(), friday);
+        press(view, Qt::Key_2);
+        EXPECT_EQ(dayOnDisk(friday).state, DayState::IN_OFFICE);
+        press(view, Qt::Key_Down);
+        press(view, Qt::Key_1);
+        EXPECT_EQ(view.focusedDay(), friday + 7);
+        press(view, Qt::Key_Up);
+        press(view, Qt::Key_1);
+        EXPECT_EQ(view.size(), size);
+    };
+    view.focusDay(friday);
+    expectDays(u"SMTWTFS"_s, 4);
+    viewSettings.firstDayOfWeek = Qt::Monday;
+    expectDays(u"MTWTFSS"_s, 4);
+    click(dayButton(view, friday));
+    EXPECT_EQ(dayOnDisk(friday).state, DayState::IN_OFFICE);
+    viewSettings.firstDayOfWeek = Qt::Saturday;
+    press(view, Qt::Key_1);
+    expectDays(u"SSMTWTF"_s, 4);
 }
 
 TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)

@@ -16,6 +16,7 @@
 #include "WindowId.h"
 #include "WindowSize.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScreen>
@@ -178,6 +179,12 @@ TEST_F(AppWindowsTest, switchesAreTheSameInEveryWindowAndStoredAtOnce)
     click(*shown<HelpView>()->findChild<Switch*>());
     EXPECT_TRUE(viewSettings.showStatusLabelOnHover);
     EXPECT_TRUE(switches.at(4)->isChecked());
+    auto& firstDay = *shown<CalendarViewSettingsView>()->findChild<QComboBox*>();
+    EXPECT_EQ(firstDay.currentIndex(), 0);
+    for (const auto& [index, day] : {std::pair(1, Qt::Monday), {2, QLocale().firstDayOfWeek()}, {0, Qt::Sunday}}) {
+        firstDay.setCurrentIndex(index);
+        EXPECT_EQ(ViewSettings(stored).weekStart(), day);
+    }
 }
 
 TEST_F(AppWindowsTest, theFirstRunIsLedThroughUntilItIsCompleted)
