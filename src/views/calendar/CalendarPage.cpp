@@ -72,6 +72,7 @@ void CalendarPage::connectCard(MonthCard& card)
     m_cards.push_back(&card);
     connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
     connect(&card.calendar(), &CalendarView::detailsRequested, this, &CalendarPage::detailsRequested);
+    connect(&card.calendar(), &CalendarView::popoverRequested, this, &CalendarPage::popoverRequested);
 }
 
 void CalendarPage::previous(Qt::FocusReason reason)

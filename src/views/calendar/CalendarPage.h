@@ -3,6 +3,7 @@
 
 #include "CalendarParts.h"
 #include "Period.h"
+#include "Popover.h"
 #include "Retry.h"
 
 #include <QDate>
@@ -49,8 +50,9 @@ public:
     [[nodiscard]] QDate focusedDate() const;
 
 Q_SIGNALS:
-    /// As CalendarView emits it.
+    // As CalendarView emits them.
     void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
+    void popoverRequested(Popover* popover);
 
 protected:
     [[nodiscard]] const CalendarParts& parts() const { return m_parts; }

@@ -6,20 +6,19 @@
 #include "Clock.h"
 #include "CommandClickableButton.h"
 #include "CountingRecords.h"
+#include "DayMenu.h"
 #include "Follow.h"
 #include "ModelContext.h"
 #include "Month.h"
 #include "RestingPointer.h"
 #include "ReturnKey.h"
 #include "StateGestures.h"
-#include "StatusPicker.h"
 #include "Theme.h"
 #include "ViewSettings.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
@@ -85,30 +84,20 @@ void CalendarView::showPicker(qsizetype place)
 {
     auto& cell = *m_cells[static_cast<std::size_t>(place)];
     const qsizetype index = m_order.indexAt(place);
-    auto* picker = new StatusPicker(m_month->days.value().at(index).state, this);
+    auto* menu = new DayMenu(m_parts, m_month, index, &cell);
     // Marks the month that was clicked, even if another is shown by then.
-    connect(picker, &StatusPicker::chosen, this,
+    connect(menu, &StatusPicker::chosen, this,
             [this, month = m_month, index](DayState state) { m_editor.setDayState(*month, index, state); });
-    if (hasDetails()) {
-        picker->addSeparator();
-        QAction* details = picker->addEntry(tr("Details…"));
-        details->setShortcut(Qt::Key_Return); // of the focused day
-        details->setShortcutVisibleInContextMenu(true);
-        connect(details, &QAction::triggered, this,
-                [this, month = m_month, index, &cell] { Q_EMIT detailsRequested(month, index, &cell); });
-    }
-    picker->popUpBeside({cell.mapToGlobal(QPoint()), cell.size()});
+    connect(menu, &DayMenu::popoverRequested, this, &CalendarView::popoverRequested);
+    connect(menu, &DayMenu::detailsRequested, this,
+            [this, month = m_month, index, &cell] { Q_EMIT detailsRequested(month, index, &cell); });
+    menu->popUpBeside({cell.mapToGlobal(QPoint()), cell.size()});
 }
 
 // A month that is not stored is a sample.
 bool CalendarView::hasDetails() const
 {
     return m_parts.marker.context().contains(*m_month);
-}
-
-Counting CalendarView::counting() const
-{
-    return hasDetails() ? m_parts.counting.counting().value() : Counting();
 }
 
 void CalendarView::setMonth(const std::shared_ptr<Month>& month)
@@ -171,12 +160,13 @@ void CalendarView::refresh()
     const QDate today = m_parts.clock.today();
     setAccessibleName(calendarTitle(*m_month, today));
     m_header.setName(accessibleName());
-    m_header.setWorkdays(workdayCount(*m_month, counting()));
+    const DayTexts texts = hasDetails() ? DayTexts(m_parts.counting) : DayTexts();
+    m_header.setWorkdays(workdayCount(*m_month, texts.counting()));
     for (int place = 0; place < GridOrder::places; ++place)
-        refreshCell(place, today);
+        refreshCell(place, texts, today);
 }
 
-void CalendarView::refreshCell(qsizetype place, QDate today)
+void CalendarView::refreshCell(qsizetype place, const DayTexts& texts, QDate today)
 {
     CommandClickableButton& cell = *m_cells[static_cast<std::size_t>(place)];
     const QDate date = m_order.dateAt(place);
@@ -187,13 +177,12 @@ void CalendarView::refreshCell(qsizetype place, QDate today)
         return;
     const Day& day = m_month->days.value().at(m_order.indexAt(place));
     cell.setText(QString::number(day.id));
-    cell.setTint(dayColor(themeFor(palette()), day));
+    cell.setTint(dayColor(themeFor(palette()), texts.colored(day, date)));
     cell.setState(day.state);
-    cell.setTooltipText(description(day.state));
+    cell.setDayOff(texts.counting().dayOff(date) != nullptr);
+    cell.setTooltipText(texts.onHover(date, day.state));
     cell.setNote(m_notes.of(date));
-    //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
-    const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
-    const QString spoken = tr("%1, %2", "date and state").arg(written, description(day.state));
+    const QString spoken = texts.spoken(date, day.state);
     cell.setSpokenName(m_notes.of(date).isEmpty() ? spoken : tr("%1, has a note", "date and state").arg(spoken));
 }
 

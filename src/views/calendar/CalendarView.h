@@ -3,10 +3,11 @@
 
 #include "CalendarHeader.h"
 #include "CalendarParts.h"
-#include "Counting.h"
 #include "DayEditor.h"
+#include "DayTexts.h"
 #include "GridOrder.h"
 #include "MonthNotes.h"
+#include "Popover.h"
 
 #include <QDate>
 #include <QWidget>
@@ -39,6 +40,8 @@ Q_SIGNALS:
     void dayRequested(QDate date);
     /// Emitted when a person wants to know more about the day of a cell. A month that is not stored has no details.
     void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
+    /// Emitted with a new popover, for the window to open in its own way.
+    void popoverRequested(Popover* popover);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -52,13 +55,11 @@ private:
     void addCells();
     [[nodiscard]] CommandClickableButton* makeCell(qsizetype place);
     [[nodiscard]] bool hasDetails() const;
-    /// How the days of the month count. A sample has no days off.
-    [[nodiscard]] Counting counting() const;
     void showPicker(qsizetype place);
     [[nodiscard]] bool handleDayKey(const QKeyEvent& event);
     void followWeekStart();
     void refresh();
-    void refreshCell(qsizetype place, QDate today);
+    void refreshCell(qsizetype place, const DayTexts& texts, QDate today);
     [[nodiscard]] CommandClickableButton& cellOf(int dayOfMonth) const;
     /// The day of a cell, 0 or less if it shows none.
     [[nodiscard]] int dayOf(const CommandClickableButton* cell) const;

@@ -68,6 +68,14 @@ void CommandClickableButton::setNote(const QString& note)
     update();
 }
 
+void CommandClickableButton::setDayOff(bool isDayOff)
+{
+    if (m_isDayOff == isDayOff)
+        return;
+    m_isDayOff = isDayOff;
+    update();
+}
+
 void CommandClickableButton::setSpokenName(const QString& name)
 {
     if (accessibleName() == name)
@@ -220,8 +228,8 @@ void CommandClickableButton::mouseReleaseEvent(QMouseEvent* event)
 void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const DayCellLook look{
-        text(), m_tint, m_state, !m_note.isEmpty(), m_ringed, isDown(), hasFocus() && m_focusVisible};
+    const DayCellLook look{text(),     m_tint,   m_state,  !m_note.isEmpty(),
+                           m_isDayOff, m_ringed, isDown(), hasFocus() && m_focusVisible};
     cellPainter().paint(painter, look, themeFor(palette()));
 }
 

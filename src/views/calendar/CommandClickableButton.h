@@ -38,6 +38,8 @@ public:
     void setTooltipText(const std::optional<QString>& text);
     /// Shows a dot if there is a note, and its first lines in the label.
     void setNote(const QString& note);
+    /// Draws a thin outline inside the button.
+    void setDayOff(bool isDayOff);
     /// Sets the accessible name. A screen reader says a change while the button has the focus.
     void setSpokenName(const QString& name);
     /// Draws a ring around the button, which marks today.
@@ -88,6 +90,7 @@ private:
     Qt::KeyboardModifiers m_heldAtKeyPress;
     FocusVisible m_focusVisible;
     bool m_ringed = false;
+    bool m_isDayOff = false;
     /// Whether a screen reader is about to say the button because it just got the focus.
     bool m_isFocusNew = false;
 };

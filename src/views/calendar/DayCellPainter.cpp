@@ -76,9 +76,12 @@ void DayCellPainter::paint(QPainter& painter, const DayCellLook& look, const The
     painter.setBrush(look.isDown ? look.tint.darker(115) : look.tint);
     painter.drawRoundedRect(area, cellRadius, cellRadius);
     drawOutline(painter, area, cellRadius, theme);
+    if (look.isDayOff)
+        drawDayOffOutline(painter, area, cellRadius, look.tint, theme);
     painter.setPen(readableTextOn(look.tint));
     painter.drawText(area.adjusted(0, 0, 0, -numberLift), Qt::AlignCenter, look.number);
-    drawStateMark(painter, markArea(), look.state, painter.pen().color());
+    // Clear of the outline.
+    drawStateMark(painter, markArea().translated(0, look.isDayOff ? -1 : 0), look.state, painter.pen().color());
     if (look.hasNote) {
         painter.setBrush(painter.pen().color());
         painter.setPen(Qt::NoPen);

@@ -17,6 +17,7 @@ struct DayCellLook {
     QColor tint = {};
     DayState state = DayState::UNKNOWN;
     bool hasNote = false;
+    bool isDayOff = false;
     bool isToday = false;
     bool isDown = false;
     bool isFocused = false;

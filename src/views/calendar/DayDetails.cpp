@@ -3,10 +3,13 @@
 
 #include "Accessibility.h"
 #include "Clock.h"
+#include "CountingRecords.h"
 #include "DayHistory.h"
 #include "DayMarker.h"
 #include "DayNote.h"
+#include "DayOffField.h"
 #include "DaySwatch.h"
+#include "DayTexts.h"
 #include "Labels.h"
 #include "LinkButton.h"
 #include "Month.h"
@@ -82,11 +85,12 @@ void focusFirst(const QWidget& holder)
 
 } // namespace
 
-DayDetails::DayDetails(DayMarker& marker, UndoHistory& history, const Clock& clock, Place place, QWidget* cell)
+DayDetails::DayDetails(const CalendarParts& parts, UndoHistory& history, Place place, QWidget* cell)
     : Popover(cell, Side::Beside)
-    , m_marker(marker)
+    , m_marker(parts.marker)
+    , m_counting(parts.counting)
     , m_history(history)
-    , m_clock(clock)
+    , m_clock(parts.clock)
     , m_place(std::move(place))
     , m_date(m_place.month->dateOf(day().id))
     , m_current(makeColumn(0))
@@ -98,10 +102,11 @@ DayDetails::DayDetails(DayMarker& marker, UndoHistory& history, const Clock& clo
     column().setSpacing(10);
     column().addWidget(title);
     column().addWidget(m_current);
+    addDayOff();
     addNote();
     column().addWidget(m_earlier);
     showStates();
-    connect(&marker, &DayMarker::changed, this, [this](const ChangedDays& days) {
+    connect(&m_marker, &DayMarker::changed, this, [this](const ChangedDays& days) {
         if (days.dates.contains(m_date))
             followStates();
     });
@@ -120,6 +125,14 @@ int DayDetails::contentsWidth() const
 Day DayDetails::day() const
 {
     return m_place.month->days.value().at(m_place.index);
+}
+
+void DayDetails::addDayOff()
+{
+    if (m_counting.counting().value().dayOff(m_date) == nullptr)
+        return;
+    column().addWidget(labels::dim(tr("Day Off")));
+    column().addWidget(new DayOffField(m_counting, m_date));
 }
 
 void DayDetails::addNote()
@@ -156,6 +169,11 @@ void DayDetails::showStates()
     const QString state = m_marker.absences().describe(day().state, m_marker.absences().kindOf(m_date));
     setAccessibleDescription(how.isEmpty() ? state : tr("%1. %2", "state, and who set it when").arg(state, how));
     replaceContents(*m_current, makeState(day(), state, how));
+
+    const DayTexts texts(m_counting);
+    const QString state = texts.state(m_date, day().state);
+    setAccessibleDescription(how.isEmpty() ? state : tr("%1. %2", "state, and who set it when").arg(state, how));
+    replaceContents(*m_current, makeState(texts.colored(day(), m_date), state, how));
     m_earlier->setVisible(!states.isEmpty());
     if (!states.isEmpty())
         replaceContents(*m_earlier, makeEarlierStates(states));
@@ -204,6 +222,9 @@ QWidget* DayDetails::makeEarlierState(const PastState& state)
     const QString name = m_marker.absences().describe(state.state, state.absenceKind);
     QWidget* row = makeState(then, name, how);
     if (isCurrent(state))
+
+        QWidget* row = makeState(DayTexts(m_counting).colored(then, m_date), description(then.state), how);
+    if (then == day())
         return row;
     auto* button = new LinkButton(tr("Set Back"));
     button->setAccessibleName(tr("Set back to %1. %2", "state, and who set it when").arg(name, how));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CalendarParts.h"
 #include "Popover.h"
 
 #include <QDate>
@@ -8,8 +9,6 @@
 
 #include <memory>
 
-class Clock;
-class DayMarker;
 class DayNote;
 class Month;
 class QLabel;
@@ -29,13 +28,14 @@ public:
         qsizetype index = 0;
     };
 
-    DayDetails(DayMarker& marker, UndoHistory& history, const Clock& clock, Place place, QWidget* cell);
+    DayDetails(const CalendarParts& parts, UndoHistory& history, Place place, QWidget* cell);
     /// Saves the note.
     ~DayDetails() override;
 
 private:
     [[nodiscard]] int contentsWidth() const;
     [[nodiscard]] Day day() const;
+    void addDayOff();
     void addNote();
     void showStates();
     void followStates();
@@ -46,6 +46,7 @@ private:
     void saveNote();
 
     DayMarker& m_marker;
+    CountingRecords& m_counting;
     UndoHistory& m_history;
     const Clock& m_clock;
     Place m_place;

@@ -76,17 +76,33 @@ QIcon iconOf(DayState state, bool isCurrent, const QWidget& menu)
     return icon;
 }
 
-// The place of the letter that chooses an entry: one that no other has, at the start of a word if possible.
-qsizetype accessLetter(const QString& text, const QString& taken)
+// As wide as the icons of the states, so that the ticks are below one another.
+QIcon makeTickIcon(bool isTicked, const QSize& size, const QWidget& menu)
 {
-    for (const bool inWords : {false, true}) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            const bool isAtStart = i == 0 || text.at(i - 1).isSpace();
-            if (text.at(i).isLetter() && (isAtStart || inWords) && !taken.contains(text.at(i), Qt::CaseInsensitive))
-                return i;
-        }
+    QIcon icon;
+    for (const auto mode : {QIcon::Normal, QIcon::Active}) {
+        QPixmap pixmap(size * menu.devicePixelRatioF());
+        pixmap.setDevicePixelRatio(menu.devicePixelRatioF());
+        pixmap.fill(Qt::transparent);
+        const QColor color = mode == QIcon::Active ? QColor(Qt::white) : themeFor(menu.palette()).text;
+        QPainter painter(&pixmap);
+        if (isTicked)
+            drawSymbol(painter,
+                       QStyle::alignedRect(menu.layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, tickSize,
+                                           QRect({}, size)),
+                       Symbol::Tick, color);
+        icon.addPixmap(pixmap, mode);
     }
-    return -1;
+    return icon;
+}
+
+QAction* addTickedTo(QMenu& menu, const QString& text, bool isTicked, const QSize& size)
+{
+    QAction* action = menu.addAction(makeTickIcon(isTicked, size, menu), text);
+    action->setIconVisibleInMenu(true);
+    action->setCheckable(true);
+    action->setChecked(isTicked);
+    return action;
 }
 
 } // namespace
@@ -98,21 +114,29 @@ StatusPicker::StatusPicker(DayState current, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     MenuStyle::apply(*this, iconSize(fonts::caption(font())));
     for (const DayState state : allDayStates)
-        addState(state, withAccessLetter(description(state)));
-}
-
-QString StatusPicker::withAccessLetter(QString text)
-{
-    if (const qsizetype letter = accessLetter(text, m_taken); letter >= 0) {
-        m_taken.append(text.at(letter));
-        text.insert(letter, u'&');
-    }
-    return text;
+        addState(state, m_letters.mark(description(state)));
 }
 
 QAction* StatusPicker::addEntry(const QString& text)
 {
-    return addAction(withAccessLetter(text));
+    return addAction(m_letters.mark(text));
+}
+
+QAction* StatusPicker::addTicked(const QString& text, bool isTicked)
+{
+    return addTickedTo(*this, m_letters.mark(text), isTicked, iconSize(fonts::caption(font())));
+}
+
+QMenu& StatusPicker::addSubmenu(const QString& text)
+{
+    QMenu& submenu = *addMenu(m_letters.mark(text));
+    MenuStyle::apply(submenu, tickSize);
+    return submenu;
+}
+
+QAction* StatusPicker::addTicked(QMenu& submenu, const QString& text, bool isTicked)
+{
+    return addTickedTo(submenu, text, isTicked, tickSize);
 }
 
 void StatusPicker::addState(DayState state, const QString& text)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "AccessLetters.h"
 #include "DayState.h"
 
 #include <QMenu>
@@ -25,18 +26,21 @@ Q_SIGNALS:
     void chosen(DayState state);
 
 protected:
+    // Below the states.
+    QAction* addTicked(const QString& text, bool isTicked);
+    QMenu& addSubmenu(const QString& text);
+    /// Adds an entry with a tick before it, if it is ticked, to a submenu.
+    static QAction* addTicked(QMenu& submenu, const QString& text, bool isTicked);
+
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void addState(DayState state, const QString& text);
     [[nodiscard]] QAction* currentAction() const;
-    /// Marks the letter that chooses an entry.
-    [[nodiscard]] QString withAccessLetter(QString text);
 
     DayState m_current;
-    /// The letters that choose the entries so far.
-    QString m_taken;
+    AccessLetters m_letters;
     /// Where the button was pressed that opened the menu, until it is released.
     std::optional<QPoint> m_pressedAt;
 };

@@ -202,12 +202,13 @@ template <class Calendar> QWidget* ContentView::makePage()
 {
     auto* calendar = new Calendar(m_parts.calendar());
     connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
+    connect(calendar, &CalendarPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
     return new Page(calendar);
 }
 
 void ContentView::openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell)
 {
-    popUp(*new DayDetails(m_parts.marker, m_parts.history, m_parts.clock, {month, index}, cell));
+    popUp(*new DayDetails(m_parts.calendar(), m_parts.history, {month, index}, cell));
 }
 
 void ContentView::popUp(Popover& popover)

@@ -70,6 +70,42 @@ TEST_F(CalendarViewTest, anotherFirstDayOfTheWeekMovesTheDaysAndNotTheFocus)
     expectDays(u"SSMTWTF"_s, 4);
 }
 
+TEST_F(CalendarViewTest, theMenuSaysWhyOneIsOutOfOfficeAndThatADayIsNoWorkday)
+{
+    using enum Qt::Key;
+    const Theme& theme = themeFor(Look());
+    const std::tuple<QList<Qt::Key>, QString, QColor, int> rows[]{
+        {{Key_A, Key_S}, u"Out of Office (Sick)"_s, theme.outOfOffice, 21},
+        {{Key_A, Key_B}, u"Out of Office (Business Trip)"_s, theme.outOfOffice, 21},
+        {{Key_N}, u"Out of Office (Business Trip), Day Off"_s, theme.outOfOffice, 20},
+        {{Key_A, Key_B}, u"Out of Office, Day Off"_s, theme.outOfOffice, 20},
+        {{Key_1}, u"Unknown, Day Off"_s, theme.nonWorkday, 20},
+        {{Key_N}, u"Unknown"_s, theme.unknown, 21},
+    };
+    for (const auto& [keys, spoken, color, workdays] : rows) {
+        view.focusDay(friday);
+        press(view, Key_F10, Qt::ShiftModifier);
+        for (const Qt::Key key : keys) {
+            const QWidget* menu = QApplication::activePopupWidget();
+            press(view, key);
+            EXPECT_TRUE(eventually([&] { return QApplication::activePopupWidget() != menu; }));
+        }
+        auto& button = dayButton(view, friday);
+        EXPECT_EQ(button.accessibleName(), u"Friday 20 November 2026, "_s + spoken);
+        EXPECT_EQ(painted(button, 4), color) << qPrintable(spoken);
+        EXPECT_EQ(painted(button, 1) != color, spoken.endsWith(u"Day Off")) << qPrintable(spoken);
+        EXPECT_TRUE(shownTexts(view).contains(u"%1 workdays"_s.arg(workdays))) << qPrintable(spoken);
+        EXPECT_TRUE(dayOnDisk(friday).isWorkday);
+    }
+    counting.setWorkWeek({{2026, 11, 1}, Weekdays(0b1000001)}); // Sunday and Monday
+    EXPECT_EQ(painted(dayButton(view, friday), 4), theme.nonWorkday);
+    EXPECT_EQ(painted(dayButton(view, 22), 4), theme.unknown);
+    EXPECT_TRUE(counting.setLeavesOutVacation(true));
+    view.focusDay(22);
+    press(view, Key_4);
+    EXPECT_TRUE(shownTexts(view).contains(u"9 workdays"_s));
+}
+
 TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)
 {
     const std::function<void()> ways[]{
@@ -96,7 +132,7 @@ TEST_F(CalendarViewTest, thePickerOpensFromPointerAndKeysAndSetsEveryState)
         for (const QAction* item : QApplication::activePopupWidget()->actions())
             items += item->text() + item->shortcut().toString() + (item->isChecked() ? u'*' : u' ');
         QString expected =
-            u"&Unknown1 &In the Office2 &Out of Office3 &Vacation Day4 &Will Be In Office5  &Details…Return "_s;
+            u"&Unknown1 &In the Office2 &Out of Office3 &Vacation Day4 &Will Be In Office5  Out of Office &As &Not a Workday  &Details…Return "_s;
         expected[expected.indexOf(QString::number(current)) + 1] = u'*';
         EXPECT_EQ(items, expected);
         view.setMonth(month(2026, 8)); // the choice is for the day that was asked about

@@ -114,6 +114,26 @@ TEST_F(DayDetailsTest, aNoteIsSavedAfterAPauseOnClosingAndWithTheWindowAndIsSeen
     EXPECT_EQ(notesOnDisk(), QStringList(u"c"_s));
 }
 
+TEST_F(DayDetailsTest, aKindOfAbsenceIsNamedFromTheMenuAndADayOffInItsDetails)
+{
+    const auto spoken = [&] { return window->focusWidget()->accessibleName().section(u", "_s, 1); };
+    press(*window, Qt::Key_F10, Qt::ShiftModifier);
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_O}) {
+        const QWidget* popup = QApplication::activePopupWidget();
+        press(*window, key);
+        EXPECT_TRUE(eventually([&] { return QApplication::activePopupWidget() != popup; }));
+    }
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_C, Qt::Key_Return}) // without a name it stays open
+        press(*QApplication::activePopupWidget(), key);
+    EXPECT_TRUE(eventually([&] { return spoken() == u"Out of Office (c)"_s; }));
+    counting.addDaysOff({{.date = {2026, 11, 20}}});
+    EXPECT_TRUE(open().accessibleDescription().startsWith(u"Out of Office (c). By hand"));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_X})
+        press(*window, key);
+    close();
+    EXPECT_TRUE(eventually([&] { return spoken() == u"Out of Office (c), Day Off: x"_s; }));
+}
+
 TEST_F(DayDetailsTest, whileTheStoreCannotBeReadTheMonthIsShownAndNoNoteIsTaken)
 {
     QFile store(path);

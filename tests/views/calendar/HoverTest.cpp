@@ -50,6 +50,17 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
     EXPECT_TRUE(eventually([&] { return labels().isEmpty(); }));
 }
 
+TEST_F(HoverTest, aDayOffAndAKindOfAbsenceAreNamedAsFarAsThereIsRoom)
+{
+    marker.markAbsence(*november, friday - 1, AbsenceKind::sick);
+    counting.addDaysOff({{{2026, 11, friday}, u"Harvest"_s}, {{2026, 11, saturday}, QString(200, u'x')}});
+    rest(friday);
+    EXPECT_EQ(labels().last()->text(), u"Out of Office (Sick) · Harvest"_s);
+    rest(saturday);
+    EXPECT_TRUE(labels().last()->text().startsWith(u"Unknown · xxx"));
+    EXPECT_LE(labels().last()->width(), view.width());
+}
+
 TEST_F(HoverTest, theStateDoesNotFadeInForPeopleWhoWantNoAnimations)
 {
     QApplication::setStyle(new StillStyle);
