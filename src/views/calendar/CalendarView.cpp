@@ -15,6 +15,7 @@
 #include "StateGestures.h"
 #include "Theme.h"
 #include "ViewSettings.h"
+#include "WeekColumn.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -50,7 +51,10 @@ CalendarView::CalendarView(const CalendarParts& parts, bool highlighted, QWidget
     connect(&parts.counting, &CountingRecords::changed, this, &CalendarView::refresh);
     connect(&m_notes, &MonthNotes::changed, this, &CalendarView::refresh);
     follow(parts.viewSettings.firstDayOfWeek, this, [this] { followWeekStart(); });
+    follow(parts.viewSettings.showWeekNumbers, this, [this] { followWeekNumbers(); });
 }
+
+CalendarView::~CalendarView() = default;
 
 void CalendarView::addCells()
 {
@@ -132,6 +136,16 @@ void CalendarView::followWeekStart()
         focusDay(focused, Qt::OtherFocusReason);
 }
 
+void CalendarView::followWeekNumbers()
+{
+    m_weeks.reset();
+    if (!m_parts.viewSettings.showWeekNumbers)
+        return;
+    m_weeks = std::make_unique<WeekColumn>(m_parts, *m_grid, CalendarHeader::rows);
+    connect(m_weeks.get(), &WeekColumn::changed, this, &CalendarView::refreshWeeks);
+    refreshWeeks();
+}
+
 CommandClickableButton& CalendarView::cellOf(int dayOfMonth) const
 {
     return *m_cells[static_cast<std::size_t>(m_order.placeOf(*m_month->indexOf(dayOfMonth)))];
@@ -164,6 +178,13 @@ void CalendarView::refresh()
     m_header.setWorkdays(workdayCount(*m_month, texts.counting()));
     for (int place = 0; place < GridOrder::places; ++place)
         refreshCell(place, texts, today);
+    refreshWeeks();
+}
+
+void CalendarView::refreshWeeks()
+{
+    if (m_weeks && m_month)
+        m_weeks->show(*m_month, m_order);
 }
 
 void CalendarView::refreshCell(qsizetype place, const DayTexts& texts, QDate today)

@@ -18,6 +18,7 @@
 class CommandClickableButton;
 class Month;
 class QGridLayout;
+class WeekColumn;
 
 /// The grid of a month, in which days are marked by hand. The arrow keys move between days.
 class CalendarView : public QWidget {
@@ -25,6 +26,7 @@ class CalendarView : public QWidget {
 
 public:
     explicit CalendarView(const CalendarParts& parts, bool highlighted = false, QWidget* parent = nullptr);
+    ~CalendarView() override;
 
     void setMonth(const std::shared_ptr<Month>& month);
     [[nodiscard]] Month* month() const { return m_month.get(); }
@@ -58,7 +60,9 @@ private:
     void showPicker(qsizetype place);
     [[nodiscard]] bool handleDayKey(const QKeyEvent& event);
     void followWeekStart();
+    void followWeekNumbers();
     void refresh();
+    void refreshWeeks();
     void refreshCell(qsizetype place, const DayTexts& texts, QDate today);
     [[nodiscard]] CommandClickableButton& cellOf(int dayOfMonth) const;
     /// The day of a cell, 0 or less if it shows none.
@@ -79,4 +83,6 @@ private:
     /// By their places.
     std::vector<CommandClickableButton*> m_cells;
     CommandClickableButton* m_tabStop = nullptr;
+    /// While it is switched on.
+    std::unique_ptr<WeekColumn> m_weeks;
 };

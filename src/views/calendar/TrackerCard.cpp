@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int spacing = 8;
+constexpr int leastInset = 6;
 
 } // namespace
 
@@ -41,8 +42,8 @@ void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
 void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 {
     auto* header = new QGridLayout;
-    // The arrows of the navigation are above the ends of the tracker.
-    const int inset = fonts::grown(36, font());
+    // The arrows of the navigation are above the ends of the tracker. Without them a grid has room for its weeks.
+    const int inset = navigation != nullptr ? fonts::grown(36, font()) : leastInset;
     header->setContentsMargins(inset, SpokenGroup::ringRoom, inset, 0);
     header->setVerticalSpacing(spacing);
     if (navigation != nullptr)

@@ -25,6 +25,7 @@ CalendarViewSettingsView::CalendarViewSettingsView(ViewSettings& settings, QWidg
     add(tr("Show \"Will be In Office\" in Progress Tracker"), settings.showWillBeInOfficeStats);
     add(tr("Show day status on hover"), settings.showStatusLabelOnHover);
     add(tr("Show Unmarked Workdays"), settings.showUnmarkedWorkdays);
+    add(tr("Show Week Numbers"), settings.showWeekNumbers);
     addFirstDay(*rows, settings.firstDayOfWeek);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarViewTest.h"
 #include "GridOrder.h"
+#include "WeekLabel.h"
 
 #include <QAccessible>
 
@@ -68,6 +69,52 @@ TEST_F(CalendarViewTest, anotherFirstDayOfTheWeekMovesTheDaysAndNotTheFocus)
     viewSettings.firstDayOfWeek = Qt::Saturday;
     press(view, Qt::Key_1);
     expectDays(u"SSMTWTF"_s, 4);
+}
+
+TEST_F(CalendarViewTest, weeksCountTheirOfficeDaysWithThoseOfTheNeighbouringMonths)
+{
+    const auto weeks = [&] {
+        QStringList texts;
+        for (const auto* week : view.findChildren<WeekLabel*>()) {
+            if (week->isVisible())
+                texts += week->accessibleName().section(u' ', 1);
+        }
+        return texts.join(u' ').remove(u" office days"_s).remove(u" office day"_s);
+    };
+    const auto setState = [&](QDate date, DayState state) {
+        marker.mark({{date, state}}, ChangedBy::Hand);
+        QApplication::processEvents();
+    };
+    setState({2026, 10, 27}, DayState::IN_OFFICE);
+    EXPECT_EQ(weeks(), QString());
+    const QSize size = view.sizeHint();
+    viewSettings.showWeekNumbers = true;
+    EXPECT_GT(view.sizeHint().width(), size.width());
+    EXPECT_EQ(view.sizeHint().height(), size.height());
+    EXPECT_EQ(weeks(), u"45: 0 46: 0 47: 0 48: 0 49: 0"_s); // a week that begins on Sunday has the number of its Monday
+    viewSettings.firstDayOfWeek = Qt::Monday;
+    EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 0 48: 0 49: 0"_s);
+    setState({2026, 12, 6}, DayState::IN_OFFICE);
+    setState({2026, 10, 25}, DayState::IN_OFFICE);
+    click(dayButton(view, friday));
+    EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 1 48: 0 49: 1"_s);
+    AttendanceRule rule; // of a month
+    EXPECT_TRUE(counting.addRule(rule));
+    rule.name = u"W"_s;
+    rule.amount = 100;
+    rule.unit = AttendanceRule::Unit::Days;
+    rule.span = AttendanceRule::Span::Week;
+    rule.from = QDate(2026, 11, 16);
+    rule.until = QDate(2026, 11, 29);
+    EXPECT_TRUE(counting.addRule(rule));
+    EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 1. W: 1 of 1, reached 48: 0. W: 0 of 1 49: 1"_s);
+    mark(*november, 24, DayState::VACATION_DAY);
+    settings->vacationDaysCountAsInOffice = true;
+    EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 1. W: 1 of 1, reached 48: 1. W: 1 of 1, reached 49: 1"_s);
+    view.setMonth(std::make_shared<Month>(2026, 12)); // a sample
+    EXPECT_EQ(weeks(), QString());
+    viewSettings.showWeekNumbers = false;
+    EXPECT_EQ(view.findChild<WeekLabel*>(), nullptr);
 }
 
 TEST_F(CalendarViewTest, theMenuSaysWhyOneIsOutOfOfficeAndThatADayIsNoWorkday)

@@ -167,12 +167,13 @@ TEST_F(AppWindowsTest, switchesAreTheSameInEveryWindowAndStoredAtOnce)
         {u"Show \"Will be In Office\" in Progress Tracker"_s, u"WillBeInOfficeStats"_s},
         {u"Show day status on hover"_s, u"StatusLabelOnHover"_s},
         {u"Show Unmarked Workdays"_s, u"UnmarkedWorkdays"_s},
+        {u"Show Week Numbers"_s, u"WeekNumbers"_s},
     };
     qsizetype changed = 0;
     for (const auto& [text, key] : rows) {
         EXPECT_EQ(switches.at(changed)->text(), text);
         click(*switches.at(changed));
-        EXPECT_EQ(stored.value(u"calendarViewShow"_s + key), QVariant(false));
+        EXPECT_EQ(stored.value(u"calendarViewShow"_s + key), QVariant(changed == 6)); // off at first
         EXPECT_EQ(stored.allKeys().size(), ++changed);
     }
     EXPECT_FALSE(ViewSettings(stored).showMonthStats);
