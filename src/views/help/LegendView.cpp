@@ -54,6 +54,8 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     for (const DayState state : allDayStates)
         addSwatch(*grid, {.id = 1, .state = state, .isWorkday = true}, description(state));
     addSwatch(*grid, {.id = 1}, tr("Weekend Day"));
+    addDayOff(*grid);
+    addWeek(*grid);
     grid->setRowMinimumHeight(grid->rowCount(), 4);
     addGesture(*grid, {}, Symbol::Click, tr("Change to Next Status"), tr("Click"));
     // Ctrl with a click resets a day here, so the Menu key and the right button open the menu instead.
@@ -89,6 +91,22 @@ void LegendView::addSwatch(QGridLayout& grid, const Day& day, const QString& tex
     if (day.isWorkday)
         grid.addWidget(new KeyCap(keyText(day.state)), row, numberColumn);
     addText(grid, row, text, spokenText(day, text));
+}
+
+void LegendView::addDayOff(QGridLayout& grid)
+{
+    const int row = grid.rowCount();
+    grid.addWidget(new DaySwatch({.id = 1}, true), row, swatchColumn, Qt::AlignCenter);
+    addText(grid, row, tr("Day Off, such as a Holiday"), tr("Day Off, such as a Holiday: a thin outline"));
+}
+
+void LegendView::addWeek(QGridLayout& grid)
+{
+    const int row = grid.rowCount();
+    const QString week = tr("48 · 2", "number of a week, and its days in the office");
+    grid.addWidget(labels::singleLine(labels::dim(week)), row, swatchColumn, Qt::AlignCenter);
+    const QString text = tr("Week, and Its Office Days");
+    addText(grid, row, text, text);
 }
 
 void LegendView::addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text,

@@ -20,6 +20,8 @@ public:
 
 private:
     void addSwatch(QGridLayout& grid, const Day& day, const QString& text);
+    void addDayOff(QGridLayout& grid);
+    void addWeek(QGridLayout& grid);
     void addGesture(QGridLayout& grid, const QString& key, Symbol symbol, const QString& text, const QString& spoken);
     /// Adds the text of a row, with what a screen reader says of the whole row.
     void addText(QGridLayout& grid, int row, const QString& text, const QString& spoken);

@@ -26,4 +26,7 @@ TEST_F(LegendViewTest, showsTheStatesOfTheCalendarWithTheirKeys)
     for (int i = 0; i < 5; ++i)
         expectRow(i + 1, description(allDayStates.at(i)), {1, allDayStates.at(i), true}, keys.at(i));
     expectRow(6, u"Weekend Day"_s, {1}, {});
+    const auto swatch = [&](int row) { return grid.itemAtPosition(row, 0)->widget()->grab().toImage(); };
+    EXPECT_NE(swatch(7), swatch(6));
+    EXPECT_EQ(swatch(7).pixelColor(3, 10), swatch(6).pixelColor(3, 10)) << "within the outline of a day off";
 }
