@@ -382,23 +382,9 @@
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>dddd d MMMM yyyy</source>
-        <extracomment>A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
-        <translation>dddd, d. MMMM yyyy</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <comment>date and state</comment>
-        <translation>%1, %2</translation>
-    </message>
-    <message>
         <source>%1, has a note</source>
         <comment>date and state</comment>
         <translation>%1, mit Notiz</translation>
-    </message>
-    <message>
-        <source>Details…</source>
-        <translation>Details …</translation>
     </message>
 </context>
 <context>
@@ -426,6 +412,26 @@
     <message>
         <source>Show Unmarked Workdays</source>
         <translation>Offene Arbeitstage anzeigen</translation>
+    </message>
+    <message>
+        <source>Show Week Numbers</source>
+        <translation>Kalenderwochen anzeigen</translation>
+    </message>
+    <message>
+        <source>First Day of Week</source>
+        <translation>Erster Tag der Woche</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>As the System Has It</source>
+        <translation>Wie im System</translation>
     </message>
 </context>
 <context>
@@ -643,6 +649,10 @@
         <comment>state, and who set it when</comment>
         <translation>Zurücksetzen auf %1. %2</translation>
     </message>
+    <message>
+        <source>Day Off</source>
+        <translation>Freier Tag</translation>
+    </message>
 </context>
 <context>
     <name>DayHistory</name>
@@ -689,6 +699,32 @@
     </message>
 </context>
 <context>
+    <name>DayMenu</name>
+    <message>
+        <source>Details…</source>
+        <translation>Details …</translation>
+    </message>
+    <message>
+        <source>Out of Office As</source>
+        <translation>Nicht im Büro, und zwar</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>Anderer Grund …</translation>
+    </message>
+    <message>
+        <source>Not a Workday</source>
+        <translation>Kein Arbeitstag</translation>
+    </message>
+</context>
+<context>
+    <name>DayOffField</name>
+    <message>
+        <source>Name of the Day Off</source>
+        <translation>Name des freien Tags</translation>
+    </message>
+</context>
+<context>
     <name>DayState</name>
     <message>
         <source>Unknown</source>
@@ -709,6 +745,37 @@
     <message>
         <source>Will Be In Office</source>
         <translation>Im Büro geplant</translation>
+    </message>
+</context>
+<context>
+    <name>DayTexts</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>state, and why out of office</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Day Off</source>
+        <translation>Freier Tag</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>state, and name of the day off</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>dddd d MMMM yyyy</source>
+        <extracomment>A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>dddd, d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date and state</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Day Off: %1</source>
+        <translation>Freier Tag: %1</translation>
     </message>
 </context>
 <context>
@@ -923,6 +990,23 @@
         <extracomment>%1 is the Shift key.</extracomment>
         <translation>Rückgängig, mit %1: Wiederholen</translation>
     </message>
+    <message>
+        <source>Day Off, such as a Holiday</source>
+        <translation>Freier Tag, etwa ein Feiertag</translation>
+    </message>
+    <message>
+        <source>Day Off, such as a Holiday: a thin outline</source>
+        <translation>Freier Tag, etwa ein Feiertag: ein dünner Rand</translation>
+    </message>
+    <message>
+        <source>48 · 2</source>
+        <comment>number of a week, and its days in the office</comment>
+        <translation>48 · 2</translation>
+    </message>
+    <message>
+        <source>Week, and Its Office Days</source>
+        <translation>Kalenderwoche und ihre Bürotage</translation>
+    </message>
 </context>
 <context>
     <name>LocationAlert</name>
@@ -1099,6 +1183,25 @@
             <numerusform>Alle %n auf „%1“ setzen</numerusform>
             <numerusform>Alle %n auf „%1“ setzen</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>OtherKind</name>
+    <message>
+        <source>This could not be saved. Try again later.</source>
+        <translation>Das konnte nicht gespeichert werden. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>Out of Office As</source>
+        <translation>Nicht im Büro, und zwar</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2690,40 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>WeekLabel</name>
+    <message>
+        <source>%1 · %2</source>
+        <comment>number of a week, and its days in the office</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>days in the office, and those that are needed</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Week %1: 1 office day</source>
+        <translation>Kalenderwoche %1: 1 Bürotag</translation>
+    </message>
+    <message numerus="yes">
+        <source>Week %1: %n office days</source>
+        <translation>
+            <numerusform>Kalenderwoche %1: %n Bürotag</numerusform>
+            <numerusform>Kalenderwoche %1: %n Bürotage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. %2: %3</source>
+        <comment>week, name of a rule, and how it is met</comment>
+        <translation>%1. %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, reached</source>
+        <comment>a rule</comment>
+        <translation>%1, erreicht</translation>
     </message>
 </context>
 <context>
