@@ -110,6 +110,11 @@ CountingRecords::Action CountingRecords::leavingOutVacation(bool leavesOut)
     };
 }
 
+const DayAbsences& CountingRecords::absences() const
+{
+    return m_marker.absences();
+}
+
 QList<AbsenceKind> CountingRecords::absenceKinds() const
 {
     return m_marker.absences().kinds();

@@ -13,6 +13,7 @@
 #include <optional>
 
 class AppSettings;
+class DayAbsences;
 class DayMarker;
 class ModelContext;
 
@@ -35,6 +36,7 @@ public:
     /// Switches off that vacation days count as in the office, which excludes it; and the other way round.
     bool setLeavesOutVacation(bool leavesOut);
 
+    [[nodiscard]] const DayAbsences& absences() const;
     /// The kinds of the program, then those of the person in the order in which they were named.
     [[nodiscard]] QList<AbsenceKind> absenceKinds() const;
     bool setTreatment(int kind, Treatment treatment);

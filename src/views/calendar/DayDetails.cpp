@@ -166,10 +166,6 @@ void DayDetails::showStates()
         how = DayHistory::describe(states.takeFirst(), m_clock.today());
     else if (states.isEmpty() && day().state != DayState::UNKNOWN)
         how = tr("Set before changes were recorded");
-    const QString state = m_marker.absences().describe(day().state, m_marker.absences().kindOf(m_date));
-    setAccessibleDescription(how.isEmpty() ? state : tr("%1. %2", "state, and who set it when").arg(state, how));
-    replaceContents(*m_current, makeState(day(), state, how));
-
     const DayTexts texts(m_counting);
     const QString state = texts.state(m_date, day().state);
     setAccessibleDescription(how.isEmpty() ? state : tr("%1. %2", "state, and who set it when").arg(state, how));
@@ -220,11 +216,8 @@ QWidget* DayDetails::makeEarlierState(const PastState& state)
     then.state = state.state;
     const QString how = DayHistory::describe(state, m_clock.today());
     const QString name = m_marker.absences().describe(state.state, state.absenceKind);
-    QWidget* row = makeState(then, name, how);
+    QWidget* row = makeState(DayTexts(m_counting).colored(then, m_date), name, how);
     if (isCurrent(state))
-
-        QWidget* row = makeState(DayTexts(m_counting).colored(then, m_date), description(then.state), how);
-    if (then == day())
         return row;
     auto* button = new LinkButton(tr("Set Back"));
     button->setAccessibleName(tr("Set back to %1. %2", "state, and who set it when").arg(name, how));

@@ -2,10 +2,9 @@
 #include "DayTexts.h"
 
 #include "CountingRecords.h"
+#include "DayAbsences.h"
 
 #include <QLocale>
-
-#include <algorithm>
 
 DayTexts::DayTexts(const CountingRecords& records)
     : m_records(&records)
@@ -22,10 +21,8 @@ Day DayTexts::colored(Day day, QDate date) const
 
 QString DayTexts::state(QDate date, DayState state) const
 {
-    const int kind = state == DayState::OUT_OF_OFFICE ? m_counting.absenceKind(date) : AbsenceKind::none;
-    const QString name = kindName(kind);
-    return name.isEmpty() ? description(state)
-                          : tr("%1 (%2)", "state, and why out of office").arg(description(state), name);
+    return m_records != nullptr ? m_records->absences().describe(state, m_counting.absenceKind(date))
+                                : description(state);
 }
 
 QString DayTexts::onHover(QDate date, DayState dayState) const
@@ -48,14 +45,4 @@ QString DayTexts::spoken(QDate date, DayState dayState) const
         return known;
     const QString name = dayOff->name.isEmpty() ? tr("Day Off") : tr("Day Off: %1").arg(dayOff->name);
     return tr("%1, %2", "date and state").arg(known, name);
-}
-
-QString DayTexts::kindName(int kind) const
-{
-    if (kind == AbsenceKind::none)
-        return {};
-    if (!m_kinds)
-        m_kinds = m_records->absenceKinds();
-    const auto found = std::ranges::find(*m_kinds, kind, &AbsenceKind::id);
-    return found == m_kinds->end() ? QString() : description(*found);
 }

@@ -6,8 +6,6 @@
 
 #include <QCoreApplication>
 
-#include <optional>
-
 class CountingRecords;
 
 /// What is said of the days of a month beside their states: why one was out of office, and that one is a day off.
@@ -31,11 +29,6 @@ public:
     [[nodiscard]] QString spoken(QDate date, DayState state) const;
 
 private:
-    /// Empty if there is none.
-    [[nodiscard]] QString kindName(int kind) const;
-
     const CountingRecords* m_records = nullptr;
     Counting m_counting;
-    /// Read when they are needed.
-    mutable std::optional<QList<AbsenceKind>> m_kinds;
 };
