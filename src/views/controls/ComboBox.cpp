@@ -65,7 +65,8 @@ QSize ComboBox::sizeHint() const
     int widest = 0;
     for (int i = 0; i < count(); ++i)
         widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(i)));
-    return QSize(widest + arrowRoom, fontMetrics().height()).grownBy(comboPadding);
+    constexpr int rounding = 1; // of a width that is no whole number
+    return QSize(widest + rounding + arrowRoom, fontMetrics().height()).grownBy(comboPadding);
 }
 
 QSize ComboBox::minimumSizeHint() const

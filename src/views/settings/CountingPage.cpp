@@ -13,6 +13,7 @@
 #include "WorkWeeksCard.h"
 
 #include <QFileInfo>
+#include <QTimer>
 #include <QVBoxLayout>
 
 CountingPage::CountingPage(CountingRecords& counting, const Clock& clock, QWidget* parent)
@@ -21,7 +22,8 @@ CountingPage::CountingPage(CountingRecords& counting, const Clock& clock, QWidge
     , m_clock(clock)
     , m_daysOff(new DaysOffCard(counting, clock))
 {
-    addWidget(new Page(makeCards()));
+    m_cards = new Page(makeCards());
+    addWidget(m_cards);
     connect(m_daysOff, &DaysOffCard::holidaysRequested, this, &CountingPage::reviewHolidays);
     connect(m_daysOff, &DaysOffCard::fileChosen, this, &CountingPage::reviewFile);
 }
@@ -66,5 +68,7 @@ void CountingPage::show(DaysOffReview* review, DaysOffCard::Origin origin)
         setCurrentIndex(0);
         page->deleteLater();
         m_daysOff->returnFrom(origin, message);
+        // Once it is laid out with what was added.
+        QTimer::singleShot(0, m_cards, [this] { m_cards->reveal(*m_daysOff); });
     });
 }

@@ -6,6 +6,7 @@
 #include <QStackedWidget>
 
 class DaysOffReview;
+class Page;
 
 /// The page of the settings about how days count, or the review of days off that may be added.
 class CountingPage : public QStackedWidget {
@@ -23,4 +24,5 @@ private:
     CountingRecords& m_counting;
     const Clock& m_clock;
     DaysOffCard* m_daysOff;
+    Page* m_cards;
 };

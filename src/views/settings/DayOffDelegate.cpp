@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int dayOffGap = 12;
+constexpr int dayOffGap = 8;
 constexpr int dayOffPadding = 8;
 constexpr int usualNameWidth = 140;
 

@@ -14,8 +14,8 @@ VacationCard::VacationCard(CountingRecords& counting, QWidget* parent)
     : CountingCard(tr("Vacation"), {}, parent)
 {
     const QString help =
-        tr("A vacation day is then no workday and neither helps nor harms, and “Vacation days count as "
-           "in the office” on the page General is off.");
+        tr("A vacation day is then not a workday: it counts neither for you nor against you, and \"Vacation "
+           "days count as in the office\" on the page General is off.");
     auto* toggle = new Switch(tr("Leave vacation days out of the workdays"));
     toggle->setObjectName("leaveOutVacation"_L1);
     toggle->setAccessibleDescription(help);
