@@ -87,6 +87,13 @@ QPainterPath questionMark()
     return path;
 }
 
+QPainterPath pencil()
+{
+    QPainterPath path = line({{2.6, 13.4}, {3.4, 10.2}, {10.8, 2.8}, {13.2, 5.2}, {5.8, 12.6}, {2.6, 13.4}});
+    path.addPath(line({{9.0, 4.6}, {11.4, 7.0}}));
+    return path;
+}
+
 QPainterPath calendar()
 {
     QPainterPath path;
@@ -198,6 +205,10 @@ QPainterPath strokesOf(Symbol symbol)
         return circled(line({{5.0, 8.2}, {7.2, 10.4}, {11.0, 5.8}}));
     case Symbol::Tick:
         return line({{3.0, 8.6}, {6.4, 12.0}, {13.0, 4.6}});
+    case Symbol::Circle:
+        return circled({});
+    case Symbol::Pencil:
+        return pencil();
     case Symbol::Calendar:
         return calendar();
     case Symbol::ArrowClockwise:

@@ -18,6 +18,8 @@ enum class Symbol {
     Cross,
     Check,
     Tick,
+    Circle,
+    Pencil,
     Calendar,
     ArrowClockwise,
     Click,
