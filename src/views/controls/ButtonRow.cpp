@@ -4,6 +4,16 @@
 #include <QBoxLayout>
 #include <QEvent>
 
+namespace {
+
+// A field of a fixed width may hint at another.
+int widthOf(const QWidget& widget)
+{
+    return qBound(widget.minimumWidth(), widget.sizeHint().width(), widget.maximumWidth());
+}
+
+} // namespace
+
 ButtonRow::ButtonRow(Qt::Alignment edge, QWidget* parent)
     : QWidget(parent)
     , m_edge(edge)
@@ -26,7 +36,7 @@ QSize ButtonRow::minimumSizeHint() const
 {
     int widest = 0;
     for (const auto* button : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        widest = qMax(widest, button->isHidden() ? 0 : button->sizeHint().width());
+        widest = qMax(widest, button->isHidden() ? 0 : widthOf(*button));
     return {widest, m_buttons->minimumSize().height()};
 }
 
@@ -45,8 +55,8 @@ void ButtonRow::arrange()
 
 int ButtonRow::totalWidth() const
 {
-    int width = 0;
+    int width = -m_buttons->spacing();
     for (const auto* button : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        width += button->isHidden() ? 0 : button->sizeHint().width() + m_buttons->spacing();
+        width += button->isHidden() ? 0 : widthOf(*button) + m_buttons->spacing();
     return width;
 }
