@@ -23,6 +23,8 @@ MonthView::MonthView(const CalendarParts& parts, QWidget* parent)
     m_month = new MonthCard(parts, navigation);
     connectNavigation(*navigation);
     connectCard(*m_month);
+    m_month->addRules();
+    m_quarter->addRules();
     contents().addWidget(m_month, 0, Qt::AlignHCenter);
     contents().addWidget(m_quarter, 0, Qt::AlignHCenter);
     const auto& isQuarterShown = parts.viewSettings.showQuarterStats;

@@ -28,6 +28,7 @@ QuarterStatsView::QuarterStatsView(const CalendarParts& parts, NavigationRow* na
     m_workdays->setAlignment(Qt::AlignCenter);
     addHeader(navigation, m_title);
     addBelowTracker(m_workdays);
+    addRules();
     connect(&parts.clock, &Clock::dayChanged, this, &QuarterStatsView::refresh);
     connect(&parts.counting, &CountingRecords::changed, this, &QuarterStatsView::refresh);
     // Vacation may be left out of the workdays. After the change is saved.

@@ -5,8 +5,10 @@
 #include "Follow.h"
 #include "Fonts.h"
 #include "LinkButton.h"
+#include "Month.h"
 #include "NavigationRow.h"
 #include "ProgressWidgetView.h"
+#include "RuleLines.h"
 #include "SpokenGroup.h"
 #include "ViewSettings.h"
 
@@ -22,6 +24,9 @@ constexpr int leastInset = 6;
 TrackerCard::TrackerCard(const CalendarParts& parts, PeriodWord period, const QProperty<bool>& isTrackerShown,
                          QWidget* parent)
     : Card(parent)
+    , m_parts(parts)
+    , m_period(period)
+    , m_isTrackerShown(isTrackerShown)
     , m_column(new QVBoxLayout(this))
     , m_tracker(new ProgressWidgetView(parts.settings, parts.viewSettings, period, &parts.counting.counting()))
 {
@@ -37,6 +42,27 @@ TrackerCard::TrackerCard(const CalendarParts& parts, PeriodWord period, const QP
 void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
 {
     m_tracker->setMonths(months);
+    const auto dayOf = [](const Month& month, int day) { return QDate(month.year, month.month, day); };
+    m_days = {dayOf(*months.first(), 1), dayOf(*months.last(), months.last()->daysInMonth)};
+    if (m_rules != nullptr)
+        m_rules->setPeriod(m_days);
+    else if (m_hasRules)
+        buildRules();
+}
+
+void TrackerCard::addRules()
+{
+    m_hasRules = true;
+    connect(&m_parts.counting, &CountingRecords::changed, this, &TrackerCard::buildRules);
+}
+
+void TrackerCard::buildRules()
+{
+    if (m_rules != nullptr || m_parts.counting.rules().value().isEmpty())
+        return;
+    m_rules = new RuleLines(m_parts, m_period == PeriodWord::Quarter, m_isTrackerShown);
+    m_column->addWidget(m_rules);
+    m_rules->setPeriod(m_days);
 }
 
 void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)

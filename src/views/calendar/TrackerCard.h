@@ -3,6 +3,7 @@
 
 #include "CalendarParts.h"
 #include "Card.h"
+#include "RuleProgress.h"
 #include "StatisticsTexts.h"
 
 #include <QProperty>
@@ -12,6 +13,7 @@
 class Month;
 class NavigationRow;
 class ProgressWidgetView;
+class RuleLines;
 class QVBoxLayout;
 
 /// A card with the progress tracker of a period, while that is switched on.
@@ -23,6 +25,8 @@ public:
                 QWidget* parent = nullptr);
 
     void setMonths(const QList<std::shared_ptr<Month>>& months);
+    /// Shows how far the rules are met, below all else. The lines are built when there is a rule.
+    void addRules();
     /// Adds a line that begins and ends where the tracker does.
     void addAboveTracker(QWidget* widget);
 
@@ -32,6 +36,14 @@ protected:
     void addBelowTracker(QWidget* widget);
 
 private:
+    void buildRules();
+
+    CalendarParts m_parts;
+    PeriodWord m_period;
+    const QProperty<bool>& m_isTrackerShown;
     QVBoxLayout* m_column;
     ProgressWidgetView* m_tracker;
+    bool m_hasRules = false;
+    RuleLines* m_rules = nullptr;
+    DaySpan m_days;
 };

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RuleLines.h"
+
+#include "AppSettings.h"
+#include "Clock.h"
+#include "CountingRecords.h"
+#include "DayMarker.h"
+#include "Follow.h"
+#include "RuleTexts.h"
+#include "StoreError.h"
+#include "StoredDays.h"
+#include "ViewSettings.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+using Verdict = RuleProgress::Verdict;
+
+double fraction(qint64 days, qint64 wanted)
+{
+    return wanted > 0 ? std::clamp(static_cast<double>(days) / static_cast<double>(wanted), 0.0, 1.0) : 0.0;
+}
+
+void leaveOutPlanned(RuleProgress& progress)
+{
+    progress.planned = 0;
+    if (progress.verdict == Verdict::KeptWithPlanned)
+        progress.verdict = Verdict::Open;
+}
+
+} // namespace
+
+RuleLines::RuleLines(const CalendarParts& parts, bool isQuarter, const QProperty<bool>& isTrackerShown, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(parts)
+    , m_isQuarter(isQuarter)
+    , m_isTrackerShown(isTrackerShown)
+    , m_column(new QVBoxLayout(this))
+{
+    m_column->setContentsMargins({});
+    m_column->setSpacing(0);
+    const auto refresh = [this] { this->refresh(); };
+    // After the change is saved.
+    connect(&parts.marker, &DayMarker::changed, this, refresh, Qt::QueuedConnection);
+    connect(&parts.counting, &CountingRecords::changed, this, refresh);
+    connect(&parts.clock, &Clock::dayChanged, this, refresh);
+    onChange(parts.settings.vacationDaysCountAsInOffice, this, refresh);
+    onChange(parts.viewSettings.firstDayOfWeek, this, refresh);
+    onChange(parts.viewSettings.showProgressBars, this, refresh);
+    onChange(parts.viewSettings.showWillBeInOfficeStats, this, refresh);
+    onChange(isTrackerShown, this, refresh);
+}
+
+void RuleLines::setPeriod(DaySpan period)
+{
+    m_period = period;
+    refresh();
+}
+
+void RuleLines::refresh()
+{
+    const QList<RuleLine::Contents> shown = isShown() ? contents() : QList<RuleLine::Contents>();
+    while (m_lines.size() < shown.size()) {
+        m_lines.append(new RuleLine);
+        m_column->addWidget(m_lines.last(), 0, Qt::AlignHCenter);
+    }
+    while (m_lines.size() > shown.size())
+        delete m_lines.takeLast();
+    for (qsizetype i = 0; i < shown.size(); ++i)
+        m_lines.at(i)->setContents(shown.at(i));
+    setVisible(!shown.isEmpty());
+}
+
+bool RuleLines::isShown() const
+{
+    return m_isTrackerShown && m_parts.viewSettings.showProgressBars && m_period.first.isValid();
+}
+
+bool RuleLines::belongsHere(const AttendanceRule& rule) const
+{
+    return m_isQuarter == (rule.span == AttendanceRule::Span::Quarter || rule.span == AttendanceRule::Span::Year);
+}
+
+QList<RuleLine::Contents> RuleLines::contents() const
+{
+    QList<AttendanceRule> rules = m_parts.counting.rules();
+    rules.removeIf([this](const AttendanceRule& rule) { return !belongsHere(rule); });
+    if (rules.isEmpty())
+        return {};
+    DaySpan span = daysOf(rules.first());
+    for (const AttendanceRule& rule : rules) {
+        const DaySpan days = daysOf(rule);
+        span = {std::min(span.first, days.first), std::max(span.last, days.last)};
+    }
+    QList<RuleLine::Contents> shown;
+    try {
+        const CountedDays days = countedDays(m_parts.marker.context(), span, m_parts.counting.counting(),
+                                             m_parts.settings.vacationDaysCountAsInOffice);
+        for (const AttendanceRule& rule : rules) {
+            if (const auto line = contentsOf(rule, days))
+                shown.append(*line);
+        }
+    } catch (const StoreError&) {
+        // The page says that it cannot load the month, and tries again.
+        return {};
+    }
+    return shown;
+}
+
+std::optional<RuleLine::Contents> RuleLines::contentsOf(const AttendanceRule& rule, const CountedDays& days) const
+{
+    const QDate today = m_parts.clock.today();
+    if (isSummarised(rule))
+        return summaryOf(rule, days);
+    auto progress = ruleProgress(rule, days, reference(), today, m_parts.viewSettings.weekStart());
+    if (!progress)
+        return {};
+    if (!m_parts.viewSettings.showWillBeInOfficeStats)
+        leaveOutPlanned(*progress);
+    const bool isDone =
+        progress->wanted == 0 && (rule.bound == AttendanceRule::Bound::AtLeast || progress->counted > 0);
+    return RuleLine::Contents{.name = rule.name,
+                              .count = ruleCountText(rule, *progress),
+                              .outlook = ruleOutlookText(rule, *progress, today),
+                              .verdict = progress->verdict,
+                              .progress = isDone ? 1.0 : fraction(progress->counted, progress->wanted),
+                              .prediction = fraction(progress->counted + progress->planned, progress->wanted)};
+}
+
+std::optional<RuleLine::Contents> RuleLines::summaryOf(const AttendanceRule& rule, const CountedDays& days) const
+{
+    const SpansKept spans = spansKept(rule, days, m_period, m_parts.clock.today(), m_parts.viewSettings.weekStart());
+    if (spans.spans == 0)
+        return {};
+    return RuleLine::Contents{.name = rule.name,
+                              .count = {},
+                              .outlook = spansKeptText(rule, spans),
+                              .verdict = spans.kept == spans.spans ? Verdict::Kept : Verdict::Broken,
+                              .progress = fraction(spans.kept, spans.spans)};
+}
+
+bool RuleLines::isSummarised(const AttendanceRule& rule) const
+{
+    const bool isShort = rule.span == AttendanceRule::Span::Week || rule.span == AttendanceRule::Span::TwoWeeks;
+    return isShort && m_period.last < m_parts.clock.today();
+}
+
+QDate RuleLines::reference() const
+{
+    return std::clamp(m_parts.clock.today(), m_period.first, m_period.last);
+}
+
+DaySpan RuleLines::daysOf(const AttendanceRule& rule) const
+{
+    const Qt::DayOfWeek weekStart = m_parts.viewSettings.weekStart();
+    return isSummarised(rule) ? daysOfSpansKept(rule, m_period, weekStart) : spanOf(rule, reference(), weekStart);
+}

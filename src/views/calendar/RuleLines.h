@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CalendarParts.h"
+#include "RuleLine.h"
+
+#include <QList>
+#include <QProperty>
+
+class QVBoxLayout;
+
+/// How far the rules are met in a month or quarter: a line for each whose span belongs there. It follows everything
+/// that changes them, and is hidden without lines.
+class RuleLines : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Those of a quarter are for quarters and years, those of a month for shorter spans. Nothing is counted while the
+    /// tracker is not shown.
+    RuleLines(const CalendarParts& parts, bool isQuarter, const QProperty<bool>& isTrackerShown,
+              QWidget* parent = nullptr);
+
+    void setPeriod(DaySpan period);
+
+private:
+    void refresh();
+    [[nodiscard]] bool isShown() const;
+    [[nodiscard]] bool belongsHere(const AttendanceRule& rule) const;
+    [[nodiscard]] QList<RuleLine::Contents> contents() const;
+    [[nodiscard]] std::optional<RuleLine::Contents> contentsOf(const AttendanceRule& rule,
+                                                               const CountedDays& days) const;
+    [[nodiscard]] std::optional<RuleLine::Contents> summaryOf(const AttendanceRule& rule,
+                                                              const CountedDays& days) const;
+    /// Whether a line is about all weeks of the month, because today is in none of them.
+    [[nodiscard]] bool isSummarised(const AttendanceRule& rule) const;
+    /// The day of the period whose span is shown.
+    [[nodiscard]] QDate reference() const;
+    [[nodiscard]] DaySpan daysOf(const AttendanceRule& rule) const;
+
+    CalendarParts m_parts;
+    bool m_isQuarter;
+    const QProperty<bool>& m_isTrackerShown;
+    DaySpan m_period;
+    QVBoxLayout* m_column;
+    QList<RuleLine*> m_lines;
+};

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RuleLine.h"
+
+#include "ElidedLines.h"
+#include "Fonts.h"
+#include "Labels.h"
+#include "Outline.h"
+#include "ProgressWidgetView.h"
+#include "Symbol.h"
+#include "Theme.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+
+namespace {
+
+constexpr int usualRuleBarHeight = 6;
+constexpr int usualRuleSymbolSize = 15;
+constexpr int symbolGap = 6;
+constexpr int countGap = 12;
+constexpr int ruleBarGap = 4;
+constexpr int outlookLineCount = 2;
+
+Symbol symbolOf(RuleProgress::Verdict verdict)
+{
+    switch (verdict) {
+    case RuleProgress::Verdict::Kept:
+        return Symbol::Check;
+    case RuleProgress::Verdict::KeptWithPlanned:
+        return Symbol::Calendar;
+    case RuleProgress::Verdict::Open:
+        return Symbol::Circle;
+    case RuleProgress::Verdict::Broken:
+        return Symbol::Cross;
+    }
+    Q_UNREACHABLE();
+}
+
+QColor colorOf(RuleProgress::Verdict verdict, const Theme& theme)
+{
+    switch (verdict) {
+    case RuleProgress::Verdict::Kept:
+        return theme.progressText;
+    case RuleProgress::Verdict::KeptWithPlanned:
+        return theme.predictionText;
+    case RuleProgress::Verdict::Open:
+        return theme.dimText;
+    case RuleProgress::Verdict::Broken:
+        return theme.errorText;
+    }
+    Q_UNREACHABLE();
+}
+
+// Stripes, so that planned days differ from others by more than colour.
+void paintStripes(QPainter& painter, const QRectF& area, const Theme& theme)
+{
+    painter.fillRect(area, theme.prediction);
+    painter.setPen(QPen(theme.card, 1.5));
+    const qreal pitch = area.height();
+    for (qreal x = area.left() - pitch; x < area.right(); x += pitch)
+        painter.drawLine(QPointF(x, area.bottom()), QPointF(x + pitch, area.top()));
+}
+
+} // namespace
+
+RuleLine::RuleLine(QWidget* parent)
+    : SpokenGroup(0, parent)
+{
+    setFont(fonts::body(font()));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void RuleLine::setContents(const Contents& contents)
+{
+    if (contents == m_contents)
+        return;
+    m_contents = contents;
+    QStringList texts{contents.count, contents.outlook};
+    texts.removeAll(QString());
+    setSpokenText(contents.name, texts);
+    layOut();
+}
+
+QSize RuleLine::sizeHint() const
+{
+    const int outlook = static_cast<int>(m_outlookLines.size()) * fontMetrics().lineSpacing();
+    return {ProgressWidgetView::columnWidth(QFont()) + 2 * ringRoom,
+            barRect().bottom() + 1 + ruleBarGap + outlook + ringRoom};
+}
+
+void RuleLine::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        layOut();
+    SpokenGroup::changeEvent(event);
+}
+
+int RuleLine::symbolSize() const
+{
+    return fonts::grown(usualRuleSymbolSize, font());
+}
+
+QRect RuleLine::barRect() const
+{
+    const int top = ringRoom + fontMetrics().height() + ruleBarGap;
+    return {ringRoom, top, width() - 2 * ringRoom, fonts::grown(usualRuleBarHeight, font())};
+}
+
+void RuleLine::layOut()
+{
+    const int column = sizeHint().width() - 2 * ringRoom;
+    const int beside = symbolSize() + symbolGap + fontMetrics().horizontalAdvance(m_contents.count) + countGap;
+    m_elidedName = fontMetrics().elidedText(m_contents.name, Qt::ElideRight, column - beside);
+    m_outlookLines = elidedLines(m_contents.outlook, font(), column, outlookLineCount);
+    setToolTip(m_elidedName == m_contents.name ? QString() : labels::help(m_contents.name));
+    updateGeometry();
+    update();
+}
+
+void RuleLine::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintTexts(painter);
+    paintBar(painter);
+    painter.end();
+    SpokenGroup::paintEvent(event);
+}
+
+void RuleLine::paintTexts(QPainter& painter) const
+{
+    const Theme& theme = themeFor(palette());
+    const QRect column = rect().adjusted(ringRoom, ringRoom, -ringRoom, -ringRoom);
+    const QRect first(column.left(), column.top(), column.width(), fontMetrics().height());
+    const auto textFlags = [this](Qt::Alignment side) {
+        return static_cast<int>(QStyle::visualAlignment(layoutDirection(), side) | Qt::AlignVCenter);
+    };
+    const QSize symbol(symbolSize(), symbolSize());
+    drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, first),
+               symbolOf(m_contents.verdict), colorOf(m_contents.verdict, theme));
+    painter.setPen(theme.text);
+    const QRect name = first.adjusted(symbolSize() + symbolGap, 0, 0, 0);
+    painter.drawText(QStyle::visualRect(layoutDirection(), first, name), textFlags(Qt::AlignLeft), m_elidedName);
+    painter.drawText(first, textFlags(Qt::AlignRight), m_contents.count);
+    painter.setPen(theme.dimText);
+    QRect line = first.translated(0, barRect().bottom() + 1 + ruleBarGap - first.top());
+    for (const QString& words : m_outlookLines) {
+        painter.drawText(line, textFlags(Qt::AlignLeft), words);
+        line.translate(0, fontMetrics().lineSpacing());
+    }
+}
+
+void RuleLine::paintBar(QPainter& painter) const
+{
+    const Theme& theme = themeFor(palette());
+    const QRectF bar = barRect();
+    const qreal radius = bar.height() / 2;
+    QPainterPath outline;
+    outline.addRoundedRect(bar, radius, radius);
+    const auto part = [&](double from, double to) {
+        const QRectF ahead(bar.left() + from * bar.width(), bar.top(), (to - from) * bar.width(), bar.height());
+        return isLeftToRight() ? ahead : ahead.translated(bar.left() + bar.right() - ahead.left() - ahead.right(), 0);
+    };
+    painter.save();
+    painter.setClipPath(outline);
+    painter.fillRect(bar, theme.progressTrack);
+    const bool isBroken = m_contents.verdict == RuleProgress::Verdict::Broken;
+    if (m_contents.prediction > m_contents.progress)
+        paintStripes(painter, part(m_contents.progress, m_contents.prediction), theme);
+    painter.fillRect(part(0.0, m_contents.progress), isBroken ? theme.outOfOffice : theme.progress);
+    painter.restore();
+    drawOutline(painter, bar, radius, theme);
+}
