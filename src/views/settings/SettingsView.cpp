@@ -4,11 +4,11 @@
 #include "Bar.h"
 #include "CountingPage.h"
 #include "DataPage.h"
-#include "DaysPerWeekGoalView.h"
 #include "FocusOrder.h"
 #include "Follow.h"
 #include "Fonts.h"
 #include "GeneralSettingsView.h"
+#include "GoalsPage.h"
 #include "LazyStack.h"
 #include "LocationManager.h"
 #include "Page.h"
@@ -42,11 +42,14 @@ protected:
 
 SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
                            InOfficeCheck& check, LaunchAtLogin& launchAtLogin, BackupService& backups,
-                           ModelContext& context, CountingRecords& counting, Clock& clock, QWidget* parent)
+                           ModelContext& context, CountingRecords& counting, Clock& clock,
+                           const ViewSettings& viewSettings, QWidget* parent)
     : QWidget(parent)
     , m_tabs(new SideTabs)
     , m_pages(new LazyStack({
-          [&settings] { return makeCardPage(new DaysPerWeekGoalView(settings, true)); },
+          [&settings, &counting, &context, &clock, &viewSettings] {
+              return new GoalsPage(settings, counting, context, clock, viewSettings);
+          },
           [&counting, &clock] { return new CountingPage(counting, clock); },
           [&settings, &wifiClient, &locationManager, &check] {
               return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));

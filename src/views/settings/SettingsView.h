@@ -14,6 +14,7 @@ class LocationManager;
 class ModelContext;
 class QVBoxLayout;
 class SideTabs;
+class ViewSettings;
 class WiFiClient;
 
 /// The settings: a list of pages at the side, of which one is shown.
@@ -23,7 +24,7 @@ class SettingsView : public QWidget {
 public:
     SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager, InOfficeCheck& check,
                  LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context, CountingRecords& counting,
-                 Clock& clock, QWidget* parent = nullptr);
+                 Clock& clock, const ViewSettings& viewSettings, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void welcomeRequested();

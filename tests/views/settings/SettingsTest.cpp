@@ -45,8 +45,9 @@ protected:
     }
     [[nodiscard]] QStringList networks() const { return settings->inOfficeSsids.value(); }
 
-    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
-                      counting,  clock};
+    SettingsView view{
+        *settings, wifiClient,  locationManager.defaultValue(), check, launchAtLogin, backups, context, counting,
+        clock,     viewSettings};
 };
 
 TEST_F(SettingsTest, aGoalIsAddedByReturnAndByTheButton)
