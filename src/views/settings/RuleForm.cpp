@@ -107,6 +107,7 @@ void RuleForm::addRow(QFormLayout& rows, const QString& name, const QList<QWidge
     auto* row = new ButtonRow(Qt::AlignLeft);
     for (QWidget* field : fields)
         row->add(field);
+    row->setMinimumHeight(m_name->sizeHint().height()); // so that nothing moves when a field is shown
     rows.addRow(besideField(name), row);
 }
 
