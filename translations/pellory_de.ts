@@ -871,6 +871,28 @@
     </message>
 </context>
 <context>
+    <name>GoalsPage</name>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>month, year</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>dates</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1: %2. %3.</source>
+        <comment>period, days, what is left</comment>
+        <translation>%1: %2. %3.</translation>
+    </message>
+</context>
+<context>
     <name>InOfficeCheck</name>
     <message>
         <source>Pellory</source>
@@ -1888,6 +1910,227 @@
     </message>
 </context>
 <context>
+    <name>RuleEditor</name>
+    <message>
+        <source>New Rule</source>
+        <translation>Neue Regel</translation>
+    </message>
+    <message>
+        <source>Edit Rule</source>
+        <translation>Regel bearbeiten</translation>
+    </message>
+    <message>
+        <source>Add Rule</source>
+        <translation>Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Save Changes</source>
+        <translation>Änderungen speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>From when on does the change hold?</source>
+        <translation>Ab wann gilt die Änderung?</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Schon immer</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Earlier months are counted by the changed rule too.</source>
+        <translation>Auch frühere Monate zählen nach der geänderten Regel.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Since Today</source>
+        <translation>Ab heute</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <comment>a date</comment>
+        <translation>Ab %1</translation>
+    </message>
+    <message>
+        <source>The rule as it was ends on %1 and keeps its figures.</source>
+        <translation>Die bisherige Regel endet am %1 und behält ihre Zahlen.</translation>
+    </message>
+    <message>
+        <source>The rule could not be saved, because your data cannot be read. Try again in a moment.</source>
+        <translation>Die Regel konnte nicht gespeichert werden, weil Ihre Daten nicht gelesen werden können. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>RuleForm</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>At least or at most</source>
+        <translation>Mindestens oder höchstens</translation>
+    </message>
+    <message>
+        <source>at least</source>
+        <translation>mindestens</translation>
+    </message>
+    <message>
+        <source>at most</source>
+        <translation>höchstens</translation>
+    </message>
+    <message>
+        <source>How many</source>
+        <translation>Wie viele</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>% of the workdays</source>
+        <translation>% der Arbeitstage</translation>
+    </message>
+    <message>
+        <source>days a week on average</source>
+        <translation>Tage/Woche im Schnitt</translation>
+    </message>
+    <message>
+        <source>Which days</source>
+        <translation>Welche Tage</translation>
+    </message>
+    <message>
+        <source>in the office</source>
+        <translation>im Büro</translation>
+    </message>
+    <message>
+        <source>out of office</source>
+        <translation>nicht im Büro</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>for any reason</source>
+        <translation>aus jedem Grund</translation>
+    </message>
+    <message>
+        <source>for a reason that was removed</source>
+        <translation>aus einem gelöschten Grund</translation>
+    </message>
+    <message>
+        <source>Only on</source>
+        <translation>Nur am</translation>
+    </message>
+    <message>
+        <source>On any day</source>
+        <translation>An jedem Tag</translation>
+    </message>
+    <message>
+        <source>In each</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>two weeks</source>
+        <translation>zwei Wochen</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>quarter</source>
+        <translation>Quartal</translation>
+    </message>
+    <message>
+        <source>year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>last weeks</source>
+        <translation>die letzten</translation>
+    </message>
+    <message>
+        <source>the first with</source>
+        <comment>a date</comment>
+        <translation>die erste mit</translation>
+    </message>
+    <message>
+        <source>A day in the first of the two weeks</source>
+        <translation>Ein Tag in der ersten der beiden Wochen</translation>
+    </message>
+    <message>
+        <source>beginning in</source>
+        <comment>a month</comment>
+        <translation>Beginn im</translation>
+    </message>
+    <message>
+        <source>First month</source>
+        <translation>Erster Monat</translation>
+    </message>
+    <message>
+        <source>How many weeks</source>
+        <translation>Wie viele Wochen</translation>
+    </message>
+    <message>
+        <source>weeks</source>
+        <translation>Wochen</translation>
+    </message>
+    <message>
+        <source>First day on which the rule holds</source>
+        <translation>Erster Tag, an dem die Regel gilt</translation>
+    </message>
+    <message>
+        <source>always</source>
+        <translation>schon immer</translation>
+    </message>
+    <message>
+        <source>Last day on which the rule holds</source>
+        <translation>Letzter Tag, an dem die Regel gilt</translation>
+    </message>
+    <message>
+        <source>no end</source>
+        <translation>ohne Ende</translation>
+    </message>
+    <message>
+        <source>Holds from</source>
+        <translation>Gilt ab</translation>
+    </message>
+    <message>
+        <source>until</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>How many must be a number above 0 and up to %1</source>
+        <translation>Die Anzahl muss eine Zahl über 0 und bis %1 sein</translation>
+    </message>
+    <message>
+        <source>Weeks must be a whole number between 1 and %1</source>
+        <translation>Die Wochen müssen eine ganze Zahl zwischen 1 und %1 sein</translation>
+    </message>
+    <message>
+        <source>The last day must not be before the first</source>
+        <translation>Der letzte Tag darf nicht vor dem ersten liegen</translation>
+    </message>
+</context>
+<context>
     <name>RulePresets</name>
     <message>
         <source>3 days every week</source>
@@ -2210,6 +2453,37 @@
     <message>
         <source>Reached in %1</source>
         <translation>In %1 erreicht</translation>
+    </message>
+</context>
+<context>
+    <name>RulesView</name>
+    <message>
+        <source>No rules</source>
+        <translation>Keine Regeln</translation>
+    </message>
+    <message>
+        <source>Add Rule</source>
+        <translation>Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>What your employer asks for. How far each rule is met is shown below the progress trackers.</source>
+        <translation>Was Ihr Arbeitgeber verlangt. Unter der Fortschrittsanzeige steht, wie weit jede Regel erfüllt ist.</translation>
+    </message>
+    <message>
+        <source>Edit the rule %1</source>
+        <translation>Regel %1 bearbeiten</translation>
+    </message>
+    <message>
+        <source>Remove the rule %1</source>
+        <translation>Regel %1 entfernen</translation>
+    </message>
+    <message>
+        <source>Own Rule...</source>
+        <translation>Eigene Regel ...</translation>
     </message>
 </context>
 <context>
