@@ -14,6 +14,7 @@ namespace {
 
 constexpr int dayOffGap = 8;
 constexpr int dayOffPadding = 8;
+constexpr int scrollBarRoom = 12;
 constexpr int usualNameWidth = 140;
 
 const ListedDayOff* dayOffAt(const QModelIndex& index)
@@ -79,7 +80,7 @@ void DayOffDelegate::paintDay(QPainter& painter, const QStyleOptionViewItem& opt
     };
     painter.setFont(m_font);
     const QColor& color = listed.isDim ? dim : text;
-    QRect rest = area.adjusted(4, 0, -dayOffGap, 0);
+    QRect rest = area.adjusted(4, 0, -scrollBarRoom, 0);
     draw({rest.topLeft(), QSize(m_dateWidth, rest.height())}, counting_texts::dayAndMonth(listed.day.date),
          Qt::AlignLeft, color);
     rest.adjust(m_dateWidth + dayOffGap, 0, 0, 0);
