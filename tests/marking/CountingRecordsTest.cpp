@@ -60,6 +60,28 @@ protected:
     int changes = 0;
 };
 
+TEST_F(CountingRecordsTest, withNothingChosenNothingIsStoredAndEveryFigureIsAsItWas)
+{
+    const auto month = findOrCreateMonth(context, clock.today());
+    DayEditor editor(marker);
+    for (const qsizetype index : {3, 4, 5}) {
+        editor.setDayState(*month, index, DayState::OUT_OF_OFFICE);
+        editor.cycleDayState(*month, index);
+    }
+    EXPECT_TRUE(counting.setLeavesOutVacation(false) && counting.removeHolidayRegion(clock.today()) &&
+                counting.removeDaysOff({clock.today()}) &&
+                counting.setTreatment(AbsenceKind::sick, Treatment::OutOfOffice));
+    settings->vacationDaysCountAsInOffice = true;
+    context.save();
+    EXPECT_TRUE(counting.counting().value() == Counting() && counting.rules().value().isEmpty());
+    EXPECT_EQ(changes, 0);
+    for (const char* table :
+         {"absence_kind", "day_absence", "day_off", "holiday_region", "work_week", "counting", "attendance_rule"})
+        EXPECT_EQ(rows(table), "") << table;
+    SQLite::Database store(path.toStdString());
+    EXPECT_EQ(store.execAndGet("SELECT sum(absence_before = 0 AND absence_after = 0) FROM day_change").getInt(), 6);
+}
+
 TEST_F(CountingRecordsTest, bothWaysToCountVacationExcludeEachOtherInOneSave)
 {
     settings->vacationDaysCountAsInOffice = true;
