@@ -36,6 +36,59 @@
     </message>
 </context>
 <context>
+    <name>AbsenceKindsCard</name>
+    <message>
+        <source>Kinds of Absence</source>
+        <translation>Arten der Abwesenheit</translation>
+    </message>
+    <message>
+        <source>The menu of a day gives a kind to a day out of office. Choose how the days of each kind count.</source>
+        <translation>Das Menü eines Tages gibt einem Tag außerhalb des Büros eine Art. Wählen Sie, wie die Tage jeder Art zählen.</translation>
+    </message>
+    <message>
+        <source>New kind of absence</source>
+        <translation>Neue Art der Abwesenheit</translation>
+    </message>
+    <message>
+        <source>If you remove a kind, its days stay out of office, without a kind.</source>
+        <translation>Wenn Sie eine Art entfernen, bleiben ihre Tage „Nicht im Büro“, dann ohne Art.</translation>
+    </message>
+    <message>
+        <source>Add Kind of Absence</source>
+        <translation>Art der Abwesenheit hinzufügen</translation>
+    </message>
+    <message>
+        <source>How %1 counts</source>
+        <comment>kind of absence</comment>
+        <translation>Wie „%1“ zählt</translation>
+    </message>
+    <message>
+        <source>Out of Office</source>
+        <translation>Nicht im Büro</translation>
+    </message>
+    <message>
+        <source>In the Office</source>
+        <translation>Im Büro</translation>
+    </message>
+    <message>
+        <source>Not a Workday</source>
+        <translation>Kein Arbeitstag</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <comment>kind of absence</comment>
+        <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>Type a name for the kind of absence.</source>
+        <translation>Geben Sie einen Namen für die Art der Abwesenheit ein.</translation>
+    </message>
+    <message>
+        <source>There is a kind of this name already.</source>
+        <translation>Eine Art mit diesem Namen gibt es schon.</translation>
+    </message>
+</context>
+<context>
     <name>AppSettings</name>
     <message>
         <source>not fired</source>
@@ -333,6 +386,38 @@
     </message>
 </context>
 <context>
+    <name>CalendarFileReview</name>
+    <message>
+        <source>Days Off from %1</source>
+        <comment>file</comment>
+        <translation>Freie Tage aus %1</translation>
+    </message>
+    <message>
+        <source>The file has no all-day entries.</source>
+        <translation>Die Datei enthält keine ganztägigen Einträge.</translation>
+    </message>
+    <message>
+        <source>Uncheck the dates on which you work.</source>
+        <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten.</translation>
+    </message>
+    <message>
+        <source>Not everything in the file can be read:</source>
+        <translation>Nicht alles in der Datei kann gelesen werden:</translation>
+    </message>
+    <message>
+        <source>What was left out</source>
+        <translation>Was ausgelassen wurde</translation>
+    </message>
+    <message>
+        <source>already a day off</source>
+        <translation>schon ein freier Tag</translation>
+    </message>
+    <message>
+        <source>not a workday</source>
+        <translation>kein Arbeitstag</translation>
+    </message>
+</context>
+<context>
     <name>CalendarPage</name>
     <message>
         <source>Error loading month!</source>
@@ -550,6 +635,73 @@
     </message>
 </context>
 <context>
+    <name>CountingTexts</name>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>A date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>ddd d MMMM</source>
+        <extracomment>A short date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>ddd d. MMMM</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>days of the week</comment>
+        <translation>%1–%2</translation>
+    </message>
+    <message>
+        <source>Added by hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Public holiday</source>
+        <translation>Feiertag</translation>
+    </message>
+    <message>
+        <source>From a file</source>
+        <translation>Aus einer Datei</translation>
+    </message>
+    <message>
+        <source>1 day off</source>
+        <translation>1 freier Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days off</source>
+        <translation>
+            <numerusform>%n freier Tag</numerusform>
+            <numerusform>%n freie Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day off was added.</source>
+        <translation>1 freier Tag wurde hinzugefügt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days off were added.</source>
+        <translation>
+            <numerusform>%n freier Tag wurde hinzugefügt.</numerusform>
+            <numerusform>%n freie Tage wurden hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day off was taken out.</source>
+        <translation>1 freier Tag wurde gestrichen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days off were taken out.</source>
+        <translation>
+            <numerusform>%n freier Tag wurde gestrichen.</numerusform>
+            <numerusform>%n freie Tage wurden gestrichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was changed, because the data file cannot be read. Try again, or restart Pellory.</source>
+        <translation>Nichts wurde geändert, weil die Datendatei nicht gelesen werden kann. Versuchen Sie es noch einmal, oder starten Sie Pellory neu.</translation>
+    </message>
+</context>
+<context>
     <name>DataSettingsView</name>
     <message>
         <source>No program opens folders here. Use the path above.</source>
@@ -615,6 +767,21 @@
     <message>
         <source>damaged</source>
         <translation>beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>DateField</name>
+    <message>
+        <source>This is not a date. Type one like %1.</source>
+        <translation>Das ist kein Datum. Geben Sie eines wie %1 ein.</translation>
+    </message>
+</context>
+<context>
+    <name>DayAbsences</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>state and reason</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -750,11 +917,6 @@
 <context>
     <name>DayTexts</name>
     <message>
-        <source>%1 (%2)</source>
-        <comment>state, and why out of office</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
         <source>Day Off</source>
         <translation>Freier Tag</translation>
     </message>
@@ -776,6 +938,141 @@
     <message>
         <source>Day Off: %1</source>
         <translation>Freier Tag: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DaysOffCard</name>
+    <message>
+        <source>Days Off</source>
+        <translation>Freie Tage</translation>
+    </message>
+    <message>
+        <source>A day off is not a workday, whatever its day of the week.</source>
+        <translation>Ein freier Tag ist kein Arbeitstag, egal auf welchen Wochentag er fällt.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <comment>public holidays</comment>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>From a Calendar File…</source>
+        <translation>Aus Kalenderdatei …</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Name of the day off</source>
+        <translation>Name des freien Tages</translation>
+    </message>
+    <message>
+        <source>There are no days off.</source>
+        <translation>Es gibt keine freien Tage.</translation>
+    </message>
+    <message>
+        <source>Add Day Off</source>
+        <translation>Freien Tag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Days off</source>
+        <translation>Freie Tage</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Ändern …</translation>
+    </message>
+    <message>
+        <source>Public Holidays…</source>
+        <translation>Feiertage …</translation>
+    </message>
+    <message>
+        <source>Public holidays of %1, added until %2</source>
+        <comment>region, year</comment>
+        <translation>Feiertage von %1, hinzugefügt bis %2</translation>
+    </message>
+    <message>
+        <source>Change the public holidays</source>
+        <translation>Feiertage ändern</translation>
+    </message>
+    <message>
+        <source>Remove the public holidays</source>
+        <translation>Feiertage entfernen</translation>
+    </message>
+    <message>
+        <source>Take Out 1 Day Off</source>
+        <translation>1 freien Tag streichen</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Streichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take Out %n Days Off</source>
+        <translation>
+            <numerusform>%n freien Tag streichen</numerusform>
+            <numerusform>%n freie Tage streichen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No days off were read. %1</source>
+        <translation>Es wurden keine freien Tage gelesen. %1</translation>
+    </message>
+    <message>
+        <source>%1 is a day off now.</source>
+        <comment>date</comment>
+        <translation>Der %1 ist jetzt ein freier Tag.</translation>
+    </message>
+    <message>
+        <source>The public holidays of %1 from today on were taken out.</source>
+        <translation>Die Feiertage von %1 ab heute wurden gestrichen.</translation>
+    </message>
+    <message>
+        <source>Choose a Calendar File</source>
+        <translation>Kalenderdatei auswählen</translation>
+    </message>
+    <message>
+        <source>Calendar files (*.ics)</source>
+        <translation>Kalenderdateien (*.ics)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DaysOffModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>year, number of days off</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DaysOffReview</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Dates that can be added</source>
+        <translation>Tage, die hinzugefügt werden können</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Add 1 Day Off</source>
+        <translation>1 freien Tag hinzufügen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n Days Off</source>
+        <translation>
+            <numerusform>%n freien Tag hinzufügen</numerusform>
+            <numerusform>%n freie Tage hinzufügen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -890,6 +1187,49 @@
         <source>%1: %2. %3.</source>
         <comment>period, days, what is left</comment>
         <translation>%1: %2. %3.</translation>
+    </message>
+</context>
+<context>
+    <name>HolidayChooser</name>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>From the year</source>
+        <translation>Ab dem Jahr</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <comment>country</comment>
+        <translation>Ganz %1</translation>
+    </message>
+</context>
+<context>
+    <name>HolidayReview</name>
+    <message>
+        <source>Public Holidays</source>
+        <translation>Feiertage</translation>
+    </message>
+    <message>
+        <source>Uncheck the dates on which you work.</source>
+        <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten.</translation>
+    </message>
+    <message>
+        <source>Uncheck the dates on which you work. The holidays of %1 from today on are taken out.</source>
+        <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten. Die Feiertage von %1 ab heute werden gestrichen.</translation>
+    </message>
+    <message>
+        <source>already a day off</source>
+        <translation>schon ein freier Tag</translation>
+    </message>
+    <message>
+        <source>not a workday</source>
+        <translation>kein Arbeitstag</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2899,10 @@
         <source>Data</source>
         <translation>Daten</translation>
     </message>
+    <message>
+        <source>Counting</source>
+        <translation>Zählweise</translation>
+    </message>
 </context>
 <context>
     <name>SsidSettingsView</name>
@@ -2967,6 +3311,21 @@
     </message>
 </context>
 <context>
+    <name>VacationCard</name>
+    <message>
+        <source>Vacation</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>A vacation day is then not a workday: it counts neither for you nor against you, and &quot;Vacation days count as in the office&quot; on the page General is off.</source>
+        <translation>Ein Urlaubstag ist dann kein Arbeitstag: Er zählt weder für noch gegen Sie, und „Urlaubstage zählen als Bürotage“ auf der Seite „Allgemein“ ist aus.</translation>
+    </message>
+    <message>
+        <source>Leave vacation days out of the workdays</source>
+        <translation>Urlaubstage nicht als Arbeitstage zählen</translation>
+    </message>
+</context>
+<context>
     <name>WeekLabel</name>
     <message>
         <source>%1 · %2</source>
@@ -3120,6 +3479,56 @@
     <message>
         <source>Next</source>
         <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeeksCard</name>
+    <message>
+        <source>Own Workdays</source>
+        <translation>Eigene Arbeitstage</translation>
+    </message>
+    <message>
+        <source>From the date on, only the days that you choose are workdays. Days before it count as they did.</source>
+        <translation>Ab dem Datum sind nur die Tage Arbeitstage, die Sie wählen. Frühere Tage zählen wie bisher.</translation>
+    </message>
+    <message>
+        <source>Workdays from</source>
+        <translation>Arbeitstage ab</translation>
+    </message>
+    <message>
+        <source>I work on</source>
+        <translation>Ich arbeite am</translation>
+    </message>
+    <message>
+        <source>Set Workdays</source>
+        <translation>Arbeitstage festlegen</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <comment>date</comment>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <comment>days of the week, date</comment>
+        <translation>%1 ab %2</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <comment>workdays</comment>
+        <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>Monday to Friday are workdays.</source>
+        <translation>Montag bis Freitag sind Arbeitstage.</translation>
+    </message>
+    <message>
+        <source>Monday to Friday before that</source>
+        <translation>Davor Montag bis Freitag</translation>
+    </message>
+    <message>
+        <source>Choose at least one day of the week.</source>
+        <translation>Wählen Sie mindestens einen Wochentag.</translation>
     </message>
 </context>
 <context>
