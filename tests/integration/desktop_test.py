@@ -22,7 +22,8 @@ WATCHER = "org.kde.StatusNotifierWatcher"
 REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 ACCESSIBLE, ACTION, PROPERTIES = "org.a11y.atspi.Accessible", "org.a11y.atspi.Action", "org.freedesktop.DBus.Properties"
 ACTIVE, FOCUSABLE, SHOWING = 1 << 1, 1 << 11, 1 << 25
-ROLES = {"dialog", "frame", "window", "check box", "label", "page tab", "page tab list", "push button", "text"}
+ROLES = {"dialog", "frame", "window", "check box", "combo box", "label", "page tab", "page tab list", "push button",
+         "text"}
 Node = namedtuple("Node", "window name states place")
 
 

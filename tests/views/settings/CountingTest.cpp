@@ -16,20 +16,21 @@
 #include <QTextEdit>
 
 #include <fstream>
+#include <memory>
 
 class CountingTest : public ViewTest {
 protected:
     void open()
     {
-        view.resize(740, 1400);
-        show(view);
-        view.findChild<SideTabs*>()->setCurrentIndex(1);
+        view().resize(740, 1400);
+        show(view());
+        view().findChild<SideTabs*>()->setCurrentIndex(1);
         QApplication::processEvents(); // which lays the page out
     }
-    [[nodiscard]] QAbstractButton& button(const char* name) const { return named<QAbstractButton>(view, name); }
-    template <class Control> [[nodiscard]] Control& called(const QString& name) const
+    [[nodiscard]] QAbstractButton& button(const char* name) { return named<QAbstractButton>(view(), name); }
+    template <class Control> [[nodiscard]] Control& called(const QString& name)
     {
-        const auto controls = view.findChildren<Control*>();
+        const auto controls = view().findChildren<Control*>();
         return **std::ranges::find_if(
             controls, [&](const Control* each) { return each->accessibleName() == name && each->isVisible(); });
     }
@@ -39,7 +40,7 @@ protected:
         field.selectAll();
         QTest::keyClicks(&field, text);
     }
-    [[nodiscard]] bool isShown(const QString& text) const { return !shownTexts(view).filter(text).isEmpty(); }
+    [[nodiscard]] bool isShown(const QString& text) { return !shownTexts(view()).filter(text).isEmpty(); }
     [[nodiscard]] static QStringList rowsOf(const QTreeView& tree)
     {
         QStringList rows;
@@ -47,24 +48,24 @@ protected:
             rows.append(row.data().toString());
         return rows;
     }
-    [[nodiscard]] DaysOffTree& list() const { return named<DaysOffTree>(view, "daysOff"); }
-    [[nodiscard]] DaysOffTree& review() const { return *view.findChildren<DaysOffTree*>(u"reviewedDays"_s).last(); }
+    [[nodiscard]] DaysOffTree& list() { return named<DaysOffTree>(view(), "daysOff"); }
+    [[nodiscard]] DaysOffTree& review() { return *view().findChildren<DaysOffTree*>(u"reviewedDays"_s).last(); }
     /// Turns the checkbox of the first row that begins so.
-    void turn(const QString& start) const
+    void turn(const QString& start)
     {
         auto& model = *review().model();
         const auto found =
             model.match(model.index(0, 0), Qt::DisplayRole, start, 1, Qt::MatchRecursive | Qt::MatchStartsWith);
         review().setCurrentIndex(found.value(0));
         review().setFocus();
-        press(view, Qt::Key_Space);
+        press(view(), Qt::Key_Space);
     }
     void chooseFile(const QString& name, const std::string& contents)
     {
         const QString file = folder.filePath(name);
         std::ofstream(file.toStdString()) << contents;
         click(button("chooseFile"));
-        auto& dialog = named<QFileDialog>(view, "calendarFile");
+        auto& dialog = named<QFileDialog>(view(), "calendarFile");
         EXPECT_TRUE(dialog.isVisible());
         Q_EMIT dialog.fileSelected(file);
         dialog.close();
@@ -76,14 +77,22 @@ protected:
     }
 
     const QDate newYear{2027, 1, 1}, epiphany{2027, 1, 6}, allSaints{2027, 11, 1};
-    SettingsView view{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
-                      counting,  clock};
+    [[nodiscard]] SettingsView& view()
+    {
+        if (!m_view)
+            m_view = std::make_unique<SettingsView>(*settings, wifiClient, locationManager.defaultValue(), check,
+                                                    launchAtLogin, backups, context, counting, clock, viewSettings);
+        return *m_view;
+    }
+
+private:
+    std::unique_ptr<SettingsView> m_view;
 };
 
 TEST_F(CountingTest, bothWaysToCountVacationExcludeEachOther)
 {
     open();
-    auto& toggle = named<Switch>(view, "leaveOutVacation");
+    auto& toggle = named<Switch>(view(), "leaveOutVacation");
     settings->vacationDaysCountAsInOffice = true;
     click(toggle);
     EXPECT_TRUE(counting.leavesOutVacation());
@@ -97,9 +106,9 @@ TEST_F(CountingTest, kindsOfAbsenceAreTreatedAddedAndRemoved)
     open();
     auto& sick = called<ComboBox>(u"How Sick counts"_s);
     sick.setFocus();
-    press(view, Qt::Key_N); // finds "Not a Workday"
+    press(view(), Qt::Key_N); // finds "Not a Workday"
     EXPECT_EQ(counting.absenceKinds().first().treatment, Treatment::LeftOut);
-    auto& name = named<QLineEdit>(view, "newKind");
+    auto& name = named<QLineEdit>(view(), "newKind");
     // What is typed, what is said about it, and how many kinds there are then.
     const std::tuple<QString, QString, int> rows[]{{u" "_s, u"Type a name"_s, 4},
                                                    {u"sick"_s, u"There is a kind of this name"_s, 4},
@@ -107,7 +116,7 @@ TEST_F(CountingTest, kindsOfAbsenceAreTreatedAddedAndRemoved)
                                                    {u"Care"_s, {}, 6}};
     for (const auto& [typed, problem, count] : rows) {
         type(name, typed);
-        press(view, Qt::Key_Return);
+        press(view(), Qt::Key_Return);
         EXPECT_EQ(counting.absenceKinds().size(), count) << qPrintable(typed);
         EXPECT_TRUE(problem.isEmpty() || isShown(problem)) << qPrintable(typed);
         EXPECT_EQ(name.text(), problem.isEmpty() ? QString() : typed);
@@ -115,10 +124,10 @@ TEST_F(CountingTest, kindsOfAbsenceAreTreatedAddedAndRemoved)
     EXPECT_TRUE(isShown(u"its days stay out of office"_s));
     auto& duty = called<IconButton>(u"Remove Jury Duty"_s);
     duty.setFocus();
-    press(view, Qt::Key_Space);
-    EXPECT_EQ(view.focusWidget(), &called<IconButton>(u"Remove Care"_s));
-    press(view, Qt::Key_Space);
-    EXPECT_EQ(view.focusWidget(), &name);
+    press(view(), Qt::Key_Space);
+    EXPECT_EQ(view().focusWidget(), &called<IconButton>(u"Remove Care"_s));
+    press(view(), Qt::Key_Space);
+    EXPECT_EQ(view().focusWidget(), &name);
     EXPECT_EQ(counting.absenceKinds().size(), 4);
     EXPECT_EQ(sick.currentText(), u"Not a Workday"_s);
 }
@@ -126,7 +135,7 @@ TEST_F(CountingTest, kindsOfAbsenceAreTreatedAddedAndRemoved)
 TEST_F(CountingTest, ownWorkdaysHoldFromADate)
 {
     open();
-    auto& from = named<DateField>(view, "workdaysFrom");
+    auto& from = named<DateField>(view(), "workdaysFrom");
     EXPECT_EQ(from.date(), QDate(2026, 11, 1));
     EXPECT_TRUE(isShown(u"Monday to Friday are workdays."_s));
     click(called<QAbstractButton>(u"Friday"_s));
@@ -135,7 +144,7 @@ TEST_F(CountingTest, ownWorkdaysHoldFromADate)
     EXPECT_TRUE(isShown(u"This is not a date. Type one like 31 Dec 2026."_s));
     type(from, u"1 Mar 2026"_s);
     EXPECT_FALSE(isShown(u"This is not a date"_s));
-    press(view, Qt::Key_Return);
+    press(view(), Qt::Key_Return);
     EXPECT_TRUE(isShown(u"Mon–Thu from 1 March 2026"_s));
     EXPECT_TRUE(isShown(u"Monday to Friday before that"_s));
     EXPECT_FALSE(counting.counting().value().isWorkday({2026, 11, 20}));
@@ -149,8 +158,8 @@ TEST_F(CountingTest, ownWorkdaysHoldFromADate)
     EXPECT_TRUE(isShown(u"Mon, Tue, Sun from 1 March 2026"_s)) << "in the place of the others";
     auto& removal = called<IconButton>(u"Remove Mon, Tue, Sun from 1 March 2026"_s);
     removal.setFocus();
-    press(view, Qt::Key_Space);
-    EXPECT_EQ(view.focusWidget(), &from);
+    press(view(), Qt::Key_Space);
+    EXPECT_EQ(view().focusWidget(), &from);
     EXPECT_TRUE(counting.workWeeks().isEmpty());
 }
 
@@ -180,11 +189,11 @@ TEST_F(CountingTest, daysOffAreAddedByHandAndTakenOutTogether)
     counting.addDaysOff({{QDate(2025, 12, 24), u"Christmas Eve"_s}});
     open();
     EXPECT_EQ(rowsOf(list()), (QStringList{u"2025: 1 day off"_s, u"Wed 24 December, Christmas Eve, Added by hand"_s}));
-    auto& date = named<QLineEdit>(view, "dayOffDate");
+    auto& date = named<QLineEdit>(view(), "dayOffDate");
     for (const QString& typed : {u"24 Dec"_s, u"24 Dec 2026"_s, u"31 Dec 2026"_s}) {
         type(date, typed);
-        type(named<QLineEdit>(view, "dayOffName"), u"Bridge"_s);
-        press(view, Qt::Key_Return);
+        type(named<QLineEdit>(view(), "dayOffName"), u"Bridge"_s);
+        press(view(), Qt::Key_Return);
         EXPECT_EQ(isShown(u"This is not a date"_s), typed == u"24 Dec"_s);
     }
     EXPECT_EQ(offOn({2026, 12, 31}), u"Bridge"_s);
@@ -193,16 +202,16 @@ TEST_F(CountingTest, daysOffAreAddedByHandAndTakenOutTogether)
                                                      u"Thu 24 December, Bridge, Added by hand"_s,
                                                      u"Thu 31 December, Bridge, Added by hand"_s));
     list().setFocus();
-    press(view, Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(named<QAbstractButton>(view, "takeOut").text(), u"Take Out 2 Days Off"_s);
+    press(view(), Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(named<QAbstractButton>(view(), "takeOut").text(), u"Take Out 2 Days Off"_s);
     auto* cell = QAccessible::queryAccessibleInterface(&list())->focusChild();
     EXPECT_EQ(cell->text(QAccessible::Name), u"Thursday, 24 December 2026, Bridge, Added by hand"_s);
-    press(view, Qt::Key_Delete);
+    press(view(), Qt::Key_Delete);
     EXPECT_TRUE(isShown(u"2 days off were taken out."_s));
-    press(view, Qt::Key_Delete); // the one that has the focus
+    press(view(), Qt::Key_Delete); // the one that has the focus
     EXPECT_TRUE(counting.daysOff().isEmpty());
     EXPECT_TRUE(isShown(u"There are no days off."_s));
-    EXPECT_EQ(view.focusWidget(), &date);
+    EXPECT_EQ(view().focusWidget(), &date);
 }
 
 TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
@@ -210,15 +219,15 @@ TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
     counting.addDaysOff({{epiphany, u"Company day"_s}});
     open();
     button("chooseHolidays").setFocus();
-    press(view, Qt::Key_Space);
-    auto& country = named<ComboBox>(view, "country");
-    EXPECT_EQ(view.focusWidget(), &country);
-    press(view, Qt::Key_G);
-    press(view, Qt::Key_Tab);
-    press(view, Qt::Key_B);
-    press(view, Qt::Key_A);
-    press(view, Qt::Key_V);
-    EXPECT_EQ(named<ComboBox>(view, "region").currentText(), u"Bavaria"_s);
+    press(view(), Qt::Key_Space);
+    auto& country = named<ComboBox>(view(), "country");
+    EXPECT_EQ(view().focusWidget(), &country);
+    press(view(), Qt::Key_G);
+    press(view(), Qt::Key_Tab);
+    press(view(), Qt::Key_B);
+    press(view(), Qt::Key_A);
+    press(view(), Qt::Key_V);
+    EXPECT_EQ(named<ComboBox>(view(), "region").currentText(), u"Bavaria"_s);
     EXPECT_THAT(rowsOf(review()), testing::IsSupersetOf({u"Fri 1 January, New Year's Day"_s,
                                                          u"Wed 6 January, Epiphany, already a day off"_s,
                                                          u"Sat 1 May, Labour Day, not a workday"_s}));
@@ -231,7 +240,7 @@ TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
     click(button("addDays"));
     EXPECT_TRUE(isShown(u"11 days off were added."_s));
     EXPECT_TRUE(isShown(u"Public holidays of Bavaria, added until 2028"_s));
-    EXPECT_EQ(view.focusWidget(), &button("chooseHolidays"));
+    EXPECT_EQ(view().focusWidget(), &button("chooseHolidays"));
     EXPECT_TRUE(offOn(newYear).isEmpty());
     EXPECT_EQ(offOn(allSaints), u"All Saints' Day"_s);
     EXPECT_EQ(offOn(epiphany), u"Company day"_s);
@@ -246,17 +255,17 @@ TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
     EXPECT_TRUE(isShown(u"1 day off was taken out."_s));
 
     click(button("chooseHolidays"));
-    const QShortcut close(Qt::Key_Escape, &view, &view, &QWidget::close); // as all windows have
-    auto& region = named<ComboBox>(view, "region");
+    const QShortcut close(Qt::Key_Escape, &view(), &view(), &QWidget::close); // as all windows have
+    auto& region = named<ComboBox>(view(), "region");
     region.setFocus();
-    press(view, Qt::Key_Return);
+    press(view(), Qt::Key_Return);
     press(*region.view(), Qt::Key_Escape); // which has the keyboard while it is open
-    EXPECT_TRUE(view.isVisible()) << "the key closes the list only";
-    press(view, Qt::Key_S);
+    EXPECT_TRUE(view().isVisible()) << "the key closes the list only";
+    press(view(), Qt::Key_S);
     EXPECT_TRUE(isShown(u"The holidays of Bavaria from today on are taken out."_s));
-    press(view, Qt::Key_Escape);
-    EXPECT_TRUE(view.isVisible()) << "the key closes the review only";
-    EXPECT_EQ(view.focusWidget(), &button("chooseHolidays"));
+    press(view(), Qt::Key_Escape);
+    EXPECT_TRUE(view().isVisible()) << "the key closes the review only";
+    EXPECT_EQ(view().focusWidget(), &button("chooseHolidays"));
     click(button("removeRegion"));
     EXPECT_FALSE(counting.holidayRegion());
     EXPECT_EQ(counting.daysOff(), (QList<DayOff>{{epiphany, u"Company day"_s}}));
@@ -267,8 +276,8 @@ TEST_F(CountingTest, theCountryOfTheLocaleIsOffered)
     const auto scope = scopedLocale(QLocale(QLocale::German, QLocale::Austria));
     open();
     click(button("chooseHolidays"));
-    EXPECT_EQ(named<ComboBox>(view, "country").currentText(), u"Austria"_s);
-    EXPECT_FALSE(named<ComboBox>(view, "region").isEnabled());
+    EXPECT_EQ(named<ComboBox>(view(), "country").currentText(), u"Austria"_s);
+    EXPECT_FALSE(named<ComboBox>(view(), "region").isEnabled());
 }
 
 TEST_F(CountingTest, daysOffComeFromACalendarFile)
@@ -282,25 +291,25 @@ TEST_F(CountingTest, daysOffComeFromACalendarFile)
                "BEGIN:VEVENT\r\nDTSTART:20261222T090000Z\r\nSUMMARY:Meeting\r\nEND:VEVENT\r\n"
                "END:VCALENDAR\r\n");
     EXPECT_TRUE(isShown(u"Days Off from company.ics"_s));
-    EXPECT_TRUE(named<QTextEdit>(view, "problems").toPlainText().contains(u"\"Meeting\" is left out"_s));
+    EXPECT_TRUE(named<QTextEdit>(view(), "problems").toPlainText().contains(u"\"Meeting\" is left out"_s));
     EXPECT_EQ(button("addDays").text(), u"Add 1 Day Off"_s);
     click(button("addDays"));
     EXPECT_EQ(offOn({2026, 12, 24}), u"Half the company"_s);
-    EXPECT_EQ(view.focusWidget(), &button("chooseFile"));
+    EXPECT_EQ(view().focusWidget(), &button("chooseFile"));
 }
 
 TEST_F(CountingTest, whatCannotBeStoredIsSaidAndChangesNothing)
 {
     std::ofstream(path.toStdString(), std::ios::app) << 'x';
     open();
-    auto& toggle = named<Switch>(view, "leaveOutVacation");
+    auto& toggle = named<Switch>(view(), "leaveOutVacation");
     click(toggle);
     EXPECT_FALSE(toggle.isChecked());
     click(button("setWorkdays"));
     click(button("chooseHolidays"));
     click(button("addDays"));
     EXPECT_TRUE(isShown(u"Nothing was changed, because the data file cannot be read."_s));
-    press(view, Qt::Key_Escape);
-    EXPECT_EQ(shownTexts(view).filter(u"Nothing was changed"_s).size(), 2);
+    press(view(), Qt::Key_Escape);
+    EXPECT_EQ(shownTexts(view()).filter(u"Nothing was changed"_s).size(), 2);
     EXPECT_TRUE(isShown(u"Monday to Friday are workdays."_s));
 }
