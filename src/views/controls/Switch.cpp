@@ -27,7 +27,7 @@ Switch::Switch(const QString& text, QWidget* parent)
 {
     setFont(fonts::body(font()));
     setFocusPolicy(Qt::TabFocus);
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
