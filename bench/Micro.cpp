@@ -191,9 +191,12 @@ struct Parts {
         locationManager,          check,  launchAtLogin};
 };
 
-void monthChange(benchmark::State& state)
+void showOtherMonths(benchmark::State& state, qsizetype rules)
 {
-    const Parts parts;
+    Parts parts;
+    const auto presets = rulePresets();
+    for (const RulePreset& preset : presets.first(rules))
+        parts.counting.addRule(preset.rule);
     ContentView window(parts.parts);
     window.resize(534, 860);
     window.show();
@@ -211,6 +214,16 @@ void monthChange(benchmark::State& state)
     }
     if (counter.paints < state.iterations())
         state.SkipWithError("a month was shown without being painted");
+}
+
+void monthChange(benchmark::State& state)
+{
+    showOtherMonths(state, 0);
+}
+
+void monthChangeWithTwelveRules(benchmark::State& state)
+{
+    showOtherMonths(state, 12);
 }
 
 void openWindow(benchmark::State& state, WindowId id)
@@ -232,6 +245,7 @@ BENCHMARK(quarterStatisticsWithTwelveRules)->MeasureProcessCPUTime();
 BENCHMARK(countDaysOfYear)->MeasureProcessCPUTime();
 BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(monthChange)->MeasureProcessCPUTime();
+BENCHMARK(monthChangeWithTwelveRules)->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, settings, WindowId::settings)->Name("openWindow:settings")->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, help, WindowId::help)->Name("openWindow:help")->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, views, WindowId::calendarViewSettings)

@@ -46,11 +46,15 @@ DaySpan cutByValidity(DaySpan span, const AttendanceRule& rule)
     return span;
 }
 
-template <class Function> void forEachDay(const AttendanceRule& rule, DaySpan span, Function function)
+// Without arithmetic of dates, since a rule of a year visits 365 days.
+template <class Function>
+void forEachDay(const AttendanceRule& rule, const CountedDays& days, DaySpan span, Function function)
 {
-    for (QDate date = span.first; date <= span.last; date = date.addDays(1)) {
-        if (rule.weekdays.contains(date))
-            function(date);
+    int dayOfWeek = span.first.dayOfWeek();
+    for (const CountedDays::Entry& day : days.in(span)) {
+        if (rule.weekdays.contains(dayOfWeek))
+            function(day);
+        dayOfWeek = dayOfWeek % 7 + 1;
     }
 }
 
@@ -78,14 +82,14 @@ struct Tally {
 Tally tallyOf(const AttendanceRule& rule, const CountedDays& days, DaySpan span, QDate today)
 {
     Tally tally;
-    forEachDay(rule, span, [&](QDate date) {
-        const CountedDay& day = days.on(date);
-        tally.workdays += day.isWorkday;
-        tally.counted += isSubject(rule, day);
-        if (date < today)
-            return;
-        const bool isPlanned = day.isPlanned && rule.subject == AttendanceRule::Subject::InOffice;
-        const bool isLeft = day.isWorkday && isOpen(days.stateOn(date));
+    const DaySpan toCome{std::max(span.first, today), span.last};
+    forEachDay(rule, days, span, [&](const CountedDays::Entry& day) {
+        tally.workdays += day.counted.isWorkday;
+        tally.counted += isSubject(rule, day.counted);
+    });
+    forEachDay(rule, days, toCome, [&](const CountedDays::Entry& day) {
+        const bool isPlanned = day.counted.isPlanned && rule.subject == AttendanceRule::Subject::InOffice;
+        const bool isLeft = day.counted.isWorkday && isOpen(day.state);
         tally.planned += isPlanned;
         tally.workdaysLeft += isLeft;
         tally.possible += isLeft || isPlanned;
@@ -96,7 +100,7 @@ Tally tallyOf(const AttendanceRule& rule, const CountedDays& days, DaySpan span,
 qint64 scheduledCount(const AttendanceRule& rule, const CountedDays& days, DaySpan span)
 {
     qint64 count = 0;
-    forEachDay(rule, span, [&](QDate date) { count += days.isScheduled(date); });
+    forEachDay(rule, days, span, [&](const CountedDays::Entry& day) { count += day.isScheduled; });
     return count;
 }
 
@@ -169,19 +173,19 @@ CountedDays::CountedDays(DaySpan span, const StateOn& stateOn, const Counting& c
     }
 }
 
+std::span<const CountedDays::Entry> CountedDays::in(DaySpan span) const
+{
+    if (span.isEmpty())
+        return {};
+    if (span.first < m_span.first || m_span.last < span.last)
+        qFatal("Days were not counted");
+    return std::span(m_days).subspan(static_cast<std::size_t>(m_span.first.daysTo(span.first)),
+                                     static_cast<std::size_t>(span.first.daysTo(span.last) + 1));
+}
+
 const CountedDay& CountedDays::on(QDate date) const
 {
     return m_days.at(static_cast<std::size_t>(m_span.first.daysTo(date))).counted;
-}
-
-DayState CountedDays::stateOn(QDate date) const
-{
-    return m_days.at(static_cast<std::size_t>(m_span.first.daysTo(date))).state;
-}
-
-bool CountedDays::isScheduled(QDate date) const
-{
-    return m_days.at(static_cast<std::size_t>(m_span.first.daysTo(date))).isScheduled;
 }
 
 std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const CountedDays& days, QDate reference,

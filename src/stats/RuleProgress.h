@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 /// A run of days, both ends included.
@@ -33,20 +34,20 @@ public:
 
     CountedDays(DaySpan span, const StateOn& stateOn, const Counting& counting, bool vacationDaysCountAsInOffice);
 
-    [[nodiscard]] DaySpan span() const { return m_span; }
-    /// `date` is in the span.
-    [[nodiscard]] const CountedDay& on(QDate date) const;
-    [[nodiscard]] DayState stateOn(QDate date) const;
-    /// Whether the weekday is worked, days off included.
-    [[nodiscard]] bool isScheduled(QDate date) const;
-
-private:
     struct Entry {
         CountedDay counted;
         DayState state = DayState::UNKNOWN;
+        /// Whether the weekday is worked, days off included.
         bool isScheduled = false;
     };
 
+    [[nodiscard]] DaySpan span() const { return m_span; }
+    /// The days of a part of the span, in order. Any other days stop the program.
+    [[nodiscard]] std::span<const Entry> in(DaySpan span) const;
+    /// `date` is in the span.
+    [[nodiscard]] const CountedDay& on(QDate date) const;
+
+private:
     DaySpan m_span;
     std::vector<Entry> m_days;
 };

@@ -41,9 +41,9 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
     editor.cycleDayState(*november, 0);
     EXPECT_EQ(groups, QList<qint64>({1, 1, 1, 2, 2, 3, 4}));
     const CountedDays counted = countedDays(context, {{2026, 9, 30}, {2027, 1, 31}}, {}, false);
-    EXPECT_EQ(counted.stateOn({2026, 11, 20}), november->days.value().first().state);
+    EXPECT_EQ(counted.in({{2026, 11, 20}, {2026, 11, 20}}).front().state, november->days.value().first().state);
     EXPECT_TRUE(counted.on({2026, 12, 20}).isInOffice);
-    EXPECT_EQ(counted.stateOn({2026, 11, 21}), DayState::UNKNOWN);
+    EXPECT_EQ(counted.in({{2026, 11, 21}, {2026, 11, 21}}).front().state, DayState::UNKNOWN);
     EXPECT_EQ(context.fetchMonths().size(), 2); // none was created
     Month sample(2026, 11);
     editor.cycleDayState(sample, 20);
