@@ -81,6 +81,18 @@ QList<std::shared_ptr<Month>> ModelContext::fetchMonths(int year, int month)
     return fetch(m_tables->months, {" WHERE year = ? AND month = ?", {year, month}, matches});
 }
 
+QList<std::shared_ptr<Month>> ModelContext::fetchMonths(QDate from, QDate to)
+{
+    const auto matches = [first = std::pair(from.year(), from.month()),
+                          last = std::pair(to.year(), to.month())](const Month& candidate) {
+        const std::pair month(candidate.year.value(), candidate.month.value());
+        return first <= month && month <= last;
+    };
+    return fetch(m_tables->months, {" WHERE (year, month) BETWEEN (?, ?) AND (?, ?)",
+                                    {from.year(), from.month(), to.year(), to.month()},
+                                    matches});
+}
+
 QDate ModelContext::firstMarkedDay()
 {
     QDate first;

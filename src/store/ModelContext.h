@@ -44,6 +44,8 @@ public:
 
     /// The months of a year and month number: none or one, unless the store holds duplicates.
     [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths(int year, int month);
+    /// The months from that of one day to that of another, in no order.
+    [[nodiscard]] QList<std::shared_ptr<Month>> fetchMonths(QDate from, QDate to);
     /// The first day of all saved months that is not unknown; invalid if there is none. Throws a StoreError if the
     /// store cannot be read.
     [[nodiscard]] QDate firstMarkedDay();

@@ -29,6 +29,10 @@ QStringList wrapped(const QString& paragraph, const QFont& font, int width)
 
 QStringList elidedLines(const QString& text, const QFont& font, int width, qsizetype count)
 {
+    // A layout takes much longer.
+    const QString words = text.trimmed();
+    if (words.size() <= longestText && !words.contains(u'\n') && QFontMetrics(font).horizontalAdvance(words) <= width)
+        return words.isEmpty() ? QStringList() : QStringList(words);
     QStringList lines;
     for (const QString& paragraph : text.left(longestText).split(u'\n'))
         lines += wrapped(paragraph.trimmed(), font, width);

@@ -11,8 +11,9 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyle>
+
+#include <utility>
 
 namespace {
 
@@ -56,10 +57,9 @@ QColor colorOf(RuleProgress::Verdict verdict, const Theme& theme)
 // Stripes, so that planned days differ from others by more than colour.
 void paintStripes(QPainter& painter, const QRectF& area, const Theme& theme)
 {
-    painter.fillRect(area, theme.prediction);
     painter.setPen(QPen(theme.card, 1.5));
     const qreal pitch = area.height();
-    for (qreal x = area.left() - pitch; x < area.right(); x += pitch)
+    for (qreal x = area.left(); x + pitch <= area.right(); x += pitch)
         painter.drawLine(QPointF(x, area.bottom()), QPointF(x + pitch, area.top()));
 }
 
@@ -92,8 +92,11 @@ QSize RuleLine::sizeHint() const
 
 void RuleLine::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        m_fitted = {};
         layOut();
+        updateGeometry();
+    }
     SpokenGroup::changeEvent(event);
 }
 
@@ -110,12 +113,15 @@ QRect RuleLine::barRect() const
 
 void RuleLine::layOut()
 {
+    const qsizetype lines = m_outlookLines.size();
     const int column = sizeHint().width() - 2 * ringRoom;
     const int beside = symbolSize() + symbolGap + fontMetrics().horizontalAdvance(m_contents.count) + countGap;
-    m_elidedName = fontMetrics().elidedText(m_contents.name, Qt::ElideRight, column - beside);
+    if (const std::pair fitted(m_contents.name, column - beside); fitted != std::exchange(m_fitted, fitted))
+        m_elidedName = fontMetrics().elidedText(fitted.first, Qt::ElideRight, fitted.second);
     m_outlookLines = elidedLines(m_contents.outlook, font(), column, outlookLineCount);
     setToolTip(m_elidedName == m_contents.name ? QString() : labels::help(m_contents.name));
-    updateGeometry();
+    if (m_outlookLines.size() != lines)
+        updateGeometry(); // only then, because the whole page is laid out again
     update();
 }
 
@@ -134,20 +140,23 @@ void RuleLine::paintTexts(QPainter& painter) const
     const Theme& theme = themeFor(palette());
     const QRect column = rect().adjusted(ringRoom, ringRoom, -ringRoom, -ringRoom);
     const QRect first(column.left(), column.top(), column.width(), fontMetrics().height());
-    const auto textFlags = [this](Qt::Alignment side) {
-        return static_cast<int>(QStyle::visualAlignment(layoutDirection(), side) | Qt::AlignVCenter);
+    // Text that is laid out in a rectangle takes several times as long, and a month is to turn at once.
+    const auto draw = [&](const QRect& room, Qt::Alignment side, const QString& words) {
+        const bool isAtRight = QStyle::visualAlignment(layoutDirection(), side) == Qt::AlignRight;
+        const int left = isAtRight ? room.right() + 1 - fontMetrics().horizontalAdvance(words) : room.left();
+        painter.drawText(QPoint(left, room.top() + fontMetrics().ascent()), words);
     };
     const QSize symbol(symbolSize(), symbolSize());
     drawSymbol(painter, QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, symbol, first),
                symbolOf(m_contents.verdict), colorOf(m_contents.verdict, theme));
     painter.setPen(theme.text);
     const QRect name = first.adjusted(symbolSize() + symbolGap, 0, 0, 0);
-    painter.drawText(QStyle::visualRect(layoutDirection(), first, name), textFlags(Qt::AlignLeft), m_elidedName);
-    painter.drawText(first, textFlags(Qt::AlignRight), m_contents.count);
+    draw(QStyle::visualRect(layoutDirection(), first, name), Qt::AlignLeft, m_elidedName);
+    draw(first, Qt::AlignRight, m_contents.count);
     painter.setPen(theme.dimText);
     QRect line = first.translated(0, barRect().bottom() + 1 + ruleBarGap - first.top());
     for (const QString& words : m_outlookLines) {
-        painter.drawText(line, textFlags(Qt::AlignLeft), words);
+        draw(line, Qt::AlignLeft, words);
         line.translate(0, fontMetrics().lineSpacing());
     }
 }
@@ -157,19 +166,26 @@ void RuleLine::paintBar(QPainter& painter) const
     const Theme& theme = themeFor(palette());
     const QRectF bar = barRect();
     const qreal radius = bar.height() / 2;
-    QPainterPath outline;
-    outline.addRoundedRect(bar, radius, radius);
     const auto part = [&](double from, double to) {
         const QRectF ahead(bar.left() + from * bar.width(), bar.top(), (to - from) * bar.width(), bar.height());
         return isLeftToRight() ? ahead : ahead.translated(bar.left() + bar.right() - ahead.left() - ahead.right(), 0);
     };
-    painter.save();
-    painter.setClipPath(outline);
-    painter.fillRect(bar, theme.progressTrack);
+    // One above the other, because to clip them by the shape of the bar would take longer than all else.
+    const auto fill = [&](double to, const QColor& color) {
+        QRectF filled = part(0.0, to);
+        if (filled.width() < 2 * radius)
+            filled = part(0.0, 2 * radius / bar.width());
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRoundedRect(filled, radius, radius);
+    };
+    fill(1.0, theme.progressTrack);
+    if (m_contents.prediction > m_contents.progress) {
+        fill(m_contents.prediction, theme.prediction);
+        paintStripes(painter, part(m_contents.progress, m_contents.prediction).adjusted(radius, 0, -radius, 0), theme);
+    }
     const bool isBroken = m_contents.verdict == RuleProgress::Verdict::Broken;
-    if (m_contents.prediction > m_contents.progress)
-        paintStripes(painter, part(m_contents.progress, m_contents.prediction), theme);
-    painter.fillRect(part(0.0, m_contents.progress), isBroken ? theme.outOfOffice : theme.progress);
-    painter.restore();
+    if (m_contents.progress > 0)
+        fill(m_contents.progress, isBroken ? theme.outOfOffice : theme.progress);
     drawOutline(painter, bar, radius, theme);
 }

@@ -45,6 +45,8 @@ private:
     [[nodiscard]] QRect barRect() const;
 
     Contents m_contents;
+    /// The name and the width that the elided one is made for.
+    std::pair<QString, int> m_fitted;
     QString m_elidedName;
     QStringList m_outlookLines;
 };
