@@ -13,6 +13,8 @@
 #include <SQLiteCpp/Transaction.h>
 #include <sqlite3.h>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -27,6 +29,18 @@ template <class Fetch> auto withStoreErrors(Fetch fetch)
     } catch (const SQLite::Exception& error) {
         throw storeError(error);
     }
+}
+
+/// Two lists without the records at their beginning and end that are the same in both. Of long lists most are.
+template <class Record>
+std::pair<QList<Record>, QList<Record>> differingParts(const QList<Record>& one, const QList<Record>& other)
+{
+    const auto start = std::ranges::mismatch(one, other).in1 - one.begin();
+    const auto most = std::min(one.size(), other.size()) - start;
+    qsizetype end = 0;
+    while (end < most && one.at(one.size() - 1 - end) == other.at(other.size() - 1 - end))
+        ++end;
+    return {one.sliced(start, one.size() - start - end), other.sliced(start, other.size() - start - end)};
 }
 
 const char* textOf(SaveState::File file)
@@ -228,14 +242,15 @@ template <class Record> bool ModelContext::replace(const QList<Record>& before, 
 {
     return withStoreErrors([&] {
         const auto fields = fieldsOf<Record>();
+        const auto [onlyBefore, onlyAfter] = differingParts(before, after);
         QList<Row> removed;
         QList<Row> added;
-        for (const Record& record : before) {
-            if (!after.contains(record))
+        for (const Record& record : onlyBefore) {
+            if (!onlyAfter.contains(record))
                 removed.append(fields.row(record));
         }
-        for (const Record& record : after) {
-            if (before.contains(record))
+        for (const Record& record : onlyAfter) {
+            if (onlyBefore.contains(record))
                 continue;
             added.append(fields.row(record));
             static_cast<void>(fields.record(added.last())); // what could not be read later must not be stored
