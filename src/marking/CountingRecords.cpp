@@ -154,8 +154,8 @@ std::optional<AbsenceKind> CountingRecords::addAbsenceKind(const QString& name)
 bool CountingRecords::removeAbsenceKind(int kind)
 {
     return kind >= AbsenceKind::firstOwn && edit<AbsenceKind>([kind](auto& kinds) {
-               if (AbsenceKind* found = findBy(kinds, &AbsenceKind::id, kind))
-                   *found = {.id = kind};
+               if (findBy(kinds, &AbsenceKind::id, kind) != nullptr)
+                   put(kinds, &AbsenceKind::id, AbsenceKind{.id = kind});
            });
 }
 

@@ -70,10 +70,9 @@ void DayAbsences::set(QDate date, int kind)
     const int before = kind == AbsenceKind::none ? kindOf(date) : all().value(date, AbsenceKind::none);
     if (before == kind)
         return;
-    const auto stored = [date](int of) {
-        return of == AbsenceKind::none ? QList<DayAbsence>() : QList{DayAbsence{date, of}};
-    };
-    m_context.replace(stored(before), stored(kind));
+    auto stored = m_context.records<DayAbsence>(); // one of the date, unless the store holds duplicates
+    stored.removeIf([date](const DayAbsence& absence) { return absence.date != date; });
+    m_context.replace(stored, kind == AbsenceKind::none ? QList<DayAbsence>() : QList{DayAbsence{date, kind}});
     if (kind == AbsenceKind::none)
         m_kinds.remove(date);
     else

@@ -143,6 +143,8 @@ TEST_F(CountingRecordsTest, aKindOfAbsenceIsSavedWithItsDayAndOneThatWasRemovedI
         return counting.counting().value().count(clock.today(), DayState::OUT_OF_OFFICE, false);
     };
     EXPECT_TRUE(countedDay().isInOffice);
+    context.add(AbsenceKind{.id = jury->id, .name = u"A duplicate"_s});
+    context.add(DayAbsence{clock.today(), AbsenceKind::sick}); // another one
     EXPECT_TRUE(counting.removeAbsenceKind(jury->id));
     EXPECT_FALSE(countedDay().isInOffice || countedDay().absenceKind != 0);
     EXPECT_EQ(marker.absences().describe(DayState::OUT_OF_OFFICE, jury->id), u"Out of Office"_s);
