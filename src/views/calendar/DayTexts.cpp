@@ -27,7 +27,7 @@ QString DayTexts::state(QDate date, DayState state) const
 
 QString DayTexts::onHover(QDate date, DayState dayState) const
 {
-    const QString known = state(date, dayState);
+    QString known = state(date, dayState);
     const DayOff* dayOff = m_counting.dayOff(date);
     if (dayOff == nullptr)
         return known;
@@ -39,7 +39,7 @@ QString DayTexts::spoken(QDate date, DayState dayState) const
 {
     //: A date as a screen reader says it, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
     const QString written = QLocale().toString(date, tr("dddd d MMMM yyyy"));
-    const QString known = tr("%1, %2", "date and state").arg(written, state(date, dayState));
+    QString known = tr("%1, %2", "date and state").arg(written, state(date, dayState));
     const DayOff* dayOff = m_counting.dayOff(date);
     if (dayOff == nullptr)
         return known;

@@ -27,7 +27,7 @@ QString ruleText(qint64 counted, qint64 wanted)
 QString spokenText(const WeekFigures& week)
 {
     const auto count = static_cast<int>(week.officeDays);
-    const QString days =
+    QString days =
         (count == 1 ? WeekLabel::tr("Week %1: 1 office day") : WeekLabel::tr("Week %1: %n office days", nullptr, count))
             .arg(week.number);
     if (!week.rule)
