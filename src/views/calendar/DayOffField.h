@@ -4,10 +4,12 @@
 #include "TextField.h"
 
 #include <QDate>
+#include <QTimer>
 
 class CountingRecords;
 
-/// The name of a day off, which can be edited. It is saved when the field loses the focus or is hidden.
+/// The name of a day off, which can be edited. It is saved after a pause in typing, and when the field loses the focus
+/// or is hidden.
 class DayOffField : public TextField {
     Q_OBJECT
 
@@ -23,4 +25,5 @@ private:
 
     CountingRecords& m_counting;
     QDate m_date;
+    QTimer m_pause;
 };
