@@ -142,7 +142,7 @@ void RuleLine::paintTexts(QPainter& painter) const
     const QRect first(column.left(), column.top(), column.width(), fontMetrics().height());
     // Text that is laid out in a rectangle takes several times as long, and a month is to turn at once.
     const auto draw = [&](const QRect& room, Qt::Alignment side, const QString& words) {
-        const bool isAtRight = QStyle::visualAlignment(layoutDirection(), side) == Qt::AlignRight;
+        const bool isAtRight = QStyle::visualAlignment(layoutDirection(), side).testFlag(Qt::AlignRight);
         const int left = isAtRight ? room.right() + 1 - fontMetrics().horizontalAdvance(words) : room.left();
         painter.drawText(QPoint(left, room.top() + fontMetrics().ascent()), words);
     };
