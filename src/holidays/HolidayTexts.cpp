@@ -9,7 +9,7 @@
 namespace {
 
 // The names of data/holidays/public-holidays.txt, for the catalogues.
-constexpr std::array names{
+constexpr std::array englishNames{
     // countries
     QT_TRANSLATE_NOOP("PublicHolidays", "Austria"),
     QT_TRANSLATE_NOOP("PublicHolidays", "Belgium"),
@@ -145,7 +145,7 @@ constexpr std::array names{
 
 bool hasHolidayText(const QString& english)
 {
-    return std::ranges::any_of(names, [&](const char* name) { return english == QString::fromUtf8(name); });
+    return std::ranges::any_of(englishNames, [&](const char* name) { return english == QString::fromUtf8(name); });
 }
 
 QString holidayText(const QString& english)
