@@ -64,6 +64,7 @@ public:
 
     [[nodiscard]] ModelContext& context() const { return m_context; }
     [[nodiscard]] DayNotes& notes() { return m_notes; }
+    [[nodiscard]] const DayNotes& notes() const { return m_notes; }
     [[nodiscard]] const DayAbsences& absences() const { return m_absences; }
 
     /// The state of a cell. `index` is the day's place in the grid of its month, 0 to 37; any other stops the program.

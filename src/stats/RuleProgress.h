@@ -3,6 +3,7 @@
 
 #include "AttendanceRule.h"
 #include "Counting.h"
+#include "DaySpan.h"
 #include "DayState.h"
 
 #include <QDate>
@@ -11,17 +12,6 @@
 #include <optional>
 #include <span>
 #include <vector>
-
-/// A run of days, both ends included.
-struct DaySpan {
-    QDate first;
-    QDate last;
-
-    /// Without days, as one that ends before it begins or is of no valid dates.
-    [[nodiscard]] bool isEmpty() const { return !first.isValid() || last < first; }
-    [[nodiscard]] bool contains(QDate date) const { return first <= date && date <= last; }
-    bool operator==(const DaySpan&) const = default;
-};
 
 /// The span of a rule to which a date belongs, not yet cut by the rule's validity. Weeks begin on `firstDayOfWeek`.
 [[nodiscard]] DaySpan spanOf(const AttendanceRule& rule, QDate date, Qt::DayOfWeek firstDayOfWeek);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DayEditor.h"
 #include "DayMarker.h"
+#include "DayNote.h"
+#include "DayNotes.h"
+#include "DayRecords.h"
 #include "FixedClock.h"
 #include "ModelContainer.h"
 #include "ModelContext.h"
@@ -58,4 +61,30 @@ TEST(MarkingTest, aClickSavesAndCorrectsTheKindOfDayAndOnlyAQuarterTakesDuplicat
     for (const DayState state : {DayState::VACATION_DAY, DayState::IN_OFFICE})
         marker.mark({{{2026, 12, 20}, state}}, ChangedBy::Hand);
     EXPECT_GT(groups.at(8), groups.at(7));
+}
+
+TEST(MarkingTest, dayRecordsAreWhatIsStoredAboutEachDay)
+{
+    const QTemporaryDir folder(inMemory);
+    FixedClock clock;
+    ModelContainer container({.name = {}, .path = folder.filePath(u"Pellory.store"_s)});
+    DayMarker marker(container.mainContext(), clock);
+    const auto day = [](int dayOfMonth) { return QDate(2026, 11, dayOfMonth); };
+    marker.mark({{day(4), DayState::OUT_OF_OFFICE, AbsenceKind::sick}, {day(5), DayState::IN_OFFICE}}, ChangedBy::Hand);
+    marker.mark({{day(5), DayState::UNKNOWN}, {day(6), DayState::IN_OFFICE}}, ChangedBy::Check);
+    findOrCreateMonth(container.mainContext(), day(9))->days = {
+        {4, DayState::OUT_OF_OFFICE, true}, {6, DayState::VACATION_DAY, true}, {9, DayState::IN_OFFICE, true}};
+    for (const int noted : {2, 5})
+        marker.notes().write(marker.notes().noteOf(day(noted)), u"Note"_s);
+    container.mainContext().add(DayOff{day(3), u"Fair"_s});
+
+    const QList<DayRecord> records = dayRecords(marker, {day(3), day(8)});
+    ASSERT_EQ(records.size(), 4);
+    EXPECT_EQ(records.at(0), (DayRecord{.date = day(3), .dayOff = DayOff{day(3), u"Fair"_s}}));
+    EXPECT_EQ(records.at(1).absenceKind, AbsenceKind::sick);
+    EXPECT_EQ(records.at(1).lastChange.value().by, ChangedBy::Hand);
+    EXPECT_EQ(records.at(2).note, u"Note"_s);
+    EXPECT_EQ(records.at(2).lastChange.value().by, ChangedBy::Check);
+    EXPECT_EQ(records.at(3), (DayRecord{.date = day(6), .state = DayState::VACATION_DAY})) << "not as it was marked";
+    EXPECT_EQ(dayRecords(marker, wholeCalendar()).size(), 6);
 }

@@ -161,6 +161,14 @@ QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
     }
 }
 
+DaySpan CalendarPage::span() const
+{
+    const auto months = m_month.quarter().months();
+    const QDate first(m_month.year, isQuarter() ? months.front() : m_month.month, 1);
+    const QDate lastMonth(m_month.year, isQuarter() ? months.back() : m_month.month, 1);
+    return {first, lastMonth.addDays(lastMonth.daysInMonth() - 1)};
+}
+
 bool CalendarPage::isShown(QDate date) const
 {
     const YearMonth month{date.year(), date.month()};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CalendarParts.h"
+#include "DaySpan.h"
 #include "Period.h"
 #include "Popover.h"
 #include "Retry.h"
@@ -45,6 +46,8 @@ public:
 
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
+    /// The days of the period.
+    [[nodiscard]] DaySpan span() const;
     [[nodiscard]] bool isShown(QDate date) const;
     /// The day that has the keyboard focus, invalid if none has.
     [[nodiscard]] QDate focusedDate() const;

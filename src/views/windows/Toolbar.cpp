@@ -51,6 +51,8 @@ QMenu* Toolbar::makeMenu()
     add(tr("Undo"), undoKeys, &Toolbar::undoRequested);
     add(tr("Redo"), redoKeys, &Toolbar::redoRequested);
     menu->addSeparator();
+    Q_EMIT menuOpening(*menu);
+    menu->addSeparator();
     add(tr("Help"), Qt::Key_F1, &Toolbar::windowRequested, WindowId::help);
     add(tr("About Pellory"), {}, &Toolbar::windowRequested, WindowId::about);
     menu->addSeparator();

@@ -21,6 +21,8 @@ Q_SIGNALS:
     void undoRequested();
     void redoRequested();
     void quitRequested();
+    /// The menu is about to open. Entries for what is shown belong at its end.
+    void menuOpening(QMenu& menu);
 
 private:
     void popUpMenu(QWidget& button);
