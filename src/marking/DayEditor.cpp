@@ -2,10 +2,15 @@
 #include "DayEditor.h"
 
 #include "DayState.h"
+#include "StoreError.h"
+
+#include <QLoggingCategory>
 
 #include <algorithm>
 
 namespace {
+
+Q_LOGGING_CATEGORY(logEditing, "pellory.marking", QtInfoMsg)
 
 DayState next(DayState state)
 {
@@ -38,6 +43,18 @@ void DayEditor::toggleVacationDay(Month& month, qsizetype index)
 void DayEditor::setDayState(Month& month, qsizetype index, DayState state)
 {
     m_marker.mark(month, index, state, MarkedBy::Menu);
+}
+
+void DayEditor::setDays(const QList<QDate>& dates, DayState state, int absenceKind)
+{
+    QList<DayMark> marks;
+    for (const QDate date : dates)
+        marks.append({date, state, absenceKind});
+    try {
+        m_marker.mark(marks, ChangedBy::Hand);
+    } catch (const StoreError& error) {
+        qCWarning(logEditing, "Several days cannot be set: %s", error.what());
+    }
 }
 
 void DayEditor::toggle(Month& month, qsizetype index, DayState state)

@@ -23,6 +23,8 @@ public:
 
     /// Sets a state that was picked from the menu. It is saved at the end of the turn.
     void setDayState(Month& month, qsizetype index, DayState state);
+    /// Sets several days as one change, and saves. Nothing changes if the store cannot be read.
+    void setDays(const QList<QDate>& dates, DayState state, int absenceKind = AbsenceKind::none);
 
 private:
     void toggle(Month& month, qsizetype index, DayState state);

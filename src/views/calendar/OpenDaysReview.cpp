@@ -2,20 +2,11 @@
 #include "OpenDaysReview.h"
 
 #include "CalendarView.h"
-#include "DayMarker.h"
+#include "DayEditor.h"
 #include "Month.h"
 #include "StatusPicker.h"
-#include "StoreError.h"
-
-#include <QLoggingCategory>
 
 #include <algorithm>
-
-namespace {
-
-Q_LOGGING_CATEGORY(logReview, "pellory.calendar", QtInfoMsg)
-
-} // namespace
 
 OpenDaysReview::OpenDaysReview(DayMarker& marker, CalendarView& calendar)
     : QObject(&calendar)
@@ -73,16 +64,9 @@ void OpenDaysReview::markDay(QDate day, DayState state)
 
 void OpenDaysReview::markAll(DayState state)
 {
-    QList<DayMark> marks;
-    for (const QDate day : m_days) {
-        if (isOpen(day))
-            marks.append({day, state});
-    }
-    try {
-        m_marker.mark(marks, ChangedBy::Hand);
-    } catch (const StoreError& error) {
-        qCWarning(logReview, "The unmarked days cannot be set: %s", error.what());
-    }
+    QList<QDate> days = m_days;
+    days.removeIf([this](QDate day) { return !isOpen(day); });
+    DayEditor(m_marker).setDays(days, state);
 }
 
 bool OpenDaysReview::isOpen(QDate day) const
