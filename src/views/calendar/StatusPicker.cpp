@@ -107,7 +107,7 @@ QAction* addTickedTo(QMenu& menu, const QString& text, bool isTicked, const QSiz
 
 } // namespace
 
-StatusPicker::StatusPicker(DayState current, QWidget* parent)
+StatusPicker::StatusPicker(std::optional<DayState> current, QWidget* parent)
     : QMenu(parent)
     , m_current(current)
 {
@@ -115,6 +115,12 @@ StatusPicker::StatusPicker(DayState current, QWidget* parent)
     MenuStyle::apply(*this, iconSize(fonts::caption(font())));
     for (const DayState state : allDayStates)
         addState(state, m_letters.mark(description(state)));
+}
+
+void StatusPicker::setHeading(const QString& text)
+{
+    insertSection(m_states.first(), text);
+    setAccessibleName(text);
 }
 
 QAction* StatusPicker::addEntry(const QString& text)
@@ -143,6 +149,7 @@ void StatusPicker::addState(DayState state, const QString& text)
 {
     const bool isCurrent = state == m_current;
     QAction* action = addAction(iconOf(state, isCurrent, *this), text);
+    m_states.append(action);
     action->setIconVisibleInMenu(true);
     action->setCheckable(true);
     action->setChecked(isCurrent);
@@ -166,13 +173,13 @@ void StatusPicker::popUpBeside(const QRect& cell)
     const bool fitsAfter = after + size.width() <= room.right() + 1;
     const bool isAfter = isLeftToRight() ? fitsAfter || !fitsBefore : fitsAfter && !fitsBefore;
     popup({isAfter ? after : before, qMax(room.top(), qMin(cell.top(), room.bottom() + 1 - size.height()))});
-    if (!m_pressedAt)
+    if (!m_pressedAt && m_current)
         setActiveAction(currentAction()); // which a screen reader says
 }
 
 QAction* StatusPicker::currentAction() const
 {
-    return actions().at(static_cast<qsizetype>(m_current));
+    return m_states.at(static_cast<qsizetype>(m_current.value_or(DayState::UNKNOWN)));
 }
 
 void StatusPicker::keyPressEvent(QKeyEvent* event)

@@ -13,8 +13,11 @@ class StatusPicker : public QMenu {
     Q_OBJECT
 
 public:
-    /// `current` is checked.
-    StatusPicker(DayState current, QWidget* parent);
+    /// `current`, if there is one, is checked.
+    StatusPicker(std::optional<DayState> current, QWidget* parent);
+
+    /// Adds a line above the states that says what they are for. A screen reader says it as the name of the menu.
+    void setHeading(const QString& text);
 
     /// Adds an entry below the states.
     QAction* addEntry(const QString& text);
@@ -39,7 +42,8 @@ private:
     void addState(DayState state, const QString& text);
     [[nodiscard]] QAction* currentAction() const;
 
-    DayState m_current;
+    std::optional<DayState> m_current;
+    QList<QAction*> m_states;
     AccessLetters m_letters;
     /// Where the button was pressed that opened the menu, until it is released.
     std::optional<QPoint> m_pressedAt;

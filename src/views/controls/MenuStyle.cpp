@@ -17,6 +17,13 @@ constexpr int columnGap = 16;
 constexpr int arrowSize = 10;
 constexpr int separatorHeight = 9;
 
+QFont headingFont(const QStyleOptionMenuItem& item)
+{
+    QFont font = item.font;
+    font.setBold(true);
+    return font;
+}
+
 } // namespace
 
 MenuStyle::MenuStyle(const QSize& icon)
@@ -39,6 +46,12 @@ int MenuStyle::iconRoom() const
     return m_icon.isEmpty() ? 0 : m_icon.width() + columnGap;
 }
 
+int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* data) const
+{
+    return hint == SH_Menu_SupportsSections ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -58,8 +71,10 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (type != CT_MenuItem || item == nullptr)
         return QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (item->menuItemType == QStyleOptionMenuItem::Separator)
+    if (item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty())
         return {size.width(), separatorHeight};
+    if (item->menuItemType == QStyleOptionMenuItem::Separator)
+        return QFontMetrics(headingFont(*item)).size(Qt::TextSingleLine, item->text).grownBy(entryPadding);
     const QStringList texts = item->text.split(u'\t');
     const int gaps = columnGap * static_cast<int>(texts.size() - 1);
     QSize whole(iconRoom() + gaps, qMax(m_icon.height(), item->fontMetrics.height()));
@@ -77,8 +92,7 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
     if (element != CE_MenuItem || item == nullptr)
         return QProxyStyle::drawControl(element, option, painter, widget);
     if (item->menuItemType == QStyleOptionMenuItem::Separator)
-        painter->fillRect(alignedRect(item->direction, Qt::AlignCenter, {item->rect.width(), 1}, item->rect),
-                          themeFor(item->palette).border);
+        drawSeparator(*item, *painter);
     else
         drawEntry(*item, *painter);
 }
@@ -91,6 +105,22 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return;
     painter->setPen(themeFor(option->palette).controlBorder);
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+void MenuStyle::drawSeparator(const QStyleOptionMenuItem& item, QPainter& painter) const
+{
+    if (item.text.isEmpty()) {
+        painter.fillRect(alignedRect(item.direction, Qt::AlignCenter, {item.rect.width(), 1}, item.rect),
+                         themeFor(item.palette).border);
+        return;
+    }
+    painter.save();
+    painter.setFont(headingFont(item));
+    drawItemText(&painter, item.rect.marginsRemoved(entryPadding),
+                 static_cast<int>(visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter)) |
+                     Qt::TextSingleLine,
+                 item.palette, true, item.text, QPalette::Text);
+    painter.restore();
 }
 
 void MenuStyle::drawEntry(const QStyleOptionMenuItem& item, QPainter& painter) const
