@@ -3,6 +3,7 @@ pellory_test(views
     SOURCES
         support/FakeWiFiClient.h support/WindowTestMain.cpp views/calendar/CalendarViewTest.cpp
         views/calendar/DayClickTest.cpp views/calendar/DayDetailsTest.cpp views/calendar/DayHistoryTest.cpp
+        views/calendar/DaySelectionTest.cpp
         views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp views/help/LegendViewTest.cpp
         views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/CountingTest.cpp views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp

@@ -4,6 +4,7 @@
 #include "CalendarView.h"
 #include "Clock.h"
 #include "DayMarker.h"
+#include "DaySelection.h"
 #include "Labels.h"
 #include "LinkButton.h"
 #include "Month.h"
@@ -43,6 +44,7 @@ CalendarPage::CalendarPage(const CalendarParts& parts, QWidget* parent)
     , m_error(labels::announced(new QLabel(tr("Error loading month!"))))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
+    , m_selection(std::make_unique<DaySelection>(parts, *this))
 {
     m_error->setObjectName("error"_L1);
     m_error->setAlignment(Qt::AlignCenter);
@@ -54,7 +56,10 @@ CalendarPage::CalendarPage(const CalendarParts& parts, QWidget* parent)
     page->addWidget(m_contents);
     page->addStretch();
     connect(&parts.clock, &Clock::dayChanged, this, &CalendarPage::followToday);
+    connect(m_selection.get(), &DaySelection::popoverRequested, this, &CalendarPage::popoverRequested);
 }
+
+CalendarPage::~CalendarPage() = default;
 
 void CalendarPage::connectNavigation(NavigationRow& navigation)
 {
@@ -70,6 +75,7 @@ void CalendarPage::connectNavigation(NavigationRow& navigation)
 void CalendarPage::connectCard(MonthCard& card)
 {
     m_cards.push_back(&card);
+    m_selection->watch(card.calendar());
     connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
     connect(&card.calendar(), &CalendarView::detailsRequested, this, &CalendarPage::detailsRequested);
     connect(&card.calendar(), &CalendarView::popoverRequested, this, &CalendarPage::popoverRequested);
@@ -88,6 +94,7 @@ void CalendarPage::next(Qt::FocusReason reason)
 void CalendarPage::showPeriod(const YearMonth& month)
 {
     m_month = month;
+    m_selection->followTurn();
     const auto months = loadQuarter();
     const bool isLoaded = !months.isEmpty();
     m_retry.setNeeded(!isLoaded);

@@ -14,6 +14,7 @@
 #include <vector>
 
 class CalendarView;
+class DaySelection;
 class Month;
 class MonthCard;
 class NavigationRow;
@@ -32,6 +33,7 @@ class CalendarPage : public QWidget {
 
 public:
     CalendarPage(const CalendarParts& parts, QWidget* parent);
+    ~CalendarPage() override;
 
     /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
     void previous(Qt::FocusReason reason = Qt::ShortcutFocusReason);
@@ -94,4 +96,5 @@ private:
     /// The day that the last turn gave the focus, and the one that it would have if the month were long enough.
     int m_reachedDay = 0;
     int m_wantedDay = 0;
+    std::unique_ptr<DaySelection> m_selection;
 };

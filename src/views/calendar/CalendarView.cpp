@@ -23,6 +23,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -167,6 +168,17 @@ void CalendarView::focusCurrentDay(Qt::FocusReason reason)
     m_tabStop->setFocus(reason);
 }
 
+void CalendarView::setSelected(const DaySpan& days)
+{
+    if (std::exchange(m_selected, days) != days)
+        refresh();
+}
+
+QDate CalendarView::dateOf(const CommandClickableButton& cell) const
+{
+    return m_month->dateOf(dayOf(&cell));
+}
+
 void CalendarView::refresh()
 {
     if (!m_month)
@@ -200,6 +212,7 @@ void CalendarView::refreshCell(qsizetype place, const DayTexts& texts, QDate tod
     cell.setText(QString::number(day.id));
     cell.setTint(dayColor(themeFor(palette()), texts.colored(day, date)));
     cell.setState(day.state);
+    cell.setSelected(m_order.runAt(place, m_selected));
     cell.setDayOff(texts.counting().dayOff(date) != nullptr);
     cell.setTooltipText(texts.onHover(date, day.state));
     cell.setNote(m_notes.of(date));

@@ -4,6 +4,7 @@
 #include "CalendarHeader.h"
 #include "CalendarParts.h"
 #include "DayEditor.h"
+#include "DaySpan.h"
 #include "DayTexts.h"
 #include "GridOrder.h"
 #include "MonthNotes.h"
@@ -36,6 +37,13 @@ public:
     void focusCurrentDay(Qt::FocusReason reason);
     /// The day that has the keyboard focus, 0 if none has.
     [[nodiscard]] int focusedDay() const;
+
+    /// Shows which days are selected. They may be of other months too.
+    void setSelected(const DaySpan& days);
+    /// The cells by their places. Those that show no day are hidden.
+    [[nodiscard]] const std::vector<CommandClickableButton*>& cells() const { return m_cells; }
+    /// The day of a cell that shows one.
+    [[nodiscard]] QDate dateOf(const CommandClickableButton& cell) const;
 
 Q_SIGNALS:
     /// Emitted when an arrow key leads out of this month.
@@ -80,7 +88,7 @@ private:
     QGridLayout* m_grid;
     CalendarHeader m_header;
     GridOrder m_order;
-    /// By their places.
+    DaySpan m_selected;
     std::vector<CommandClickableButton*> m_cells;
     CommandClickableButton* m_tabStop = nullptr;
     /// While it is switched on.

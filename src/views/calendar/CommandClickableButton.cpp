@@ -76,6 +76,14 @@ void CommandClickableButton::setDayOff(bool isDayOff)
     update();
 }
 
+void CommandClickableButton::setSelected(const SelectedRun& run)
+{
+    if (m_selected == run)
+        return;
+    m_selected = run;
+    update();
+}
+
 void CommandClickableButton::setSpokenName(const QString& name)
 {
     if (accessibleName() == name)
@@ -229,7 +237,8 @@ void CommandClickableButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const DayCellLook look{text(),     m_tint,   m_state,  !m_note.isEmpty(),
-                           m_isDayOff, m_ringed, isDown(), hasFocus() && m_focusVisible};
+                           m_isDayOff, m_ringed, isDown(), hasFocus() && m_focusVisible,
+                           m_selected};
     cellPainter().paint(painter, look, themeFor(palette()));
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FocusVisible.h"
+#include "SelectedRun.h"
 #include "StateGestures.h"
 
 #include <QAbstractButton>
@@ -40,6 +41,8 @@ public:
     void setNote(const QString& note);
     /// Draws a thin outline inside the button.
     void setDayOff(bool isDayOff);
+    /// Draws a ground behind the button, which joins that of its neighbours.
+    void setSelected(const SelectedRun& run);
     /// Sets the accessible name. A screen reader says a change while the button has the focus.
     void setSpokenName(const QString& name);
     /// Draws a ring around the button, which marks today.
@@ -89,6 +92,7 @@ private:
     QPointer<HoverLabel> m_label;
     Qt::KeyboardModifiers m_heldAtKeyPress;
     FocusVisible m_focusVisible;
+    SelectedRun m_selected;
     bool m_ringed = false;
     bool m_isDayOff = false;
     /// Whether a screen reader is about to say the button because it just got the focus.

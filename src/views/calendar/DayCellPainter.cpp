@@ -19,6 +19,9 @@ constexpr int markInset = 2;
 constexpr int noteInset = 4;
 constexpr qreal todayRingOutset = 2.5;
 constexpr qreal focusRingOutset = 4.0;
+constexpr qreal selectedRadius = 11.0;
+constexpr qreal selectedInset = 0.75;
+constexpr float selectedOpacity = 0.3F;
 
 QSize faceSize(const QFontMetrics& metrics)
 {
@@ -37,7 +40,8 @@ void drawRing(QPainter& painter, const QRectF& face, qreal outset, const QPen& p
 } // namespace
 
 DayCellPainter::DayCellPainter(const QRect& area, const QFontMetrics& metrics, Qt::LayoutDirection direction)
-    : m_face(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, faceSize(metrics), area))
+    : m_area(area)
+    , m_face(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, faceSize(metrics), area))
     , m_metrics(metrics)
     , m_direction(direction)
 {
@@ -72,6 +76,8 @@ void DayCellPainter::paint(QPainter& painter, const DayCellLook& look, const The
 {
     const QRectF area = m_face;
     painter.setRenderHint(QPainter::Antialiasing);
+    if (look.selected.isSelected)
+        paintSelected(painter, look.selected, theme);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.isDown ? look.tint.darker(115) : look.tint);
     painter.drawRoundedRect(area, cellRadius, cellRadius);
@@ -90,5 +96,20 @@ void DayCellPainter::paint(QPainter& painter, const DayCellLook& look, const The
     if (look.isToday)
         drawRing(painter, area, todayRingOutset, {theme.text, 1.75});
     if (look.isFocused)
-        drawRing(painter, area, focusRingOutset, {theme.accent, 2.0});
+        drawRing(painter, area, focusRingOutset, {look.selected.isSelected ? theme.text : theme.accent, 2.0});
+}
+
+void DayCellPainter::paintSelected(QPainter& painter, const SelectedRun& run, const Theme& theme) const
+{
+    // Beside a neighbour that is selected too, the rounded end is out of sight.
+    const qreal atPrevious = run.hasPrevious ? -2 * selectedRadius : selectedInset;
+    const qreal atNext = run.hasNext ? -2 * selectedRadius : selectedInset;
+    const bool isLeftToRight = m_direction == Qt::LeftToRight;
+    const QRectF ground = QRectF(m_area).adjusted(isLeftToRight ? atPrevious : atNext, selectedInset,
+                                                  isLeftToRight ? -atNext : -atPrevious, -selectedInset);
+    QColor color = theme.accent;
+    color.setAlphaF(selectedOpacity);
+    painter.setPen(QPen(theme.accent, 1.5));
+    painter.setBrush(color);
+    painter.drawRoundedRect(ground, selectedRadius, selectedRadius);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DayState.h"
+#include "SelectedRun.h"
 
 #include <QColor>
 #include <QFontMetrics>
@@ -21,6 +22,7 @@ struct DayCellLook {
     bool isToday = false;
     bool isDown = false;
     bool isFocused = false;
+    SelectedRun selected = {};
 };
 
 /// Paints the cell of a day: a coloured face with the number and the mark of the state, in a margin for the rings.
@@ -42,6 +44,9 @@ public:
     void paint(QPainter& painter, const DayCellLook& look, const Theme& theme) const;
 
 private:
+    void paintSelected(QPainter& painter, const SelectedRun& run, const Theme& theme) const;
+
+    QRect m_area;
     QRect m_face;
     QFontMetrics m_metrics;
     Qt::LayoutDirection m_direction;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DaySpan.h"
+#include "SelectedRun.h"
+
 #include <QDate>
 
 /// Where the cells of a month are drawn when rows of days begin on any day of the week. The stored cells begin on a
@@ -30,6 +33,15 @@ public:
     [[nodiscard]] qsizetype indexAt(qsizetype place) const { return place - m_firstPlace + m_firstIndex; }
     [[nodiscard]] qsizetype placeOf(qsizetype index) const { return index - m_firstIndex + m_firstPlace; }
     [[nodiscard]] QDate dateAt(qsizetype place) const { return m_first.addDays(place - m_firstPlace); }
+    /// Which days of the month are selected at a place and beside it.
+    [[nodiscard]] SelectedRun runAt(qsizetype place, const DaySpan& selected) const
+    {
+        const auto isSelected = [&](qsizetype other) {
+            const QDate date = dateAt(other);
+            return other / columns == place / columns && date.month() == m_first.month() && selected.contains(date);
+        };
+        return {isSelected(place), isSelected(place - 1), isSelected(place + 1)};
+    }
 
 private:
     QDate m_first;
