@@ -65,9 +65,12 @@ LegendView::LegendView(ViewSettings& settings, QWidget* parent)
     addGesture(*grid, keys, Symbol::Keyboard, tr("Set Status of Focused Day"), tr("Keys %1").arg(keys));
     const QString details = QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText);
     addGesture(*grid, details, Symbol::Keyboard, tr("Show Its Details and Note"), details);
+    const QString shift = keyName(ClickModifier::Shift);
+    addGesture(*grid, {}, Symbol::Click, tr("Select Days by Dragging"), tr("Drag"));
+    addGesture(*grid, shift, Symbol::Keyboard, tr("Select Days with Arrows"), tr("%1 with an arrow key").arg(shift));
     const QString undo = QKeySequence(undoKeys).toString(QKeySequence::NativeText);
     //: %1 is the Shift key.
-    addGesture(*grid, undo, Symbol::Keyboard, tr("Undo, with %1: Redo").arg(keyName(ClickModifier::Shift)), undo);
+    addGesture(*grid, undo, Symbol::Keyboard, tr("Undo, with %1: Redo").arg(shift), undo);
     rows->setSpokenText(tr("Legend"), m_spoken);
     auto* hoverSwitch = new Switch(tr("Show day status on hover"));
     bindSwitch(hoverSwitch, settings.showStatusLabelOnHover);
