@@ -89,6 +89,17 @@
     </message>
 </context>
 <context>
+    <name>AbsencePicker</name>
+    <message>
+        <source>Out of Office As</source>
+        <translation>Nicht im Büro, und zwar</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>Anderer Grund …</translation>
+    </message>
+</context>
+<context>
     <name>AppSettings</name>
     <message>
         <source>not fired</source>
@@ -872,14 +883,6 @@
         <translation>Details …</translation>
     </message>
     <message>
-        <source>Out of Office As</source>
-        <translation>Nicht im Büro, und zwar</translation>
-    </message>
-    <message>
-        <source>Other…</source>
-        <translation>Anderer Grund …</translation>
-    </message>
-    <message>
         <source>Not a Workday</source>
         <translation>Kein Arbeitstag</translation>
     </message>
@@ -889,6 +892,13 @@
     <message>
         <source>Name of the Day Off</source>
         <translation>Name des freien Tags</translation>
+    </message>
+</context>
+<context>
+    <name>DaySelection</name>
+    <message>
+        <source>No days selected</source>
+        <translation>Keine Tage ausgewählt</translation>
     </message>
 </context>
 <context>
@@ -1368,6 +1378,22 @@
     <message>
         <source>Week, and Its Office Days</source>
         <translation>Kalenderwoche und ihre Bürotage</translation>
+    </message>
+    <message>
+        <source>Select Days by Dragging</source>
+        <translation>Tage durch Ziehen auswählen</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>Select Days with Arrows</source>
+        <translation>Tage mit Pfeiltasten auswählen</translation>
+    </message>
+    <message>
+        <source>%1 with an arrow key</source>
+        <translation>%1 mit einer Pfeiltaste</translation>
     </message>
 </context>
 <context>
@@ -2867,6 +2893,45 @@
     <message>
         <source>If you use the file on disk, your last changes are lost.</source>
         <translation>Wird die Datei verwendet, gehen die letzten Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectedDays</name>
+    <message numerus="yes">
+        <source>Set %n Days</source>
+        <translation>
+            <numerusform>%n Tag setzen</numerusform>
+            <numerusform>%n Tage setzen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Set 1 Workday</source>
+        <translation>1 Arbeitstag setzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Set %n Workdays</source>
+        <translation>
+            <numerusform>%n Arbeitstag setzen</numerusform>
+            <numerusform>%n Arbeitstage setzen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days selected</source>
+        <translation>
+            <numerusform>%n Tag ausgewählt</numerusform>
+            <numerusform>%n Tage ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 workday selected</source>
+        <translation>1 Arbeitstag ausgewählt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n workdays selected</source>
+        <translation>
+            <numerusform>%n Arbeitstag ausgewählt</numerusform>
+            <numerusform>%n Arbeitstage ausgewählt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
