@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarPage.h"
 
-#include "CalendarView.h"
 #include "Clock.h"
 #include "DayMarker.h"
 #include "DaySelection.h"
 #include "Labels.h"
 #include "LinkButton.h"
-#include "Month.h"
-#include "MonthCard.h"
 #include "NavigationRow.h"
 #include "StoreError.h"
-#include "StoredMonths.h"
 #include "WindowSize.h"
 
 #include <QKeyEvent>
@@ -19,7 +15,6 @@
 #include <QLoggingCategory>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -30,18 +25,13 @@ Q_LOGGING_CATEGORY(logCalendar, "pellory.calendar", QtInfoMsg)
 
 constexpr int cardSpacing = 16;
 
-std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
-{
-    return quarter ? std::optional(YearMonth{quarter->year, quarter->months().front()}) : std::nullopt;
-}
-
 } // namespace
 
-CalendarPage::CalendarPage(const CalendarParts& parts, QWidget* parent)
+CalendarPage::CalendarPage(const CalendarParts& parts, const QString& errorText, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
     , m_today(parts.clock.today())
-    , m_error(labels::announced(new QLabel(tr("Error loading month!"))))
+    , m_error(labels::announced(new QLabel(errorText)))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
     , m_selection(std::make_unique<DaySelection>(parts, *this))
@@ -83,12 +73,19 @@ void CalendarPage::connectCard(MonthCard& card)
 
 void CalendarPage::previous(Qt::FocusReason reason)
 {
-    turnTo(monthBefore(), reason);
+    if (const auto month = monthBefore())
+        turnTo(*month, reason);
 }
 
 void CalendarPage::next(Qt::FocusReason reason)
 {
-    turnTo(monthAfter(), reason);
+    if (const auto month = monthAfter())
+        turnTo(*month, reason);
+}
+
+void CalendarPage::turnTo(const YearMonth& month, Qt::FocusReason /*reason*/)
+{
+    showPeriod(month);
 }
 
 void CalendarPage::showPeriod(const YearMonth& month)
@@ -97,16 +94,27 @@ void CalendarPage::showPeriod(const YearMonth& month)
     m_selection->followTurn();
     const auto months = loadQuarter();
     const bool isLoaded = !months.isEmpty();
+
+    const bool isLoaded = tryToLoad();
     m_retry.setNeeded(!isLoaded);
     m_error->setVisible(!isLoaded);
     m_contents->setVisible(isLoaded);
     if (!isLoaded)
         return;
-    for (std::size_t i = 0; i < m_cards.size(); ++i)
-        m_cards[i]->setMonth(months.at(isQuarter() ? static_cast<qsizetype>(i) : (month.month - 1) % 3));
-    showQuarter(months);
     m_navigation->setAvailable(monthBefore().has_value(), monthAfter().has_value());
     m_navigation->todayLink()->setVisible(!isShown(m_today));
+}
+
+bool CalendarPage::tryToLoad()
+{
+    try {
+        load();
+        return true;
+    } catch (const StoreError& error) {
+        if (m_error->isHidden()) // the first time
+            qCWarning(logCalendar, "Cannot load a month: %s", error.what());
+        return false;
+    }
 }
 
 void CalendarPage::showDay(QDate date, Qt::FocusReason reason)
@@ -117,7 +125,7 @@ void CalendarPage::showDay(QDate date, Qt::FocusReason reason)
         showPeriod({date.year(), date.month()});
     if (m_contents->isHidden())
         return;
-    calendarOf(date).focusDay(date.day(), reason);
+    focusDay(date, reason);
 }
 
 void CalendarPage::showToday(Qt::FocusReason reason)
@@ -127,12 +135,8 @@ void CalendarPage::showToday(Qt::FocusReason reason)
 
 void CalendarPage::focusCurrentDay(Qt::FocusReason reason)
 {
-    if (m_contents->isHidden())
-        return;
-    const auto last = std::ranges::find_if(m_cards, [this](auto* card) { return card->isAncestorOf(focusWidget()); });
-    const QDate day = isShown(m_today) ? m_today : QDate(m_month.year, m_month.month, 1);
-    CalendarView& calendar = last == m_cards.end() ? calendarOf(day) : (*last)->calendar();
-    calendar.focusCurrentDay(reason);
+    if (!m_contents->isHidden())
+        focusCurrent(reason);
 }
 
 void CalendarPage::keyPressEvent(QKeyEvent* event)
@@ -147,78 +151,12 @@ void CalendarPage::keyPressEvent(QKeyEvent* event)
     }
 }
 
-std::optional<YearMonth> CalendarPage::monthBefore() const
-{
-    return isQuarter() ? firstMonth(m_month.quarter().previous()) : m_month.previous();
-}
-
-std::optional<YearMonth> CalendarPage::monthAfter() const
-{
-    return isQuarter() ? firstMonth(m_month.quarter().next()) : m_month.next();
-}
-
-QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
-{
-    try {
-        return quarterMonths(m_parts.marker.context(), m_month.quarter());
-    } catch (const StoreError& error) {
-        if (m_error->isHidden()) // the first time
-            qCWarning(logCalendar, "Cannot load a month: %s", error.what());
-        return {};
-    }
-}
-
-DaySpan CalendarPage::span() const
-{
-    const auto months = m_month.quarter().months();
-    const QDate first(m_month.year, isQuarter() ? months.front() : m_month.month, 1);
-    const QDate lastMonth(m_month.year, isQuarter() ? months.back() : m_month.month, 1);
-    return {first, lastMonth.addDays(lastMonth.daysInMonth() - 1)};
-}
-
-bool CalendarPage::isShown(QDate date) const
-{
-    const YearMonth month{date.year(), date.month()};
-    return isQuarter() ? month.quarter() == m_month.quarter() : month == m_month;
-}
-
-QDate CalendarPage::focusedDate() const
-{
-    const CalendarView* calendar = focusedCalendar();
-    return calendar == nullptr ? QDate() : calendar->month()->dateOf(calendar->focusedDay());
-}
-
-CalendarView& CalendarPage::calendarOf(QDate date) const
-{
-    return m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)->calendar();
-}
-
-CalendarView* CalendarPage::focusedCalendar() const
-{
-    const auto focused = std::ranges::find_if(m_cards, [](auto* card) { return card->calendar().focusedDay() > 0; });
-    return focused == m_cards.end() ? nullptr : &(*focused)->calendar();
-}
-
-void CalendarPage::turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason)
-{
-    if (!month)
-        return;
-    CalendarView* const calendar = focusedCalendar();
-    if (calendar != nullptr && calendar->focusedDay() != m_reachedDay)
-        m_wantedDay = calendar->focusedDay();
-    showPeriod(*month);
-    if (calendar == nullptr)
-        return;
-    calendar->focusDay(m_wantedDay, reason);
-    m_reachedDay = calendar->focusedDay();
-}
-
 void CalendarPage::followToday()
 {
     const QDate before = std::exchange(m_today, m_parts.clock.today());
     if (!isShown(before) || isShown(m_today))
         m_navigation->todayLink()->setVisible(!isShown(m_today));
-    else if (focusedCalendar() != nullptr)
+    else if (focusedDate().isValid())
         showDay(m_today, Qt::OtherFocusReason);
     else
         showPeriod({m_today.year(), m_today.month()});

@@ -4,14 +4,12 @@
 #include "CalendarParts.h"
 #include "DaySpan.h"
 #include "Period.h"
-#include "Popover.h"
 #include "Retry.h"
 
 #include <QDate>
 #include <QWidget>
 
-#include <memory>
-#include <vector>
+#include <optional>
 
 class CalendarView;
 class DaySelection;
@@ -27,7 +25,7 @@ inline constexpr QKeyCombination todayKeys = Qt::CTRL | Qt::Key_Home;
 inline constexpr QKeyCombination undoKeys = Qt::CTRL | Qt::Key_Z;
 inline constexpr QKeyCombination redoKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_Z;
 
-/// A month or a quarter of the calendar, which can be turned like a page.
+/// A period of the calendar, which can be turned like a page.
 class CalendarPage : public QWidget {
     Q_OBJECT
 
@@ -35,59 +33,56 @@ public:
     CalendarPage(const CalendarParts& parts, QWidget* parent);
     ~CalendarPage() override;
 
-    /// Both do nothing at the end of the calendar. A day that has the focus passes it to the same day of the new page.
+    /// The error text takes the place of the contents while the store cannot be read.
+    CalendarPage(const CalendarParts& parts, const QString& errorText, QWidget* parent);
+
+    /// Both do nothing at the end of the calendar.
     void previous(Qt::FocusReason reason = Qt::ShortcutFocusReason);
     void next(Qt::FocusReason reason = Qt::ShortcutFocusReason);
-    /// Shows the period that a month belongs to, and stores the months of its quarter that are not stored yet.
+    /// Shows the period that a month belongs to.
     void showPeriod(const YearMonth& month);
     /// Turns to a day and gives it the focus. A day outside the calendar is ignored.
     void showDay(QDate date, Qt::FocusReason reason = Qt::TabFocusReason);
     void showToday(Qt::FocusReason reason);
-    /// Gives the focus to the day that had it last, or to today, or else to the first. Without days nothing gets it.
+    /// Gives the focus to what had it last, or to today, or else to the first day. Without days nothing gets it.
     void focusCurrentDay(Qt::FocusReason reason);
 
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
     /// The days of the period.
-    [[nodiscard]] DaySpan span() const;
-    [[nodiscard]] bool isShown(QDate date) const;
+    [[nodiscard]] virtual DaySpan span() const = 0;
+    [[nodiscard]] bool isShown(QDate date) const { return span().contains(date); }
     /// The day that has the keyboard focus, invalid if none has.
-    [[nodiscard]] QDate focusedDate() const;
-
-Q_SIGNALS:
-    // As CalendarView emits them.
-    void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
-    void popoverRequested(Popover* popover);
+    [[nodiscard]] virtual QDate focusedDate() const = 0;
 
 protected:
     [[nodiscard]] const CalendarParts& parts() const { return m_parts; }
+    [[nodiscard]] QDate today() const { return m_today; }
     /// Adds the parts of the page, from top to bottom. They are hidden while the store cannot be read.
     [[nodiscard]] QVBoxLayout& contents() { return *m_column; }
     /// Makes the buttons turn the page.
     void connectNavigation(NavigationRow& navigation);
-    /// Makes a card show a month of the page: the only one, or the next of a quarter.
-    void connectCard(MonthCard& card);
 
-    /// Passes the months of the quarter to the other parts, whenever a period is shown.
-    virtual void showQuarter(const QList<std::shared_ptr<Month>>& months) = 0;
+    /// Reads and shows the period of month(). Throws a StoreError if the store cannot be read.
+    virtual void load() = 0;
+    /// A month of the periods beside this one; none at the ends of the calendar.
+    [[nodiscard]] virtual std::optional<YearMonth> monthBefore() const = 0;
+    [[nodiscard]] virtual std::optional<YearMonth> monthAfter() const = 0;
+    /// As showPeriod(), after a key or a click.
+    virtual void turnTo(const YearMonth& month, Qt::FocusReason reason);
+    /// Both are called only while the contents are shown, the first one for a day of the period.
+    virtual void focusDay(QDate date, Qt::FocusReason reason) = 0;
+    virtual void focusCurrent(Qt::FocusReason reason) = 0;
 
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] bool isQuarter() const { return m_cards.size() > 1; }
-    [[nodiscard]] std::optional<YearMonth> monthBefore() const;
-    [[nodiscard]] std::optional<YearMonth> monthAfter() const;
-    [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
-    /// The grid of a day that is shown.
-    [[nodiscard]] CalendarView& calendarOf(QDate date) const;
-    [[nodiscard]] CalendarView* focusedCalendar() const;
-    void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
+    [[nodiscard]] bool tryToLoad();
     void followToday();
 
     CalendarParts m_parts;
     QDate m_today;
     YearMonth m_month;
-    std::vector<MonthCard*> m_cards;
     NavigationRow* m_navigation = nullptr;
     Retry m_retry{[this] { showPeriod(m_month); }};
     QLabel* m_error;

@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 
 MonthView::MonthView(const CalendarParts& parts, QWidget* parent)
-    : CalendarPage(parts, parent)
+    : GridPage(parts, parent)
     , m_openDays(parts.marker, parts.counting, parts.clock)
     , m_quarter(new TrackerCard(parts, PeriodWord::Quarter, parts.viewSettings.showQuarterStats))
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "CalendarPage.h"
+#include "GridPage.h"
 #include "OpenDays.h"
 
 class OpenDaysLine;
@@ -9,7 +9,7 @@ class OpenDaysReview;
 class TrackerCard;
 
 /// One month and the statistics of its quarter, at first of today's month.
-class MonthView final : public CalendarPage {
+class MonthView final : public GridPage {
     Q_OBJECT
 
 public:

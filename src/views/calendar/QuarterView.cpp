@@ -15,7 +15,7 @@ constexpr int monthsOfQuarter = 3;
 } // namespace
 
 QuarterView::QuarterView(const CalendarParts& parts, QWidget* parent)
-    : CalendarPage(parts, parent)
+    : GridPage(parts, parent)
     , m_row(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));

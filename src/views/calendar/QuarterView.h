@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "CalendarPage.h"
+#include "GridPage.h"
 
 class QBoxLayout;
 class QuarterStatsView;
 
 /// The three months of a quarter and its statistics, at first of today's quarter. Months are side by side if there is
 /// room.
-class QuarterView final : public CalendarPage {
+class QuarterView final : public GridPage {
     Q_OBJECT
 
 public:

@@ -201,8 +201,8 @@ CalendarPage& ContentView::page() const
 template <class Calendar> QWidget* ContentView::makePage()
 {
     auto* calendar = new Calendar(m_parts.calendar());
-    connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
-    connect(calendar, &CalendarPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
+    connect(calendar, &GridPage::detailsRequested, this, &ContentView::openDetails);
+    connect(calendar, &GridPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
     return new Page(calendar);
 }
 
