@@ -9,6 +9,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,6 +36,17 @@ QString calendarTitle(const Month& month, QDate today)
     if (month.year == today.year())
         return month.name;
     return HeaderTexts::tr("%1 %2", "month and year").arg(month.name.value(), QString::number(month.year));
+}
+
+std::array<QString, GridOrder::columns> weekdayLetters(Qt::DayOfWeek weekStart)
+{
+    std::array letters{
+        HeaderTexts::tr("M", "Monday"),   HeaderTexts::tr("T", "Tuesday"), HeaderTexts::tr("W", "Wednesday"),
+        HeaderTexts::tr("T", "Thursday"), HeaderTexts::tr("F", "Friday"),  HeaderTexts::tr("S", "Saturday"),
+        HeaderTexts::tr("S", "Sunday"),
+    };
+    std::ranges::rotate(letters, letters.begin() + weekStart - Qt::Monday);
+    return letters;
 }
 
 CalendarHeader::CalendarHeader(QGridLayout& grid)
@@ -66,11 +79,7 @@ void CalendarHeader::setWorkdays(qint64 workdays)
 
 void CalendarHeader::setWeekStart(Qt::DayOfWeek weekStart)
 {
-    const std::array letters{
-        HeaderTexts::tr("M", "Monday"),   HeaderTexts::tr("T", "Tuesday"), HeaderTexts::tr("W", "Wednesday"),
-        HeaderTexts::tr("T", "Thursday"), HeaderTexts::tr("F", "Friday"),  HeaderTexts::tr("S", "Saturday"),
-        HeaderTexts::tr("S", "Sunday"),
-    };
-    for (int day = Qt::Monday; const QString& letter : letters)
-        m_weekdays.at(static_cast<std::size_t>(GridOrder::columnOf(day++, weekStart)))->setText(letter);
+    const auto letters = weekdayLetters(weekStart);
+    for (std::size_t column = 0; column < letters.size(); ++column)
+        m_weekdays.at(column)->setText(letters.at(column));
 }

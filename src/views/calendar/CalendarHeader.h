@@ -14,6 +14,9 @@ class QLabel;
 /// The name of a month, with its year if that is not the present one.
 [[nodiscard]] QString calendarTitle(const Month& month, QDate today);
 
+/// The first letters of the weekdays, from the first column on.
+[[nodiscard]] std::array<QString, GridOrder::columns> weekdayLetters(Qt::DayOfWeek weekStart);
+
 /// What stands above the days of a month: its name, the number of its workdays, and the weekdays.
 class CalendarHeader {
 public:
