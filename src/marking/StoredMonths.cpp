@@ -47,3 +47,19 @@ QList<std::shared_ptr<Month>> quarterMonths(ModelContext& context, const YearQua
 {
     return findOrCreate(context, quarter.year, quarter.months(), Duplicates::Ignored);
 }
+
+QList<std::shared_ptr<Month>> yearMonths(ModelContext& context, int year)
+{
+    constexpr int monthsOfYear = 12;
+    QList<std::shared_ptr<Month>> months(monthsOfYear);
+    for (const auto& month : context.fetchMonths(QDate(year, 1, 1), QDate(year, monthsOfYear, 1))) {
+        if (auto& place = months[month->month - 1]; !place)
+            place = month;
+    }
+    for (int number = 1; auto& month : months) {
+        if (!month)
+            month = std::make_shared<Month>(year, number);
+        ++number;
+    }
+    return months;
+}

@@ -32,3 +32,7 @@ public:
 /// The three months of a quarter in order, the first record of each. Those that the store does not hold yet are created
 /// and inserted. Throws a StoreError, and creates nothing, if the store cannot be read.
 [[nodiscard]] QList<std::shared_ptr<Month>> quarterMonths(ModelContext& context, const YearQuarter& quarter);
+
+/// The twelve months of a year in order, the first record of each. For those that the store does not hold there are
+/// months of unknown days, which are not inserted. Throws a StoreError if the store cannot be read.
+[[nodiscard]] QList<std::shared_ptr<Month>> yearMonths(ModelContext& context, int year);
