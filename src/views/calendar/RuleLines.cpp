@@ -33,10 +33,10 @@ void leaveOutPlanned(RuleProgress& progress)
 
 } // namespace
 
-RuleLines::RuleLines(const CalendarParts& parts, bool isQuarter, const QProperty<bool>& isTrackerShown, QWidget* parent)
+RuleLines::RuleLines(const CalendarParts& parts, Place place, const QProperty<bool>& isTrackerShown, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
-    , m_isQuarter(isQuarter)
+    , m_place(place)
     , m_isTrackerShown(isTrackerShown)
     , m_column(new QVBoxLayout(this))
 {
@@ -81,7 +81,8 @@ bool RuleLines::isShown() const
 
 bool RuleLines::belongsHere(const AttendanceRule& rule) const
 {
-    return m_isQuarter == (rule.span == AttendanceRule::Span::Quarter || rule.span == AttendanceRule::Span::Year);
+    const bool isLong = rule.span == AttendanceRule::Span::Quarter || rule.span == AttendanceRule::Span::Year;
+    return m_place == Place::Year || isLong == (m_place == Place::Quarter);
 }
 
 QList<RuleLine::Contents> RuleLines::contents() const
@@ -144,6 +145,8 @@ std::optional<RuleLine::Contents> RuleLines::summaryOf(const AttendanceRule& rul
 
 bool RuleLines::isSummarised(const AttendanceRule& rule) const
 {
+    if (m_place == Place::Year)
+        return rule.span != AttendanceRule::Span::Year;
     const bool isShort = rule.span == AttendanceRule::Span::Week || rule.span == AttendanceRule::Span::TwoWeeks;
     return isShort && m_period.last < m_parts.clock.today();
 }

@@ -9,17 +9,21 @@
 
 class QVBoxLayout;
 
-/// How far the rules are met in a month or quarter: a line for each whose span belongs there. It follows everything
-/// that changes them, and is hidden without lines.
+/// How far the rules are met in a month, quarter or year: a line for each whose span belongs there. It follows
+/// everything that changes them, and is hidden without lines.
 class RuleLines : public QWidget {
     Q_OBJECT
 
 public:
-    /// Those of a quarter are for quarters and years, those of a month for shorter spans. Nothing is counted while the
-    /// tracker is not shown.
-    RuleLines(const CalendarParts& parts, bool isQuarter, const QProperty<bool>& isTrackerShown,
+    enum class Place { Month, Quarter, Year };
+
+    /// Those of a quarter are for quarters and years, those of a month for shorter spans. Those of a year are for all
+    /// rules; of shorter spans they say in how many the rule was met. Nothing is counted while the tracker is not
+    /// shown.
+    RuleLines(const CalendarParts& parts, Place place, const QProperty<bool>& isTrackerShown,
               QWidget* parent = nullptr);
 
+    /// An empty period has no lines, and nothing is counted.
     void setPeriod(DaySpan period);
 
 private:
@@ -31,14 +35,14 @@ private:
                                                                const CountedDays& days) const;
     [[nodiscard]] std::optional<RuleLine::Contents> summaryOf(const AttendanceRule& rule,
                                                               const CountedDays& days) const;
-    /// Whether a line is about all weeks of the month, because today is in none of them.
+    /// Whether a line is about all spans in the period: those of a year, and the weeks of a month without today.
     [[nodiscard]] bool isSummarised(const AttendanceRule& rule) const;
     /// The day of the period whose span is shown.
     [[nodiscard]] QDate reference() const;
     [[nodiscard]] DaySpan daysOf(const AttendanceRule& rule) const;
 
     CalendarParts m_parts;
-    bool m_isQuarter;
+    Place m_place;
     const QProperty<bool>& m_isTrackerShown;
     DaySpan m_period;
     QVBoxLayout* m_column;

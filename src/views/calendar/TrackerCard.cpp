@@ -60,7 +60,8 @@ void TrackerCard::buildRules()
 {
     if (m_rules != nullptr || m_parts.counting.rules().value().isEmpty())
         return;
-    m_rules = new RuleLines(m_parts, m_period == PeriodWord::Quarter, m_isTrackerShown);
+    const auto place = m_period == PeriodWord::Quarter ? RuleLines::Place::Quarter : RuleLines::Place::Month;
+    m_rules = new RuleLines(m_parts, place, m_isTrackerShown);
     m_column->addWidget(m_rules);
     m_rules->setPeriod(m_days);
 }
