@@ -4,7 +4,6 @@
 #include "Fonts.h"
 #include "SymbolLabel.h"
 #include "Theme.h"
-#include "WindowSize.h"
 
 #include <QPainter>
 #include <QWheelEvent>
@@ -32,7 +31,7 @@ SegmentedTabs::SegmentedTabs(QWidget* parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setElideMode(Qt::ElideNone);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void SegmentedTabs::addTab(Symbol symbol, const QString& text)
@@ -49,18 +48,26 @@ SymbolLabel SegmentedTabs::label(int index) const
             fonts::grown(usualTabSymbolSize, font())};
 }
 
+SymbolLabel SegmentedTabs::labelIn(int index, int width) const
+{
+    SymbolLabel shown = label(index);
+    if (shown.size(QFontMetrics(selectedFont(*this))).width() > width)
+        shown.symbol.reset();
+    return shown;
+}
+
+QSize SegmentedTabs::minimumTabSizeHint(int index) const
+{
+    constexpr int leastSide = 5;
+    const int text = QFontMetrics(selectedFont(*this)).horizontalAdvance(tabText(index));
+    return {text + 2 * leastSide, tabSizeHint(index).height()};
+}
+
 QSize SegmentedTabs::tabSizeHint(int index) const
 {
-    const QFontMetrics metrics(selectedFont(*this));
-    const auto size = [&](int tab) {
-        // A symbol brings some air of its own.
-        const int side = tabData(tab).isValid() ? 12 : 22;
-        return label(tab).size(metrics).grownBy({side, 8, side, 8});
-    };
-    QSize widest;
-    for (int i = 0; i < count(); ++i)
-        widest = widest.expandedTo(size(i));
-    return count() * widest.width() <= widestContents() ? widest : size(index);
+    // A symbol brings some air of its own.
+    const int side = tabData(index).isValid() ? 10 : 22;
+    return label(index).size(QFontMetrics(selectedFont(*this))).grownBy({side, 8, side, 8});
 }
 
 void SegmentedTabs::focusInEvent(QFocusEvent* event)
@@ -94,7 +101,7 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
         painter.setFont(isCurrent ? selectedFont(*this) : font());
-        label(i).paint(painter, segment.toRect(), layoutDirection());
+        labelIn(i, segment.toRect().width()).paint(painter, segment.toRect(), layoutDirection());
     }
 }
 

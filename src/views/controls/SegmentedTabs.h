@@ -8,7 +8,8 @@
 
 struct SymbolLabel;
 
-/// A tab bar drawn as a segmented control. Keys and accessibility are those of a tab bar.
+/// A tab bar drawn as a segmented control. Keys and accessibility are those of a tab bar. Where there is no room, the
+/// tabs are as narrow as their texts, without symbols.
 class SegmentedTabs : public QTabBar {
     Q_OBJECT
 
@@ -21,6 +22,7 @@ public:
 
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
+    [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -29,6 +31,8 @@ protected:
 
 private:
     [[nodiscard]] SymbolLabel label(int index) const;
+    /// The label without its symbol if that does not fit.
+    [[nodiscard]] SymbolLabel labelIn(int index, int width) const;
 
     FocusVisible m_focusVisible;
 };
