@@ -9,7 +9,7 @@ pellory_test(views
         views/settings/CountingTest.cpp views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp
         views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/SaveAlertTest.cpp
         views/windows/UndoLineTest.cpp views/settings/DataSettingsTest.cpp
-        views/calendar/RuleLinesTest.cpp views/settings/RulesTest.cpp
+        views/calendar/RuleLinesTest.cpp views/settings/RulesTest.cpp views/year/YearViewTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )

@@ -19,7 +19,7 @@ public:
     QProperty<bool> showWeekNumbers{false};
     /// The day on which rows of days begin, as Qt::DayOfWeek; 0 as the locale has it.
     QProperty<int> firstDayOfWeek{Qt::Sunday};
-    /// 1 is "Month", 2 is "Quarter".
+    /// 1 is "Month", 2 is "Quarter", 3 is "Year".
     QProperty<int> selectedTab{1};
 
     /// The first day of a week that `firstDayOfWeek` stands for.

@@ -27,6 +27,8 @@
 #include "ViewParts.h"
 #include "ViewSettings.h"
 #include "WindowId.h"
+#include "WindowSize.h"
+#include "YearView.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -42,6 +44,8 @@ namespace {
 
 // The stored number of the first tab.
 constexpr int firstTab = 1;
+// The width of contents on it.
+constexpr int smallScreen = 340;
 
 // These, and the others that the desktop has for the same.
 QList<QKeySequence> withDesktopKeys(const QKeySequence& keys, QKeySequence::StandardKey standard)
@@ -60,7 +64,8 @@ ContentView::ContentView(const ViewParts& parts, QWidget* parent)
     , m_status(new TrackingStatus(parts.settings, parts.wifiClient, parts.locationManager, this))
     , m_column(new QVBoxLayout(this))
     , m_tabs(new SegmentedTabs)
-    , m_pages(new LazyStack({[this] { return makePage<MonthView>(); }, [this] { return makePage<QuarterView>(); }}))
+    , m_pages(new LazyStack({[this] { return makePage<MonthView>(); }, [this] { return makePage<QuarterView>(); },
+                             [this] { return makeYearPage(); }}))
     , m_undoLine(new UndoLine(parts.marker, parts.history, parts.clock, *m_pages))
 {
     m_column->setContentsMargins({});
@@ -87,9 +92,12 @@ QWidget* ContentView::makeHeader()
     m_tabs->setAccessibleName(tr("View"));
     m_tabs->addTab(Symbol::Calendar, tr("Month"));
     m_tabs->addTab(Symbol::Calendar, tr("Quarter"));
+    m_tabs->addTab(Symbol::Calendar, tr("Year"));
     auto* header = new Bar(Qt::BottomEdge);
     auto* row = new QGridLayout(header);
-    row->setContentsMargins(24, 8, 24, 9);
+    // On a small screen the tabs need some of the room at the sides.
+    const int side = widestContents() < smallScreen ? 12 : 24;
+    row->setContentsMargins(side, 8, side, 9);
     row->addWidget(makeIndicator(), 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     row->addWidget(m_tabs, 0, 1);
     row->addWidget(makeToolbar(), 0, 2, Qt::AlignRight | Qt::AlignVCenter);
@@ -204,6 +212,22 @@ template <class Calendar> QWidget* ContentView::makePage()
     connect(calendar, &GridPage::detailsRequested, this, &ContentView::openDetails);
     connect(calendar, &GridPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
     return new Page(calendar);
+}
+
+QWidget* ContentView::makeYearPage()
+{
+    auto* year = new YearView(m_parts.calendar());
+    connect(year, &YearView::monthOpened, this, &ContentView::openMonth);
+    return new Page(year);
+}
+
+void ContentView::openMonth(const YearMonth& month, Qt::FocusReason reason)
+{
+    m_tabs->setCurrentIndex(0);
+    page().showPeriod(month);
+    page().focusCurrentDay(reason);
+    if (reason != Qt::MouseFocusReason)
+        scrollToFocus();
 }
 
 void ContentView::openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell)

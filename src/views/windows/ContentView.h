@@ -21,10 +21,11 @@ class UndoLine;
 
 struct BackupFile;
 struct ViewParts;
+struct YearMonth;
 enum class LostStore;
 enum class WindowId;
 
-/// The contents of the main window: header, alerts, and the month or the quarter.
+/// The contents of the main window: header, alerts, and the month, the quarter or the year.
 class ContentView : public QWidget {
     Q_OBJECT
 
@@ -70,6 +71,8 @@ private:
     void scrollToFocus();
     [[nodiscard]] CalendarPage& page() const;
     template <class Calendar> [[nodiscard]] QWidget* makePage();
+    [[nodiscard]] QWidget* makeYearPage();
+    void openMonth(const YearMonth& month, Qt::FocusReason reason);
     void openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
     void popUp(Popover& popover);
 
