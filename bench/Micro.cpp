@@ -3,6 +3,7 @@
 #include "AttendanceStatistics.h"
 #include "AutostartEntry.h"
 #include "BackupService.h"
+#include "CalendarPage.h"
 #include "ContentView.h"
 #include "CountingRecords.h"
 #include "DayMarker.h"
@@ -11,7 +12,6 @@
 #include "InOfficeCheck.h"
 #include "LaunchAtLogin.h"
 #include "LocationManager.h"
-#include "MonthView.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
 #include "RulePresets.h"
@@ -191,20 +191,22 @@ struct Parts {
         locationManager,          check,  launchAtLogin};
 };
 
-void showOtherMonths(benchmark::State& state, qsizetype rules)
+void showOtherPeriods(benchmark::State& state, int tab, QSize size, qsizetype rules)
 {
     Parts parts;
     const auto presets = rulePresets();
     for (const RulePreset& preset : presets.first(rules))
         parts.counting.addRule(preset.rule);
+    parts.viewSettings.selectedTab = tab;
     ContentView window(parts.parts);
-    window.resize(534, 860);
+    window.resize(size);
     window.show();
     QApplication::processEvents();
 
-    auto& view = *window.findChild<MonthView*>();
+    auto& view = *window.findChild<CalendarPage*>();
     YearMonth shown = view.month();
-    YearMonth other = *shown.next();
+    const QDate next = view.span().last.addDays(1);
+    YearMonth other{next.year(), next.month()};
     PaintCounter counter;
     view.installEventFilter(&counter);
     while (state.KeepRunning()) {
@@ -213,17 +215,25 @@ void showOtherMonths(benchmark::State& state, qsizetype rules)
         QApplication::processEvents();
     }
     if (counter.paints < state.iterations())
-        state.SkipWithError("a month was shown without being painted");
+        state.SkipWithError("a period was shown without being painted");
 }
+
+constexpr QSize usualWindow(534, 860);
 
 void monthChange(benchmark::State& state)
 {
-    showOtherMonths(state, 0);
+    showOtherPeriods(state, 1, usualWindow, 0);
 }
 
 void monthChangeWithTwelveRules(benchmark::State& state)
 {
-    showOtherMonths(state, 12);
+    showOtherPeriods(state, 1, usualWindow, 12);
+}
+
+/// In a window that shows all of it.
+void yearChange(benchmark::State& state)
+{
+    showOtherPeriods(state, 3, QSize(900, 1000), 0);
 }
 
 void openWindow(benchmark::State& state, WindowId id)
@@ -246,6 +256,7 @@ BENCHMARK(countDaysOfYear)->MeasureProcessCPUTime();
 BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(monthChange)->MeasureProcessCPUTime();
 BENCHMARK(monthChangeWithTwelveRules)->MeasureProcessCPUTime();
+BENCHMARK(yearChange)->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, settings, WindowId::settings)->Name("openWindow:settings")->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, help, WindowId::help)->Name("openWindow:help")->MeasureProcessCPUTime();
 BENCHMARK_CAPTURE(openWindow, views, WindowId::calendarViewSettings)
