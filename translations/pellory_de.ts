@@ -644,6 +644,10 @@
         <source>Finish Set-up</source>
         <translation>Einrichtung abschließen</translation>
     </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
 </context>
 <context>
     <name>CountingTexts</name>
@@ -1498,6 +1502,22 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>MonthTile</name>
+    <message numerus="yes">
+        <source>%1 %2, %3 of %n workdays in office</source>
+        <comment>month and year</comment>
+        <translation>
+            <numerusform>%1 %2, %3 von %n Arbeitstag im Büro</numerusform>
+            <numerusform>%1 %2, %3 von %n Arbeitstagen im Büro</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1/%2</source>
+        <comment>days in the office, and workdays</comment>
+        <translation>%1/%2</translation>
     </message>
 </context>
 <context>
@@ -3594,6 +3614,53 @@
     <message>
         <source>Choose at least one day of the week.</source>
         <translation>Wählen Sie mindestens einen Wochentag.</translation>
+    </message>
+</context>
+<context>
+    <name>YearFigures</name>
+    <message numerus="yes">
+        <source>%1: %2 of %n workdays in office, %3 days per week on average</source>
+        <comment>quarter or year</comment>
+        <translation>
+            <numerusform>%1: %2 von %n Arbeitstag im Büro, im Schnitt %3 Tage pro Woche</numerusform>
+            <numerusform>%1: %2 von %n Arbeitstagen im Büro, im Schnitt %3 Tage pro Woche</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Figures of the year</source>
+        <translation>Zahlen des Jahres</translation>
+    </message>
+    <message>
+        <source>In Office</source>
+        <translation>Im Büro</translation>
+    </message>
+    <message>
+        <source>Workdays</source>
+        <translation>Arbeitstage</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Schnitt</translation>
+    </message>
+</context>
+<context>
+    <name>YearView</name>
+    <message>
+        <source>Error loading year!</source>
+        <translation>Das Jahr konnte nicht geladen werden!</translation>
+    </message>
+    <message>
+        <source>Last Year</source>
+        <translation>Voriges Jahr</translation>
+    </message>
+    <message>
+        <source>Next Year</source>
+        <translation>Nächstes Jahr</translation>
+    </message>
+    <message>
+        <source>Q%1</source>
+        <comment>a quarter of the year</comment>
+        <translation>%1. Quartal</translation>
     </message>
 </context>
 <context>
