@@ -3,7 +3,6 @@
 
 #include "Clock.h"
 #include "DayMarker.h"
-#include "DaySelection.h"
 #include "Labels.h"
 #include "LinkButton.h"
 #include "NavigationRow.h"
@@ -34,7 +33,6 @@ CalendarPage::CalendarPage(const CalendarParts& parts, const QString& errorText,
     , m_error(labels::announced(new QLabel(errorText)))
     , m_contents(new QWidget)
     , m_column(new QVBoxLayout(m_contents))
-    , m_selection(std::make_unique<DaySelection>(parts, *this))
 {
     m_error->setObjectName("error"_L1);
     m_error->setAlignment(Qt::AlignCenter);
@@ -46,10 +44,7 @@ CalendarPage::CalendarPage(const CalendarParts& parts, const QString& errorText,
     page->addWidget(m_contents);
     page->addStretch();
     connect(&parts.clock, &Clock::dayChanged, this, &CalendarPage::followToday);
-    connect(m_selection.get(), &DaySelection::popoverRequested, this, &CalendarPage::popoverRequested);
 }
-
-CalendarPage::~CalendarPage() = default;
 
 void CalendarPage::connectNavigation(NavigationRow& navigation)
 {
@@ -60,15 +55,6 @@ void CalendarPage::connectNavigation(NavigationRow& navigation)
         // The link is about to be hidden.
         showToday(m_navigation->todayLink()->hasFocus() ? Qt::TabFocusReason : Qt::OtherFocusReason);
     });
-}
-
-void CalendarPage::connectCard(MonthCard& card)
-{
-    m_cards.push_back(&card);
-    m_selection->watch(card.calendar());
-    connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
-    connect(&card.calendar(), &CalendarView::detailsRequested, this, &CalendarPage::detailsRequested);
-    connect(&card.calendar(), &CalendarView::popoverRequested, this, &CalendarPage::popoverRequested);
 }
 
 void CalendarPage::previous(Qt::FocusReason reason)
@@ -91,10 +77,6 @@ void CalendarPage::turnTo(const YearMonth& month, Qt::FocusReason /*reason*/)
 void CalendarPage::showPeriod(const YearMonth& month)
 {
     m_month = month;
-    m_selection->followTurn();
-    const auto months = loadQuarter();
-    const bool isLoaded = !months.isEmpty();
-
     const bool isLoaded = tryToLoad();
     m_retry.setNeeded(!isLoaded);
     m_error->setVisible(!isLoaded);

@@ -11,10 +11,6 @@
 
 #include <optional>
 
-class CalendarView;
-class DaySelection;
-class Month;
-class MonthCard;
 class NavigationRow;
 class QLabel;
 class QVBoxLayout;
@@ -30,9 +26,6 @@ class CalendarPage : public QWidget {
     Q_OBJECT
 
 public:
-    CalendarPage(const CalendarParts& parts, QWidget* parent);
-    ~CalendarPage() override;
-
     /// The error text takes the place of the contents while the store cannot be read.
     CalendarPage(const CalendarParts& parts, const QString& errorText, QWidget* parent);
 
@@ -88,8 +81,4 @@ private:
     QLabel* m_error;
     QWidget* m_contents;
     QVBoxLayout* m_column;
-    /// The day that the last turn gave the focus, and the one that it would have if the month were long enough.
-    int m_reachedDay = 0;
-    int m_wantedDay = 0;
-    std::unique_ptr<DaySelection> m_selection;
 };

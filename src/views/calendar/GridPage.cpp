@@ -3,6 +3,7 @@
 
 #include "CalendarView.h"
 #include "DayMarker.h"
+#include "DaySelection.h"
 #include "Month.h"
 #include "MonthCard.h"
 #include "StoredMonths.h"
@@ -20,12 +21,17 @@ std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
 
 GridPage::GridPage(const CalendarParts& parts, QWidget* parent)
     : CalendarPage(parts, CalendarPage::tr("Error loading month!"), parent)
+    , m_selection(std::make_unique<DaySelection>(parts, *this))
 {
+    connect(m_selection.get(), &DaySelection::popoverRequested, this, &GridPage::popoverRequested);
 }
+
+GridPage::~GridPage() = default;
 
 void GridPage::connectCard(MonthCard& card)
 {
     m_cards.push_back(&card);
+    m_selection->watch(card.calendar());
     connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
     connect(&card.calendar(), &CalendarView::detailsRequested, this, &GridPage::detailsRequested);
     connect(&card.calendar(), &CalendarView::popoverRequested, this, &GridPage::popoverRequested);
@@ -33,6 +39,7 @@ void GridPage::connectCard(MonthCard& card)
 
 void GridPage::load()
 {
+    m_selection->followTurn();
     const auto months = quarterMonths(parts().marker.context(), month().quarter());
     for (std::size_t i = 0; i < m_cards.size(); ++i)
         m_cards[i]->setMonth(months.at(isQuarter() ? static_cast<qsizetype>(i) : (month().month - 1) % 3));

@@ -8,6 +8,7 @@
 #include <vector>
 
 class CalendarView;
+class DaySelection;
 class Month;
 class MonthCard;
 
@@ -18,6 +19,7 @@ class GridPage : public CalendarPage {
 
 public:
     GridPage(const CalendarParts& parts, QWidget* parent);
+    ~GridPage() override;
 
     [[nodiscard]] DaySpan span() const override;
     [[nodiscard]] QDate focusedDate() const override;
@@ -48,6 +50,7 @@ private:
     [[nodiscard]] CalendarView* focusedCalendar() const;
 
     std::vector<MonthCard*> m_cards;
+    std::unique_ptr<DaySelection> m_selection;
     /// The day that the last turn gave the focus, and the one that it would have if the month were long enough.
     int m_reachedDay = 0;
     int m_wantedDay = 0;
