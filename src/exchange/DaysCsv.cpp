@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DaysCsv.h"
+
+#include "DaysCsvFormat.h"
+
+#include <QDateTime>
+#include <QHash>
+
+namespace {
+
+/// Writes the cells of a list one after the other.
+class CsvWriter {
+public:
+    void add(QLatin1StringView cell)
+    {
+        begin();
+        m_text.append(cell.data(), cell.size());
+    }
+
+    void add(const QString& cell)
+    {
+        begin();
+        QByteArray bytes = days_csv::escaped(cell).toUtf8();
+        const bool isQuoted = bytes.contains(',') || bytes.contains('"') || bytes.contains('\n') ||
+                              bytes.contains('\r') || bytes.startsWith(' ') || bytes.endsWith(' ');
+        m_text += isQuoted ? '"' + bytes.replace('"', "\"\"") + '"' : bytes;
+    }
+
+    void endLine()
+    {
+        m_text += "\r\n";
+        m_isLineEmpty = true;
+    }
+
+    [[nodiscard]] QByteArray text() const { return m_text; }
+
+private:
+    void begin()
+    {
+        if (!m_isLineEmpty)
+            m_text += ',';
+        m_isLineEmpty = false;
+    }
+
+    QByteArray m_text;
+    bool m_isLineEmpty = true;
+};
+
+void addKind(CsvWriter& writer, const AbsenceKind& kind)
+{
+    writer.add(days_csv::nameOfKind(kind.id));
+    writer.add(kind.name);
+    writer.add(kind.id == AbsenceKind::none ? QLatin1StringView() : days_csv::nameOf(kind.treatment));
+}
+
+void addDayOff(CsvWriter& writer, const std::optional<DayOff>& dayOff)
+{
+    writer.add(dayOff ? dayOff->name : QString());
+    writer.add(dayOff ? days_csv::nameOf(dayOff->source) : QLatin1StringView());
+}
+
+void addChange(CsvWriter& writer, const std::optional<DayChange>& change)
+{
+    const auto time = [&] { return QDateTime::fromMSecsSinceEpoch(change->time, Qt::UTC); };
+    writer.add(change ? days_csv::nameOf(change->by) : QLatin1StringView());
+    writer.add(change ? time().toString(Qt::ISODateWithMs) : QString());
+    writer.add(change ? change->network : QString());
+}
+
+} // namespace
+
+QByteArray daysCsv(const QList<DayRecord>& days, const QList<AbsenceKind>& kinds)
+{
+    QHash<int, AbsenceKind> kindsById;
+    for (const AbsenceKind& kind : kinds)
+        kindsById.insert(kind.id, kind);
+    CsvWriter writer;
+    for (const QLatin1StringView name : days_csv::columnNames)
+        writer.add(name);
+    writer.endLine();
+    for (const DayRecord& day : days) {
+        writer.add(day.date.toString(Qt::ISODate));
+        writer.add(rawValue(day.state));
+        addKind(writer, kindsById.value(day.absenceKind));
+        writer.add(day.note);
+        addDayOff(writer, day.dayOff);
+        addChange(writer, day.lastChange);
+        writer.endLine();
+    }
+    return writer.text();
+}
