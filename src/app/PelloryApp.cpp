@@ -9,12 +9,11 @@
 #include "ModelContext.h"
 #include "StoreError.h"
 #include "StoreFile.h"
+#include "StoreFolder.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLoggingCategory>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -29,8 +28,8 @@ constexpr int attemptTimeout = 5;
 
 PelloryApp::PelloryApp(const QString& dataFolder, Alerts& alerts, std::chrono::milliseconds lockTimeout)
     : m_alerts(alerts)
-    , m_folder(dataFolder + "/Pellory"_L1)
-    , m_storeFile(m_folder + "/Pellory.store"_L1)
+    , m_storeFile(storeFileIn(dataFolder))
+    , m_folder(QFileInfo(m_storeFile).path())
     , m_lockTimeout(lockTimeout)
     , m_lock(m_storeFile)
 {
@@ -45,13 +44,7 @@ PelloryApp::~PelloryApp() = default;
 
 void PelloryApp::createFolder()
 {
-    namespace fs = std::filesystem;
-    const fs::path folder = m_folder.toStdString();
-    std::error_code error;
-    fs::create_directories(folder.parent_path(), error);
-    const bool created = !error && fs::create_directory(folder, error);
-    if (created)
-        fs::permissions(folder, fs::perms::owner_all, error);
+    const auto error = createStoreFolder(m_storeFile);
     if (!error)
         return;
     const QString reason = QString::fromStdString(error.message());

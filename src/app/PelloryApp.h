@@ -54,8 +54,8 @@ private:
     void findOrCreateSettings();
 
     Alerts& m_alerts;
-    QString m_folder;
     QString m_storeFile;
+    QString m_folder;
     std::chrono::milliseconds m_lockTimeout;
     StoreLock m_lock;
     std::optional<LostStore> m_lostStore;
