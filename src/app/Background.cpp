@@ -148,7 +148,8 @@ bool Background::isTracking() const
 
 void Background::showTrayIcon()
 {
-    m_trayIcon = std::make_unique<TrayIcon>(m_parts.settings, m_parts.wifiClient, m_parts.locationManager);
+    m_trayIcon = std::make_unique<TrayIcon>(m_parts.settings, m_parts.wifiClient, m_parts.locationManager,
+                                            m_parts.marker, m_parts.clock);
     connect(m_trayIcon.get(), &TrayIcon::openRequested, &m_windows, [this] { m_windows.openMain(); });
     connect(m_trayIcon.get(), &TrayIcon::checkRequested, this, &Background::runCheck);
     connect(m_trayIcon.get(), &TrayIcon::quitRequested, this, &Background::requestQuit);

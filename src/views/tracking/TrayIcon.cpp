@@ -2,6 +2,7 @@
 #include "TrayIcon.h"
 
 #include "AppIcon.h"
+#include "TodayEntries.h"
 #include "TrackingStatus.h"
 
 #include <QGuiApplication>
@@ -44,7 +45,8 @@ private:
 
 } // namespace
 
-TrayIcon::TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager)
+TrayIcon::TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+                   DayMarker& marker, const Clock& clock)
     : m_status(std::make_unique<TrackingStatus>(settings, wifiClient, locationManager))
     , m_menu(std::make_unique<QMenu>())
     , m_icon(std::make_unique<QSystemTrayIcon>(QIcon(new PanelIcon)))
@@ -52,7 +54,10 @@ TrayIcon::TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, Location
     connect(m_menu->addAction(tr("Open")), &QAction::triggered, this, &TrayIcon::openRequested);
     connect(m_menu->addAction(tr("Run In-Office Check")), &QAction::triggered, this, &TrayIcon::checkRequested);
     m_menu->addSeparator();
+    m_today = std::make_unique<TodayEntries>(*m_menu, marker, clock);
+    m_menu->addSeparator();
     connect(m_menu->addAction(tr("Quit")), &QAction::triggered, this, &TrayIcon::quitRequested);
+    connect(m_today.get(), &TodayEntries::failed, this, &TrayIcon::openRequested); // whose window says why
     m_icon->setContextMenu(m_menu.get());
     connect(m_icon.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

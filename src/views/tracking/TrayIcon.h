@@ -6,9 +6,12 @@
 #include <memory>
 
 class AppSettings;
+class Clock;
+class DayMarker;
 class LocationManagerKey;
 class QMenu;
 class QSystemTrayIcon;
+class TodayEntries;
 class TrackingStatus;
 class WiFiClient;
 
@@ -17,7 +20,8 @@ class TrayIcon : public QObject {
     Q_OBJECT
 
 public:
-    TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager);
+    TrayIcon(const AppSettings& settings, WiFiClient& wifiClient, LocationManagerKey& locationManager,
+             DayMarker& marker, const Clock& clock);
     ~TrayIcon() override;
 
 Q_SIGNALS:
@@ -28,5 +32,6 @@ Q_SIGNALS:
 private:
     std::unique_ptr<TrackingStatus> m_status;
     std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<TodayEntries> m_today;
     std::unique_ptr<QSystemTrayIcon> m_icon;
 };

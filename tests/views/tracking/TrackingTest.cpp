@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ContentView.h"
 #include "LocationAlert.h"
+#include "TodayEntries.h"
 #include "TrackingIndicator.h"
 #include "TrackingPopover.h"
 #include "TrackingStatus.h"
 #include "ViewTest.h"
 
+#include <QMenu>
 #include <QSignalSpy>
 
 class TrackingTest : public ViewTest {};
@@ -104,4 +106,27 @@ TEST_F(TrackingTest, theAlertIsVisibleWhileThePermissionIsMissing)
     click(named<QAbstractButton>(window, "disableTracking"));
     EXPECT_FALSE(settings->wifiTrackingEnabled);
     EXPECT_FALSE(isVisible());
+}
+
+TEST_F(TrackingTest, entriesOfAMenuSetTheStateOfToday)
+{
+    QMenu menu;
+    const TodayEntries entries(menu, marker, clock);
+    const auto ticked = [&] {
+        QStringList texts;
+        for (const QAction* entry : menu.actions()) {
+            if (entry->isChecked())
+                texts.append(entry->text());
+        }
+        return texts;
+    };
+    EXPECT_EQ(ticked(), QStringList{u"Unknown"_s});
+    menu.actions().at(2)->trigger();
+    EXPECT_EQ(ticked(), QStringList{u"In the Office"_s});
+    EXPECT_EQ(DayMarker::stateOf(*month(2026, 11), *month(2026, 11)->indexOf(20)), DayState::IN_OFFICE);
+    marker.mark({{clock.today(), DayState::VACATION_DAY}, {clock.today().addDays(1), DayState::OUT_OF_OFFICE}},
+                ChangedBy::Import);
+    EXPECT_EQ(ticked(), QStringList{u"Vacation Day"_s});
+    clock.beginDay(clock.today().addDays(1));
+    EXPECT_EQ(ticked(), QStringList{u"Out of Office"_s});
 }
