@@ -33,6 +33,7 @@ target_compile_definitions(platform_test PRIVATE
     NETWORK_MANAGER_TEMPLATE="${CMAKE_CURRENT_SOURCE_DIR}/integration/network_manager.py")
 foreach(case
         desktop_test.DesktopTest.test_controls_have_names_and_roles
+        desktop_test.DesktopTest.test_does_the_same_for_scripts_with_a_window_and_without
         desktop_test.DesktopTest.test_goes_on_without_a_window_while_it_tracks
         desktop_test.DesktopTest.test_starts_at_login_without_a_window
         desktop_test.DesktopTest.test_tells_a_screen_reader_what_happens
@@ -43,6 +44,7 @@ foreach(case
         wayland_test.WaylandTest.test_opens_and_shows_its_windows_with_wayland)
     string(REGEX REPLACE ".*test_" "" name ${case})
     add_test(NAME integration.desktop.${name} WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/integration" COMMAND
-        env PELLORY_PROGRAM=$<TARGET_FILE:pellory> /usr/bin/python3 -Bm unittest ${case})
+        env PELLORY_PROGRAM=$<TARGET_FILE:pellory>
+        PELLORY_INTERFACE=${PROJECT_SOURCE_DIR}/data/dbus-interfaces/io.github.pellory.Pellory1.xml /usr/bin/python3 -Bm unittest ${case})
     set_tests_properties(integration.desktop.${name} PROPERTIES SKIP_REGULAR_EXPRESSION "skipped=")
 endforeach()

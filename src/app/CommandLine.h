@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CommandRun.h"
+
 #include <QStringList>
 
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -19,5 +22,11 @@ enum class StartMode {
 /// Prints help, the version or an error if need be, and then ends the process.
 [[nodiscard]] StartMode readCommandLine(const QStringList& arguments);
 
-/// Whether one of the options is given. Can be called before there is an application.
+/// The command that is asked for. Prints an error, and returns nothing, if it is none.
+[[nodiscard]] std::optional<CommandRequest> readCommand(const QStringList& arguments);
+
+/// Whether an option of a command is given. Can be called before there is an application.
+[[nodiscard]] bool asksForCommand(std::span<char* const> arguments);
+
+/// Whether one of the options is given, with a value or without. Can be called before there is an application.
 [[nodiscard]] bool hasOption(std::span<char* const> arguments, std::initializer_list<std::string_view> options);

@@ -26,8 +26,10 @@
 #include "PortalAppearance.h"
 #include "ProcessSetup.h"
 #include "QuitSignals.h"
+#include "ScriptService.h"
 #include "SingleInstance.h"
 #include "StatusNotifierHost.h"
+#include "StoreFolder.h"
 #include "SystemBus.h"
 #include "SystemClock.h"
 #include "Translations.h"
@@ -143,6 +145,9 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     AppWindows windows(parts);
     Background background(parts, windows, platform.notifier, platform.trayHost, settings, alerts);
     look.follow(platform.appearance);
+    ScriptService scripts({marker, history, counting, pellory.settings(), platform.clock,
+                           [&viewSettings] { return viewSettings.weekStart(); }},
+                          backups, [&check] { check.checkNow(); });
 
     QObject::connect(&instance, &SingleInstance::activated, &windows, &AppWindows::openToday);
     QObject::connect(&instance, &SingleInstance::checkRequested, &background, &Background::runCheck);
@@ -156,9 +161,10 @@ int runApplication(PelloryApp& pellory, QSettings& settings, AppLook& look, Aler
     });
     if (const auto lost = pellory.lostStore())
         windows.offerBackup(*lost);
-    const auto startQuietJobs = [&backups, &furtherHolidays] {
+    const auto startQuietJobs = [&backups, &furtherHolidays, &scripts, &instance] {
         backups.start();
         furtherHolidays.start();
+        scripts.start(instance);
     };
     openFirstWindow(windows, background, startQuietJobs, platform, fonts, mode);
     return QApplication::exec();
@@ -204,6 +210,11 @@ void keepOutOfSavedSessions()
         QObject::connect(qApp, request, qApp, refuse, Qt::DirectConnection);
 }
 
+QString dataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
 int run(SingleInstance& instance)
 {
     StartMode mode = readCommandLine(QApplication::arguments());
@@ -219,7 +230,7 @@ int run(SingleInstance& instance)
         return EXIT_SUCCESS;
     logStage("name owned");
     for (;;) {
-        PelloryApp pellory(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), alerts);
+        PelloryApp pellory(dataFolder(), alerts);
         logStage("store open");
         const int result = runApplication(pellory, settings, look, alerts, instance, fonts, mode);
         if (result != reloads)
@@ -248,6 +259,22 @@ int printText(int argc, char* argv[])
     return EXIT_SUCCESS;
 }
 
+// For which no display is needed either.
+int runCommand(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const Translations translations(QLocale::system().uiLanguages());
+    const auto request = readCommand(QCoreApplication::arguments());
+    if (!request)
+        return exitMisuse;
+    const SystemClock clock;
+    const auto weekStart = [] {
+        QSettings settings;
+        return ViewSettings(settings).weekStart();
+    };
+    return runCommand(*request, {storeFileIn(dataFolder()), clock, weekStart});
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -259,6 +286,8 @@ int main(int argc, char* argv[])
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (asksForText(arguments)) // for which no display is needed
         return printText(argc, argv);
+    if (asksForCommand(arguments))
+        return runCommand(argc, argv);
     logToJournalIfPresent();
     logStage("program loaded");
     SingleInstance instance;

@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The program on a display and a bus of its own, worked as a screen reader works it: by the names of what it shows."""
+import json
 import os
 import re
+import signal
 import subprocess
 import tempfile
 import time
@@ -10,6 +12,7 @@ from collections import namedtuple
 from contextlib import suppress
 from functools import partial
 from pathlib import Path
+from xml.etree import ElementTree
 
 import dbus.bus
 from dbus.mainloop.glib import DBusGMainLoop
@@ -266,3 +269,83 @@ class DesktopTest(unittest.TestCase):
         self.press("Help", then=lambda: self.titles(ACTIVE) == ["Help"])
         self.tell((item, "/StatusNotifierItem"), "org.kde.StatusNotifierItem", "Activate", "ii", 0, 0)
         eventually(lambda: self.titles(ACTIVE) == ["Pellory"] and len(items()) == 1)
+
+    def command(self, *arguments, status=0, **environment):
+        """What a command prints, or what it complains of."""
+        done = subprocess.run([PROGRAM, *arguments], env=self.environment | {"DISPLAY": ""} | environment,
+                              capture_output=True, encoding="utf-8", timeout=TIMEOUT)
+        self.assertEqual(done.returncode, status, (arguments, done.stderr))
+        self.assertEqual(bool(done.stderr), bool(status), done.stderr)
+        return done.stdout.rstrip("\n") or done.stderr
+
+    def test_does_the_same_for_scripts_with_a_window_and_without(self):
+        store, provider = self.folder / "Pellory/Pellory.store", f"{NAME}.SearchProvider"
+        path = "/" + NAME.replace(".", "/")
+        now = time.gmtime()
+        self.environment["TZ"] = f"TST{now.tm_hour - 12}"  # where it is noon now, so that no run meets midnight
+        today = time.strftime("%F", now)
+        self.start(PROGRAM, "--search-provider", service=provider)
+        search = partial(self.tell, (provider, f"{path}/SearchProvider"), "org.gnome.Shell.SearchProvider2")
+        self.assertEqual(search("GetInitialResultSet", "as", ["office"]), [])
+        self.assertIn("no data yet", self.command("--status", status=1))
+        for options in (["--mark", today], ["--mark", "2026-02-30=IN_OFFICE"], ["--mark", "2026-2-3=IN_OFFICE"],
+                        ["--mark", f"{today}=IN"], ["--status", "--undo"], ["--json"], ["--status", "x"], ["--export"]):
+            self.command(*options, status=2)
+        self.assertEqual(list(self.folder.glob("Pellory*")), [])
+        nowhere = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+        marks = ["--mark", f"{today}=UNKNOWN", "--mark", "2020-02-29=VACATION_DAY", f"--mark={today}=IN_OFFICE"]
+        self.command(*marks, **nowhere)
+        self.assertEqual(store.stat().st_mode & 0o777, 0o600)
+        questions = ["--status"], ["--status", "--json"], ["--export", "-"]
+        alone = [self.command(*question) for question in questions]
+        self.assertEqual(json.loads(alone[1])["state"], "IN_OFFICE")
+        self.assertRegex(alone[2], f"\n2020-02-29,VACATION_DAY,.*\n{today},IN_OFFICE,")
+        self.assertEqual([str(found) for found in search("GetInitialResultSet", "as", ["day", "needed"])],
+                         ["today", "month", "quarter"])
+        self.assertEqual(search("GetInitialResultSet", "as", ["days", "lost"]), [])
+
+        search("ActivateResult", "sasu", "today", [], 0)
+        eventually(lambda: self.shown("Skip"))
+        self.assertEqual([self.command(*question) for question in questions], alone)
+        script = partial(self.tell, (NAME, path), f"{NAME}1")
+
+        def members(text):
+            interface, = (found for found in ElementTree.fromstring(text) if found.get("name") == f"{NAME}1")
+            return {(member.get("name"), *((argument.get("type"), argument.get("direction"))
+                                           for argument in member.iter("arg"))) for member in interface}
+        offered = self.tell((NAME, path), "org.freedesktop.DBus.Introspectable", "Introspect")
+        self.assertEqual(members(Path(os.environ["PELLORY_INTERFACE"]).read_bytes()), members(offered))
+        self.assertEqual(script("Export"), alone[2].replace("\n", "\r\n") + "\r\n")
+        changes = []
+        self.bus.add_signal_receiver(lambda: changes.append(1), "Changed", f"{NAME}1")
+
+        def changed(times):
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return len(changes) == times
+        self.assertIn("another session", self.command("--undo", status=1, **nowhere))
+        self.command("--mark", f"{today}=OUT_OF_OFFICE", "--mark", "2020-02-29=IN_OFFICE")
+        eventually(lambda: changed(1))
+        self.command("--undo")
+        eventually(lambda: changed(2))
+        script("Mark", "ss", today, "IN_OFFICE")  # as it is
+        for method, arguments, error in (("Mark", ["2026-02-30", "IN_OFFICE"], "InvalidDate"),
+                                         ("Mark", [today, "in_office"], "InvalidState"),
+                                         ("RunCheck", [], "TrackingOff")):
+            with self.assertRaises(dbus.DBusException) as refused:
+                script(method, "s" * len(arguments), *arguments)
+            self.assertEqual(refused.exception.get_dbus_name(), f"{NAME}1.Error.{error}")
+        backup = Path(self.command("--backup"))
+        self.assertTrue(backup.exists())
+        self.assertTrue(changed(2))
+        bus = "org.freedesktop.DBus"
+        os.kill(self.tell((bus, "/"), bus, "GetConnectionUnixProcessID", "s", NAME), signal.SIGKILL)
+        eventually(lambda: not self.bus.name_has_owner(NAME))
+        self.assertEqual(self.command("--status", "--json"), alone[1])
+        self.command("--undo")
+        self.assertIn("nothing to take back", self.command("--undo", status=1))
+        store.write_bytes(b"damaged")
+        self.assertIn("cannot be used", self.command("--status", status=1))
+        store.unlink()
+        self.assertIn("there are backups", self.command("--mark", f"{today}=IN_OFFICE", status=1))
+        self.assertFalse(store.exists())

@@ -35,7 +35,8 @@ SingleInstance::Claim SingleInstance::claim(Request request)
 SingleInstance::Claim SingleInstance::claim(Request request, QDBusConnection bus)
 {
     // Before the name, so that nobody finds the name without the object.
-    if (!bus.isConnected() || !bus.registerObject(ownPath, this, QDBusConnection::ExportScriptableSlots))
+    constexpr auto exported = QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors;
+    if (!bus.isConnected() || !bus.registerObject(ownPath, this, exported))
         return Claim::Owned;
     for (int attempt = 0; attempt < 3; ++attempt) {
         const auto name = bus.interface()->registerService(ownService, QDBusConnectionInterface::DontQueueService);

@@ -9,7 +9,8 @@
 class QDBusConnection;
 class QDBusMessage;
 
-/// Makes sure that a session runs this program only once (org.freedesktop.Application on the session bus).
+/// Makes sure that a session runs this program only once (org.freedesktop.Application on the session bus). Adaptors
+/// that become its children add their interfaces to the same object, at any time.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
