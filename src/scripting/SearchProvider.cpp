@@ -79,7 +79,6 @@ QList<QVariantMap> SearchProvider::GetResultMetas(const QStringList& results)
             metas.append({{u"id"_s, result.id},
                           {u"name"_s, result.name},
                           {u"description"_s, result.description},
-                          {u"clipboardText"_s, u"%1: %2"_s.arg(result.description, result.name)},
                           {u"gicon"_s, busNames::service}});
     }
     return metas;
@@ -100,10 +99,12 @@ QList<SearchProvider::Result> SearchProvider::results() const
     const QVariantMap status = this->status();
     if (status.isEmpty())
         return {};
-    QList<Result> list{{u"today"_s, status.value(u"text"_s).toString(), QLocale().toString(m_place.clock.today())}};
+    QList<Result> list{{u"today"_s, tr("Today: %1", "a state").arg(status.value(u"text"_s).toString()),
+                        QLocale().toString(m_place.clock.today())}};
     for (const QString& id : {u"month"_s, u"quarter"_s}) {
         const QVariantMap period = status.value(id).toMap();
-        list.append({id, period.value(u"text"_s).toString(), period.value(u"goalText"_s).toString()});
+        const QString days = period.value(u"text"_s).toString(), needed = period.value(u"goalText"_s).toString();
+        list.append(needed.isEmpty() ? Result{id, days, {}} : Result{id, needed, days});
     }
     const QVariantList rules = status.value(u"rules"_s).toList();
     for (const QVariant& entry : rules) {

@@ -288,7 +288,7 @@ class DesktopTest(unittest.TestCase):
         search = partial(self.tell, (provider, f"{path}/SearchProvider"), "org.gnome.Shell.SearchProvider2")
         self.assertEqual(search("GetInitialResultSet", "as", ["office"]), [])
         self.assertIn("no data yet", self.command("--status", status=1))
-        for options in (["--mark", today], ["--mark", "2026-02-30=IN_OFFICE"], ["--mark", "2026-2-3=IN_OFFICE"],
+        for options in (["--mark", today], ["--mark", "2026-02-30=IN_OFFICE"], ["--mark", "2026-2-03=IN_OFFICE"],
                         ["--mark", f"{today}=IN"], ["--status", "--undo"], ["--json"], ["--status", "x"], ["--export"]):
             self.command(*options, status=2)
         self.assertEqual(list(self.folder.glob("Pellory*")), [])

@@ -14,6 +14,7 @@
 #include "Testing.h"
 #include "UndoHistory.h"
 
+#include <QDBusMessage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -59,15 +60,21 @@ TEST_F(DayCommandsTest, marksAllOrNoneAndKeepsTheKindOfADayThatIsOutAlready)
     EXPECT_THROW(commands.mark({{u"2026-11-20"_s, u"IN_OFFICE"_s}}), CommandError) << "which is not on disk";
 }
 
-TEST_F(DayCommandsTest, announcesChangesOnceATurn)
+TEST_F(DayCommandsTest, servesOneStoreAfterAnotherAndAnnouncesChangesOnceATurn)
 {
     BackupService backups(marker, clock);
     QObject host;
     int checks = 0;
     settings.daysPerWeekGoals = AppSettings::Goals{Goal::create(u"1.0"_s, {})};
+    std::optional<ScriptService> before(std::in_place, parts, backups, [] {});
+    before->start(host);
+    auto* interface = host.findChild<PelloryInterface*>();
+    before.reset(); // as when the program starts over
+    EXPECT_TRUE(interface->GetStatus({}).isEmpty());
     ScriptService service(parts, backups, [&] { ++checks; });
     service.start(host);
-    const QSignalSpy changed(host.findChild<PelloryInterface*>(), &PelloryInterface::Changed);
+    EXPECT_FALSE(interface->GetStatus({}).isEmpty());
+    const QSignalSpy changed(interface, &PelloryInterface::Changed);
     const auto announced = [&] {
         QCoreApplication::processEvents();
         return changed.size();
