@@ -305,8 +305,9 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(search("GetInitialResultSet", "as", ["days", "lost"]), [])
 
         search("ActivateResult", "sasu", "today", [], 0)
+        eventually(lambda: self.bus.name_has_owner(NAME))
+        self.assertEqual([self.command(*question) for question in questions], alone)  # the first waits for its window
         eventually(lambda: self.shown("Skip"))
-        self.assertEqual([self.command(*question) for question in questions], alone)
         script = partial(self.tell, (NAME, path), f"{NAME}1")
 
         def members(text):
