@@ -17,8 +17,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A backup of a large store on a slow disk takes the longest.
-constexpr int callTimeout = 60'000;
+// In milliseconds. What reads or copies all days may take longer.
+constexpr int usualTimeout = 5'000;
+constexpr int longTimeout = 60'000;
 
 // Structures arrive in the form in which they travel.
 QVariant unpacked(const QVariant& value)
@@ -73,28 +74,28 @@ bool RunningProgram::isThere(const QDBusConnection& bus)
 
 QVariantMap RunningProgram::status()
 {
-    const QVariant status = call(u"GetStatus"_s).arguments().value(0);
+    const QVariant status = call(u"GetStatus"_s, {}, usualTimeout).arguments().value(0);
     return unpacked(status).toMap();
 }
 
 void RunningProgram::mark(const WrittenMarks& marks)
 {
-    call(u"MarkDays"_s, {QVariant::fromValue(marks)});
+    call(u"MarkDays"_s, {QVariant::fromValue(marks)}, usualTimeout);
 }
 
 void RunningProgram::undo()
 {
-    call(u"Undo"_s);
+    call(u"Undo"_s, {}, usualTimeout);
 }
 
 QByteArray RunningProgram::csv()
 {
-    return call(u"Export"_s).arguments().value(0).toString().toUtf8();
+    return call(u"Export"_s, {}, longTimeout).arguments().value(0).toString().toUtf8();
 }
 
 QString RunningProgram::backUp()
 {
-    return call(u"Backup"_s).arguments().value(0).toString();
+    return call(u"Backup"_s, {}, longTimeout).arguments().value(0).toString();
 }
 
 void RunningProgram::activate()
@@ -106,14 +107,14 @@ void RunningProgram::activate()
     m_bus.call(message, QDBus::NoBlock);
 }
 
-QDBusMessage RunningProgram::call(const QString& method, const QVariantList& arguments)
+QDBusMessage RunningProgram::call(const QString& method, const QVariantList& arguments, int timeout)
 {
     auto message = QDBusMessage::createMethodCall(busNames::service, busNames::path, busNames::attendance, method);
     message.setArguments(arguments);
     message.setAutoStartService(false);
     const QDeadlineTimer end(m_startTimeout);
     for (;;) {
-        const QDBusMessage reply = m_bus.call(message, QDBus::Block, callTimeout);
+        const QDBusMessage reply = m_bus.call(message, QDBus::Block, timeout);
         if (reply.type() == QDBusMessage::ReplyMessage)
             return reply;
         if (isStarting(reply) && !end.hasExpired()) {

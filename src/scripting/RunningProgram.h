@@ -29,7 +29,7 @@ public:
     void activate();
 
 private:
-    QDBusMessage call(const QString& method, const QVariantList& arguments = {});
+    QDBusMessage call(const QString& method, const QVariantList& arguments, int timeout);
 
     QDBusConnection m_bus;
     std::chrono::milliseconds m_startTimeout;
