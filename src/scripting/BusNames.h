@@ -9,7 +9,7 @@
 #include <utility>
 
 /// How the program is reached over the session bus.
-namespace busNames {
+namespace bus_names {
 
 using namespace Qt::StringLiterals;
 
@@ -30,4 +30,4 @@ inline constexpr std::array errors{
     std::pair(CommandError::Cause::NoAnswer, "io.github.pellory.Pellory1.Error.NoAnswer"_L1),
 };
 
-} // namespace busNames
+} // namespace bus_names

@@ -14,7 +14,8 @@ namespace {
 
 void sendError(const QDBusMessage& call, const CommandError& error)
 {
-    const auto* const found = std::ranges::find(busNames::errors, error.cause(), [](const auto& e) { return e.first; });
+    const auto* const found =
+        std::ranges::find(bus_names::errors, error.cause(), [](const auto& e) { return e.first; });
     call.setDelayedReply(true);
     QDBusConnection::sessionBus().send(call.createErrorReply(found->second, error.description()));
 }

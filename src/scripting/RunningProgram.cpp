@@ -54,8 +54,8 @@ CommandError::Cause causeOf(const QDBusMessage& reply)
 {
     const auto name = reply.errorName();
     const auto* const found =
-        std::ranges::find_if(busNames::errors, [&](const auto& error) { return error.second == name; });
-    return found == busNames::errors.end() ? CommandError::Cause::NoAnswer : found->first;
+        std::ranges::find_if(bus_names::errors, [&](const auto& error) { return error.second == name; });
+    return found == bus_names::errors.end() ? CommandError::Cause::NoAnswer : found->first;
 }
 
 } // namespace
@@ -69,7 +69,7 @@ RunningProgram::RunningProgram(QDBusConnection bus, std::chrono::milliseconds st
 
 bool RunningProgram::isThere(const QDBusConnection& bus)
 {
-    return bus.isConnected() && bus.interface()->isServiceRegistered(busNames::service);
+    return bus.isConnected() && bus.interface()->isServiceRegistered(bus_names::service);
 }
 
 QVariantMap RunningProgram::status()
@@ -100,7 +100,7 @@ QString RunningProgram::backUp()
 
 void RunningProgram::activate()
 {
-    auto message = QDBusMessage::createMethodCall(busNames::service, busNames::path, u"org.freedesktop.Application"_s,
+    auto message = QDBusMessage::createMethodCall(bus_names::service, bus_names::path, u"org.freedesktop.Application"_s,
                                                   u"Activate"_s);
     message << QVariantMap();
     message.setAutoStartService(false);
@@ -109,7 +109,7 @@ void RunningProgram::activate()
 
 QDBusMessage RunningProgram::call(const QString& method, const QVariantList& arguments, int timeout)
 {
-    auto message = QDBusMessage::createMethodCall(busNames::service, busNames::path, busNames::attendance, method);
+    auto message = QDBusMessage::createMethodCall(bus_names::service, bus_names::path, bus_names::attendance, method);
     message.setArguments(arguments);
     message.setAutoStartService(false);
     const QDeadlineTimer end(m_startTimeout);

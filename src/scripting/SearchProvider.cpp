@@ -44,8 +44,8 @@ SearchProvider::SearchProvider(StoredData::Place place)
 int SearchProvider::run()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.registerObject(busNames::searchPath, this, QDBusConnection::ExportScriptableSlots) ||
-        !bus.registerService(busNames::searchService))
+    if (!bus.registerObject(bus_names::searchPath, this, QDBusConnection::ExportScriptableSlots) ||
+        !bus.registerService(bus_names::searchService))
         return EXIT_FAILURE;
     m_idle.start();
     return QCoreApplication::exec();
@@ -79,7 +79,7 @@ QList<QVariantMap> SearchProvider::GetResultMetas(const QStringList& results)
             metas.append({{u"id"_s, result.id},
                           {u"name"_s, result.name},
                           {u"description"_s, result.description},
-                          {u"gicon"_s, busNames::service}});
+                          {u"gicon"_s, bus_names::service}});
     }
     return metas;
 }
