@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The compiler options of all our targets.
+# The options of all our targets.
 add_library(pellory_options INTERFACE)
 target_compile_options(pellory_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wredundant-decls)
 if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
@@ -8,6 +8,13 @@ if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     target_compile_options(pellory_options INTERFACE -Wno-subobject-linkage)
 endif()
 target_compile_definitions(pellory_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+
+# Relocations are read at each start; of those that refer to no library most take no room when packed.
+include(CheckLinkerFlag)
+check_linker_flag(CXX -Wl,--fatal-warnings,-z,pack-relative-relocs PELLORY_PACKS_RELOCATIONS)
+if(PELLORY_PACKS_RELOCATIONS)
+    target_link_options(pellory_options INTERFACE -Wl,-z,pack-relative-relocs)
+endif()
 
 # pellory_room(<name> SOURCES ... LINKS ... [USES ...] [PRECOMPILES ... | SHARES <room>])
 #
