@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Rounding.h"
 
-#include <array>
-#include <charconv>
+#include <cmath>
 
-// By way of the text, because a multiplication by 100 would make ties of values that are none.
 double roundedToTwoDecimals(double value)
 {
-    std::array<char, 400> text{};
-    const auto written = std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed, 2);
-    std::from_chars(text.cbegin(), written.ptr, value);
-    return value;
+    const double hundredths = value * 100;
+    const double lost = std::fma(value, 100, -hundredths);
+    const double whole = std::nearbyint(hundredths);
+    const double rest = hundredths - whole;
+    // A tie that only the rounding of the product has made is not one.
+    const bool isOnOtherSide = std::abs(rest) == 0.5 && lost * rest > 0;
+    return (isOnOtherSide ? whole + 2 * rest : whole) / 100;
 }

@@ -11,6 +11,7 @@ TEST(StatisticsTexts, readAsTheyShouldWhateverTheLocale)
     EXPECT_EQ(averageText(1234.567), u"You've reached 1234.57 average days in office per week"_s);
     EXPECT_EQ(averageText(40 / 64.0 * 5), u"You've reached 3.12 average days in office per week"_s);
     EXPECT_EQ(twoDecimals(3.125) + goalValueText(2.625), u"3.122.62/5"_s);
+    EXPECT_EQ(twoDecimals(0.015) + twoDecimals(0.025), u"0.010.03"_s); // which are no ties in binary
     EXPECT_EQ(workdaysText(1), u"1 workdays"_s);
 }
 
