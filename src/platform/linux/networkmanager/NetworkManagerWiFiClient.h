@@ -41,9 +41,10 @@ private:
 
     SystemBus& m_bus;
     ScanTiming m_timing;
-    NetworkManager m_networkManager;
     /// As last read.
     NetworkManagerState m_state;
     int m_monitors = 0;
     std::unique_ptr<PowerWatch> m_powerWatch;
+    /// Destroyed first: who waits for one of its answers then stops monitoring.
+    NetworkManager m_networkManager;
 };
