@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLoggingCategory>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -119,6 +120,12 @@ void CalendarPage::focusCurrentDay(Qt::FocusReason reason)
 {
     if (!m_contents->isHidden())
         focusCurrent(reason);
+}
+
+void CalendarPage::addEntries(QMenu& menu)
+{
+    QAction* record = menu.addAction(tr("Save Record…"));
+    connect(record, &QAction::triggered, this, [this] { Q_EMIT recordRequested(span()); });
 }
 
 void CalendarPage::keyPressEvent(QKeyEvent* event)

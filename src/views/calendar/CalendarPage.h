@@ -13,6 +13,7 @@
 
 class NavigationRow;
 class QLabel;
+class QMenu;
 class QVBoxLayout;
 
 /// The keys that lead back to today.
@@ -40,6 +41,9 @@ public:
     /// Gives the focus to what had it last, or to today, or else to the first day. Without days nothing gets it.
     void focusCurrentDay(Qt::FocusReason reason);
 
+    /// Adds the entries for the period to the menu of the window.
+    virtual void addEntries(QMenu& menu);
+
     /// A month of the period, the first after a turn.
     [[nodiscard]] YearMonth month() const { return m_month; }
     /// The days of the period.
@@ -47,6 +51,10 @@ public:
     [[nodiscard]] bool isShown(QDate date) const { return span().contains(date); }
     /// The day that has the keyboard focus, invalid if none has.
     [[nodiscard]] virtual QDate focusedDate() const = 0;
+
+Q_SIGNALS:
+    /// A record of these days is to be saved.
+    void recordRequested(DaySpan span);
 
 protected:
     [[nodiscard]] const CalendarParts& parts() const { return m_parts; }

@@ -125,6 +125,7 @@ QWidget* ContentView::makeToolbar()
     connect(toolbar, &Toolbar::undoRequested, m_undoLine, &UndoLine::undo);
     connect(toolbar, &Toolbar::redoRequested, m_undoLine, &UndoLine::redo);
     connect(toolbar, &Toolbar::quitRequested, this, &ContentView::quitRequested);
+    connect(toolbar, &Toolbar::menuOpening, this, [this](QMenu& menu) { page().addEntries(menu); });
     return toolbar;
 }
 
@@ -211,6 +212,7 @@ template <class Calendar> QWidget* ContentView::makePage()
     auto* calendar = new Calendar(m_parts.calendar());
     connect(calendar, &GridPage::detailsRequested, this, &ContentView::openDetails);
     connect(calendar, &GridPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
+    connect(calendar, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
     return new Page(calendar);
 }
 
@@ -218,6 +220,7 @@ QWidget* ContentView::makeYearPage()
 {
     auto* year = new YearView(m_parts.calendar());
     connect(year, &YearView::monthOpened, this, &ContentView::openMonth);
+    connect(year, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
     return new Page(year);
 }
 

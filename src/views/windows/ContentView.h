@@ -20,6 +20,7 @@ class TrackingStatus;
 class UndoLine;
 
 struct BackupFile;
+struct DaySpan;
 struct ViewParts;
 struct YearMonth;
 enum class LostStore;
@@ -43,6 +44,8 @@ public:
 Q_SIGNALS:
     /// A button of the toolbar was pressed.
     void windowRequested(WindowId id);
+    /// A record of these days is to be saved.
+    void recordRequested(const DaySpan& span);
     /// The first run is to be finished.
     void setUpRequested();
     void quitRequested();
