@@ -10,6 +10,7 @@ pellory_test(views
         views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/SaveAlertTest.cpp
         views/windows/UndoLineTest.cpp views/settings/DataSettingsTest.cpp
         views/calendar/RuleLinesTest.cpp views/settings/RulesTest.cpp views/year/YearViewTest.cpp
+        views/windows/RecordViewTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )

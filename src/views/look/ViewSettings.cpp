@@ -19,6 +19,7 @@ ViewSettings::ViewSettings(QSettings& settings)
     persist(showWeekNumbers, u"calendarViewShowWeekNumbers"_s);
     persist(firstDayOfWeek, u"calendarViewFirstDayOfWeek"_s);
     persist(selectedTab, u"contentViewSelectedTab"_s);
+    persist(recordFolder, u"recordViewFolder"_s);
 }
 
 Qt::DayOfWeek ViewSettings::weekStart() const

@@ -21,6 +21,8 @@ public:
     QProperty<int> firstDayOfWeek{Qt::Sunday};
     /// 1 is "Month", 2 is "Quarter", 3 is "Year".
     QProperty<int> selectedTab{1};
+    /// Where the last record was saved; empty before the first.
+    QProperty<QString> recordFolder;
 
     /// The first day of a week that `firstDayOfWeek` stands for.
     [[nodiscard]] Qt::DayOfWeek weekStart() const;

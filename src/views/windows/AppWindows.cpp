@@ -14,6 +14,7 @@
 #include "LocationManager.h"
 #include "LostStore.h"
 #include "Page.h"
+#include "RecordView.h"
 #include "SettingsView.h"
 #include "ViewParts.h"
 #include "ViewSettings.h"
@@ -133,6 +134,7 @@ void AppWindows::makeMain()
     m_main = new ContentView(m_parts);
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
+    connect(m_main, &ContentView::recordRequested, this, &AppWindows::openRecord);
     connect(m_main, &ContentView::setUpRequested, this, &AppWindows::openWelcome);
     connect(m_main, &ContentView::quitRequested, this, &AppWindows::quitRequested);
     connect(m_main, &ContentView::reloadRequested, this, &AppWindows::reloadRequested);
@@ -174,6 +176,12 @@ void AppWindows::open(WindowId id)
     if (!window)
         window = makeWindow(id);
     raise(*window, {});
+}
+
+void AppWindows::openRecord(const DaySpan& span)
+{
+    open(WindowId::record);
+    m_others[WindowId::record]->findChild<RecordView*>()->setShown(span);
 }
 
 void AppWindows::openWelcome()
@@ -231,6 +239,11 @@ QWidget* AppWindows::makeWindow(WindowId id)
     case WindowId::about: {
         auto* window = makeCardPage(new AboutView);
         prepare(*window, u"about"_s, tr("About Pellory"), grown(firstAboutSize, window->font()));
+        return window;
+    }
+    case WindowId::record: {
+        auto* window = makeCardPage(new RecordView(m_parts));
+        prepare(*window, u"record"_s, tr("Save Record"), window->sizeHint());
         return window;
     }
     case WindowId::settings:

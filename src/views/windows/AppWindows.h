@@ -13,6 +13,7 @@
 
 class ContentView;
 class WelcomeView;
+struct DaySpan;
 struct ViewParts;
 enum class LostStore;
 enum class WindowId;
@@ -32,6 +33,8 @@ public:
     /// Opens the main window at a day. An invalid date leaves it where it is.
     void openDay(QDate day, const QString& activationToken = {});
     void open(WindowId id);
+    /// Opens the window that saves a record, for these days at first.
+    void openRecord(const DaySpan& span);
     /// Starts the first run, over the main window.
     void openWelcome();
     /// To be called before the first window is opened, if the store is new. If there is a sound backup, the main window

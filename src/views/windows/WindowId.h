@@ -2,4 +2,4 @@
 #pragma once
 
 /// The windows beside the main window. Each is there at most once.
-enum class WindowId { calendarViewSettings, settings, help, about };
+enum class WindowId { calendarViewSettings, settings, help, about, record };
