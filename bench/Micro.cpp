@@ -14,6 +14,8 @@
 #include "LocationManager.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
+#include "RecordContents.h"
+#include "RecordPdf.h"
 #include "RulePresets.h"
 #include "RuleProgress.h"
 #include "SampleStore.h"
@@ -25,6 +27,7 @@
 #include "WindowId.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -154,6 +157,22 @@ void undo(benchmark::State& state)
     }
 }
 
+/// All of it, with what is done on the main thread.
+void recordOfYears(benchmark::State& state, int years)
+{
+    Changes changes;
+    AppSettings settings;
+    CountingRecords counting(changes.marker, settings);
+    const DaySpan span{year2026.last.addDays(1).addYears(-years), year2026.last};
+    while (state.KeepRunning()) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        const auto contents = recordContents(changes.marker, counting, settings, span, Qt::Monday, changes.clock.now());
+        if (!writeRecordPdf(contents, {}, buffer, [](int) { return true; }))
+            state.SkipWithError("a record was not written");
+    }
+}
+
 class PaintCounter : public QObject {
 public:
     std::int64_t paints = 0;
@@ -265,6 +284,8 @@ BENCHMARK_CAPTURE(openWindow, views, WindowId::calendarViewSettings)
 BENCHMARK(openStoreOf1200Months)->MeasureProcessCPUTime();
 BENCHMARK(changesOfADay)->MeasureProcessCPUTime();
 BENCHMARK(undo)->MeasureProcessCPUTime();
+BENCHMARK_CAPTURE(recordOfYears, 1, 1)->Name("recordOfYear:pdf")->MeasureProcessCPUTime();
+BENCHMARK_CAPTURE(recordOfYears, 100, 100)->Name("recordOf100Years:pdf")->Iterations(1)->MeasureProcessCPUTime();
 
 } // namespace
 
