@@ -133,6 +133,10 @@
         <source>About Pellory</source>
         <translation>Über Pellory</translation>
     </message>
+    <message>
+        <source>Save Record</source>
+        <translation>Nachweis speichern</translation>
+    </message>
 </context>
 <context>
     <name>AttendanceStatistics</name>
@@ -433,6 +437,10 @@
     <message>
         <source>Error loading month!</source>
         <translation>Der Monat konnte nicht geladen werden!</translation>
+    </message>
+    <message>
+        <source>Save Record…</source>
+        <translation>Nachweis speichern …</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2228,500 @@
     <message>
         <source>Next Quarter</source>
         <translation>Nächstes Quartal</translation>
+    </message>
+</context>
+<context>
+    <name>RecordCsv</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Weekday</source>
+        <translation>Wochentag</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Day Off</source>
+        <translation>Freier Tag</translation>
+    </message>
+    <message>
+        <source>Workday</source>
+        <translation>Arbeitstag</translation>
+    </message>
+    <message>
+        <source>In the Office</source>
+        <translation>Im Büro</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Set By</source>
+        <translation>Eingetragen durch</translation>
+    </message>
+    <message>
+        <source>Set At</source>
+        <translation>Eingetragen am</translation>
+    </message>
+</context>
+<context>
+    <name>RecordJob</name>
+    <message>
+        <source>The folder is not there any more. Choose another one.</source>
+        <translation>Den Ordner gibt es nicht mehr. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Pellory may not write there. Choose another folder or name.</source>
+        <translation>Pellory darf dort nicht schreiben. Wählen Sie einen anderen Ordner oder Namen.</translation>
+    </message>
+    <message>
+        <source>The disk is full. Choose another folder, or delete files that you do not need any more.</source>
+        <translation>Der Datenträger ist voll. Wählen Sie einen anderen Ordner oder löschen Sie Dateien, die Sie nicht mehr brauchen.</translation>
+    </message>
+    <message>
+        <source>The disk did not take the file. Choose another folder.</source>
+        <translation>Der Datenträger hat die Datei nicht angenommen. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordMonth</name>
+    <message>
+        <source>ddd d</source>
+        <extracomment>A short weekday and the day of the month, in the format of QLocale::toString().</extracomment>
+        <translation>ddd d.</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Eingetragen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPaper</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPdf</name>
+    <message>
+        <source>Office Days, %1</source>
+        <comment>period</comment>
+        <translation>Bürotage, %1</translation>
+    </message>
+    <message>
+        <source>Made with Pellory on %1, %2</source>
+        <comment>date, time</comment>
+        <translation>Erstellt mit Pellory am %1, %2</translation>
+    </message>
+    <message>
+        <source>Date, signature</source>
+        <translation>Datum, Unterschrift</translation>
+    </message>
+    <message>
+        <source>Office Days</source>
+        <translation>Bürotage</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSummary</name>
+    <message>
+        <source>%1: reached</source>
+        <comment>goal</comment>
+        <translation>%1: erreicht</translation>
+    </message>
+    <message>
+        <source>%1: %2 more</source>
+        <comment>goal, days</comment>
+        <translation>%1: noch %2</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>Workdays</source>
+        <translation>Arbeitstage</translation>
+    </message>
+    <message>
+        <source>In the office</source>
+        <translation>Im Büro</translation>
+    </message>
+    <message>
+        <source>Out of office</source>
+        <translation>Nicht im Büro</translation>
+    </message>
+    <message>
+        <source>Vacation</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Geplant</translation>
+    </message>
+    <message>
+        <source>Days a week</source>
+        <translation>Tage pro Woche</translation>
+    </message>
+    <message>
+        <source>Next goal</source>
+        <translation>Nächstes Ziel</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Erreicht</translation>
+    </message>
+    <message>
+        <source>Missed by %1</source>
+        <translation>Um %1 verfehlt</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>Noch %1</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Days needed</source>
+        <translation>Tage nötig</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Goals, over the whole period</source>
+        <translation>Ziele, über den ganzen Zeitraum</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <extracomment>A short date in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>dates</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Counted</source>
+        <translation>Gezählt</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>1 workday</source>
+        <translation>1 Arbeitstag</translation>
+    </message>
+    <message>
+        <source>%1 in the office</source>
+        <translation>%1 im Büro</translation>
+    </message>
+    <message>
+        <source>%1 planned</source>
+        <translation>%1 geplant</translation>
+    </message>
+    <message>
+        <source>%1 days a week</source>
+        <translation>%1 Tage pro Woche</translation>
+    </message>
+    <message>
+        <source>How days count</source>
+        <translation>Wie Tage zählen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTexts</name>
+    <message>
+        <source>Monday to Friday</source>
+        <translation>Montag bis Freitag</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>workdays</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Workdays: Monday to Friday.</source>
+        <translation>Arbeitstage: Montag bis Freitag.</translation>
+    </message>
+    <message>
+        <source>Workdays from %1 on: %2.</source>
+        <comment>date, weekdays</comment>
+        <translation>Arbeitstage ab %1: %2.</translation>
+    </message>
+    <message>
+        <source>Vacation days count as in the office.</source>
+        <translation>Urlaubstage zählen wie im Büro.</translation>
+    </message>
+    <message>
+        <source>Vacation days are left out of the workdays.</source>
+        <translation>Urlaubstage zählen nicht als Arbeitstage.</translation>
+    </message>
+    <message>
+        <source>Vacation days are workdays that are not in the office.</source>
+        <translation>Urlaubstage sind Arbeitstage, die nicht im Büro sind.</translation>
+    </message>
+    <message>
+        <source>There are no days off in this period.</source>
+        <translation>In diesem Zeitraum gibt es keine freien Tage.</translation>
+    </message>
+    <message>
+        <source>1 day off in this period is not a workday.</source>
+        <translation>1 freier Tag in diesem Zeitraum ist kein Arbeitstag.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days off in this period are not workdays.</source>
+        <translation>
+            <numerusform>%n freier Tag in diesem Zeitraum ist kein Arbeitstag.</numerusform>
+            <numerusform>%n freie Tage in diesem Zeitraum sind keine Arbeitstage.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>A date in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>month, year</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Q%1 %2</source>
+        <comment>quarter, year</comment>
+        <translation>%1. Quartal %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>dates</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Office Days %1</source>
+        <extracomment>The name of a file; %1 is such as 2026-11.</extracomment>
+        <translation>Bürotage %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>state and reason</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Day Off</source>
+        <translation>Freier Tag</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Automatically</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Office network %1</source>
+        <translation>Büronetz %1</translation>
+    </message>
+    <message>
+        <source>Undone by hand</source>
+        <translation>Von Hand rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>Redone by hand</source>
+        <translation>Von Hand wiederholt</translation>
+    </message>
+    <message>
+        <source>Restored from a backup</source>
+        <translation>Aus einer Sicherung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>By a pattern</source>
+        <translation>Nach einem Muster</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>Importiert</translation>
+    </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <extracomment>A short date in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <comment>who, date, time</comment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Out of office for the reason %1: counts as in the office.</source>
+        <translation>Nicht im Büro, Art %1: zählt wie im Büro.</translation>
+    </message>
+    <message>
+        <source>Out of office for the reason %1: left out of the workdays.</source>
+        <translation>Nicht im Büro, Art %1: zählt nicht als Arbeitstag.</translation>
+    </message>
+    <message>
+        <source>Averages are days in the office per week of five workdays.</source>
+        <translation>Durchschnitte sind Bürotage pro Woche mit fünf Arbeitstagen.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordView</name>
+    <message>
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Who set each day, and when</source>
+        <translation>Wer jeden Tag eingetragen hat und wann</translation>
+    </message>
+    <message>
+        <source>A line for a signature</source>
+        <translation>Eine Zeile für die Unterschrift</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>between two dates</comment>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>PDF, to print or hand in</source>
+        <translation>PDF, zum Drucken oder Abgeben</translation>
+    </message>
+    <message>
+        <source>CSV, for a spreadsheet</source>
+        <translation>CSV, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>A line a day</source>
+        <translation>Eine Zeile pro Tag</translation>
+    </message>
+    <message>
+        <source>A grid a month</source>
+        <translation>Ein Raster pro Monat</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <comment>name of a file</comment>
+        <translation>Gespeichert als %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was saved.</source>
+        <translation>Abgebrochen. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Nothing was saved. %1</source>
+        <translation>Es wurde nichts gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>Other Dates</source>
+        <translation>Andere Daten</translation>
+    </message>
+    <message>
+        <source>The last day must not be before the first.</source>
+        <translation>Der letzte Tag darf nicht vor dem ersten liegen.</translation>
+    </message>
+    <message>
+        <source>Save Record</source>
+        <translation>Nachweis speichern</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>Saving… %1 %</source>
+        <translation>Wird gespeichert … %1 %</translation>
+    </message>
+    <message>
+        <source>No program opens such files here. The file is in %1.</source>
+        <translation>Hier öffnet kein Programm solche Dateien. Die Datei liegt in %1.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
