@@ -53,6 +53,7 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     setStyle(style);
     setFont(fonts::body(font()));
     setAccessibleName(name);
+    setAccessibleDescription(name); // because on Linux Qt reports the chosen entry as the name
     setMaxVisibleItems(mostEntriesShown);
     setItemDelegate(new RoomyDelegate(this));
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);

@@ -105,6 +105,8 @@ TEST_F(CountingTest, kindsOfAbsenceAreTreatedAddedAndRemoved)
 {
     open();
     auto& sick = called<ComboBox>(u"How Sick counts"_s);
+    const auto said = [&sick](auto text) { return QAccessible::queryAccessibleInterface(&sick)->text(text); };
+    EXPECT_TRUE((said(QAccessible::Name) + said(QAccessible::Description)).contains(u"How Sick counts"_s));
     sick.setFocus();
     press(view(), Qt::Key_N); // finds "Not a Workday"
     EXPECT_EQ(counting.absenceKinds().first().treatment, Treatment::LeftOut);
