@@ -5,6 +5,7 @@
 #include "CountingRecords.h"
 #include "IconButton.h"
 #include "Labels.h"
+#include "LongWords.h"
 #include "Rows.h"
 #include "TextField.h"
 
@@ -18,6 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int longestOwnName = 60; // as in the menu of a day
 constexpr std::array treatments{Treatment::OutOfOffice, Treatment::InOffice, Treatment::LeftOut};
 
 } // namespace
@@ -43,6 +45,7 @@ AbsenceKindsCard::AbsenceKindsCard(CountingRecords& counting, QWidget* parent)
 void AbsenceKindsCard::addEntry()
 {
     m_name->setObjectName("newKind"_L1);
+    m_name->setMaxLength(longestOwnName);
     auto* button = new IconButton(Symbol::Plus, tr("Add Kind of Absence"));
     button->setObjectName("addKind"_L1);
     column().addLayout(makeEntryRow(m_name, button, [this](const QString& name) { return add(name); }));
@@ -80,7 +83,7 @@ AbsenceKindsCard::Row AbsenceKindsCard::makeRow(const AbsenceKind& kind)
     auto* line = new QHBoxLayout(row.whole);
     line->setContentsMargins({});
     line->setSpacing(8);
-    line->addWidget(labels::text(name), 1);
+    line->addWidget(cutLongWords(labels::text(name)), 1);
     line->addWidget(row.treatment);
     const int id = kind.id;
     auto* remove = new IconButton(Symbol::Cross, tr("Remove %1", "kind of absence").arg(name));

@@ -8,6 +8,7 @@
 #include "CountingTexts.h"
 #include "DaysOffTree.h"
 #include "Labels.h"
+#include "LongWords.h"
 #include "WindowSize.h"
 
 #include <QKeyEvent>
@@ -38,7 +39,7 @@ void DaysOffReview::build(const QString& heading)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(pageMargins);
     column->setSpacing(8);
-    column->addWidget(labels::heading(heading));
+    column->addWidget(cutLongWords(labels::heading(heading))); // it may have the name of a file
     column->addLayout(m_head);
     column->addWidget(m_message);
     m_tree->setObjectName("reviewedDays"_L1);

@@ -6,6 +6,7 @@
 #include "Card.h"
 #include "CountingRecords.h"
 #include "Labels.h"
+#include "LongWords.h"
 #include "RuleForm.h"
 #include "RulePresets.h"
 #include "RuleTexts.h"
@@ -61,7 +62,7 @@ RuleEditor::RuleEditor(CountingRecords& counting, const RulePreset& start, QDate
     , m_meaning(std::move(meaning))
     , m_kinds(kindsWith(counting.absenceKinds(), start.absenceKindName))
     , m_form(new RuleForm(m_before, m_kinds, today))
-    , m_sentence(withRoom(labels::text({}), 2))
+    , m_sentence(withRoom(cutLongWords(labels::text({})), 2))
     , m_now(withRoom(labels::dim({}), 2))
     , m_problem(labels::error({}))
 {

@@ -7,6 +7,7 @@
 #include "CountingRecords.h"
 #include "IconButton.h"
 #include "Labels.h"
+#include "LongWords.h"
 #include "MenuStyle.h"
 #include "RulePresets.h"
 #include "RuleTexts.h"
@@ -62,8 +63,8 @@ void RulesView::refresh()
 
 RulesView::Row RulesView::makeRow()
 {
-    const Row row{new QWidget, labels::text({}), labels::dim({}), new IconButton(Symbol::Pencil, {}),
-                  new IconButton(Symbol::Cross, {})};
+    const Row row{new QWidget, cutLongWords(labels::text({})), cutLongWords(labels::dim({})),
+                  new IconButton(Symbol::Pencil, {}), new IconButton(Symbol::Cross, {})};
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
     texts->addWidget(row.name);
