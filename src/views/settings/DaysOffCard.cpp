@@ -152,6 +152,7 @@ void DaysOffCard::returnFrom(Origin origin, const QString& message)
 {
     if (!message.isEmpty())
         showMessage(message);
+    showProblem({}); // with another file
     QWidget* button = origin == Origin::File ? m_chooseFile : m_chooseHolidays;
     button->clearFocus(); // which the page may have given back already, without the ring
     const bool isByKey = window()->testAttribute(Qt::WA_KeyboardFocusChange);
