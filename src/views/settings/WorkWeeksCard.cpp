@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WorkWeeksCard.h"
 
+#include "Accessibility.h"
 #include "Button.h"
 #include "Clock.h"
 #include "CountingRecords.h"
@@ -59,6 +60,12 @@ void WorkWeeksCard::addEntry()
     connect(m_weekdays, &WeekdayButtons::chosen, this, [this] { showProblem({}); });
 }
 
+QString WorkWeeksCard::weekText(const WorkWeek& week)
+{
+    return tr("%1 from %2", "days of the week, date")
+        .arg(counting_texts::weekdays(week.weekdays), counting_texts::date(week.from));
+}
+
 void WorkWeeksCard::showWeeks()
 {
     m_weeks = m_counting.workWeeks();
@@ -72,8 +79,7 @@ void WorkWeeksCard::showWeeks()
     }
     for (qsizetype i = 0; i < m_weeks.size(); ++i) {
         const WorkWeek& week = m_weeks.at(i);
-        const QString text = tr("%1 from %2", "days of the week, date")
-                                 .arg(counting_texts::weekdays(week.weekdays), counting_texts::date(week.from));
+        const QString text = weekText(week);
         m_rows.at(i).text->setText(text);
         m_rows.at(i).remove->setHelp(tr("Remove %1", "workdays").arg(text));
     }
@@ -100,8 +106,8 @@ void WorkWeeksCard::set()
         showProblem(tr("Choose at least one day of the week."));
     else if (!from)
         showProblem(DateField::refusal());
-    else
-        report(m_counting.setWorkWeek({*from, m_weekdays->weekdays()}));
+    else if (report(m_counting.setWorkWeek({*from, m_weekdays->weekdays()})))
+        announce(*this, weekText({*from, m_weekdays->weekdays()}));
 }
 
 void WorkWeeksCard::remove(qsizetype place)

@@ -24,6 +24,7 @@ private:
         IconButton* remove;
     };
 
+    [[nodiscard]] static QString weekText(const WorkWeek& week);
     void addEntry();
     void showWeeks();
     [[nodiscard]] Row makeRow();
