@@ -10,6 +10,8 @@
 namespace {
 
 constexpr int furtherYears = 2;
+// The store may hold any number as the last year.
+constexpr int earliestYear = 2000;
 
 } // namespace
 
@@ -32,7 +34,7 @@ void FurtherHolidays::addMissing()
     if (!region || region->lastYear >= lastYear)
         return;
     QList<DayOff> holidays;
-    for (int year = region->lastYear + 1; year <= lastYear; ++year)
+    for (int year = std::max(region->lastYear + 1, earliestYear); year <= lastYear; ++year)
         holidays.append(publicHolidays(region->id, year));
     if (holidays.isEmpty()) // a region that only a later version knows
         return;

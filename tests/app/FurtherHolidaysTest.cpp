@@ -35,4 +35,7 @@ TEST_F(FurtherHolidaysTest, comeOnceForEachYearAndKeepWhatThePersonHasChanged)
         EXPECT_EQ(nameOf({2028, 12, 25}), std::nullopt);
         EXPECT_EQ(nameOf({2029, 12, 25}).has_value(), day.year() == 2027);
     }
+    counting.setHolidays({u"DE-BE"_s, -2'000'000'000}, {}, clock.today()); // a damaged number
+    clock.beginDay({2027, 1, 2});
+    EXPECT_EQ(lastAdded(), 2029);
 }
