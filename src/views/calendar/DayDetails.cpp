@@ -12,6 +12,7 @@
 #include "DayTexts.h"
 #include "Labels.h"
 #include "LinkButton.h"
+#include "LongWords.h"
 #include "Month.h"
 #include "Page.h"
 #include "StoreError.h"
@@ -53,7 +54,7 @@ QWidget* makeColumn(int spacing)
 QWidget* makeState(const Day& day, const QString& what, const QString& how)
 {
     auto* texts = makeColumn(1);
-    texts->layout()->addWidget(labels::text(what));
+    texts->layout()->addWidget(cutLongWords(labels::text(what))); // the name of a kind of absence
     if (!how.isEmpty())
         texts->layout()->addWidget(labels::dim(how));
     auto* state = new QWidget;
