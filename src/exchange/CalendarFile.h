@@ -1,25 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "FileError.h"
 #include "WorkTime.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
-#include <stdexcept>
-
-/// Why a calendar file cannot be read, and what to do, in words for the person.
-class CalendarFileError : public std::runtime_error {
+/// Why a file is no calendar file that can be read.
+class CalendarFileError : public FileError {
     Q_DECLARE_TR_FUNCTIONS(CalendarFileError)
 
 public:
-    explicit CalendarFileError(const QString& description)
-        : std::runtime_error(description.toStdString())
-    {
-    }
-
-    [[nodiscard]] QString description() const { return QString::fromUtf8(what()); }
+    using FileError::FileError;
 };
 
 struct CalendarFileContents {
@@ -30,5 +23,5 @@ struct CalendarFileContents {
 };
 
 /// Reads the all-day events of an iCalendar file. Those that recur each year are expanded for ten years from that of
-/// `today`. Throws a CalendarFileError if the file cannot be read or is no iCalendar file.
+/// `today`. Throws a FileError if the file cannot be read or is no iCalendar file.
 [[nodiscard]] CalendarFileContents readCalendarFile(const QString& path, QDate today = QDate::currentDate());

@@ -87,7 +87,7 @@ TEST(CalendarFile, whichIsNoneSaysWhatToDo)
         try {
             static_cast<void>(readCalendarFile(path, today));
             ADD_FAILURE() << reason;
-        } catch (const CalendarFileError& error) {
+        } catch (const FileError& error) {
             EXPECT_THAT(error.what(), testing::HasSubstr(reason));
         }
     };

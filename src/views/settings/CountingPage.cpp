@@ -53,7 +53,7 @@ void CountingPage::reviewFile(const QString& path)
         const CalendarFileContents contents = readCalendarFile(path, m_clock.now().date());
         show(new CalendarFileReview(m_counting, QFileInfo(path).fileName(), contents, m_clock.now().date()),
              DaysOffCard::Origin::File);
-    } catch (const CalendarFileError& error) {
+    } catch (const FileError& error) {
         m_daysOff->showFileProblem(error.description());
     }
 }
