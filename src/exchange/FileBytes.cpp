@@ -4,6 +4,8 @@
 #include "FileError.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -43,4 +45,17 @@ QByteArray readFile(const QString& path, qint64 maximumSize)
     if (file.error() != QFile::NoError)
         refuseUnreadable(file.errorString());
     return bytes;
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    const auto refuse = [](const QString& reason) {
+        throw FileError(FileError::tr("The file cannot be written: %1. Choose another place.").arg(reason));
+    };
+    // A file would take the place of a device.
+    if (const QFileInfo present(path); present.exists() && !present.isFile())
+        refuse(FileError::tr("it is a folder or a device"));
+    QSaveFile file(path);
+    if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        refuse(file.errorString());
 }

@@ -42,6 +42,17 @@ std::optional<DayState> dayStateFromRawValue(QStringView raw)
     return found == allDayStates.end() ? std::nullopt : std::optional(*found);
 }
 
+std::optional<DayState> dayStateFromText(const QString& text)
+{
+    const auto isMeant = [&text](DayState state) {
+        return text.compare(rawValue(state), Qt::CaseInsensitive) == 0 ||
+               text.compare(QLatin1StringView(textOf(state).description), Qt::CaseInsensitive) == 0 ||
+               text.compare(description(state), Qt::CaseInsensitive) == 0;
+    };
+    const auto* const found = std::ranges::find_if(allDayStates, isMeant);
+    return found == allDayStates.end() ? std::nullopt : std::optional(*found);
+}
+
 QString description(DayState state)
 {
     return QCoreApplication::translate("DayState", textOf(state).description);

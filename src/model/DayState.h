@@ -21,5 +21,9 @@ inline constexpr std::array allDayStates{
 /// The state whose stored form is exactly `raw`, if there is one.
 [[nodiscard]] std::optional<DayState> dayStateFromRawValue(QStringView raw);
 
+/// The state that a person or a program has written: its stored form, or its words in English or in the person's
+/// language. In upper or lower case.
+[[nodiscard]] std::optional<DayState> dayStateFromText(const QString& text);
+
 /// The state in the person's language, such as "In the Office".
 [[nodiscard]] QString description(DayState state);
