@@ -184,12 +184,17 @@ void BackupService::restore(const QList<DayDifference>& days)
     QList<DayMark> marks;
     for (const DayDifference& day : days)
         marks.append({day.date, day.after, day.absenceAfter});
-    // The backup that the days come from must not go.
-    make(Thinning::No, [this, marks](const StoreError* error) {
+    backUpAndChange([this, marks] { return m_marker.mark(marks, ChangedBy::Restore); });
+}
+
+void BackupService::backUpAndChange(const std::function<qint64()>& change)
+{
+    // The backup that the days may come from must not go.
+    make(Thinning::No, [this, change](const StoreError* error) {
         try {
             if (error != nullptr)
                 throw *error;
-            Q_EMIT restored(m_marker.mark(marks, ChangedBy::Restore));
+            Q_EMIT restored(change());
         } catch (const StoreError& reason) {
             Q_EMIT restoreFailed(reason.description());
         }

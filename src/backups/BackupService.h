@@ -34,6 +34,8 @@ public:
     /// the program has nothing more urgent to do.
     void start();
 
+    /// Of the days that are backed up.
+    [[nodiscard]] DayMarker& marker() const { return m_marker; }
     [[nodiscard]] const BackupFolder& folder() const { return m_folder; }
     /// Names the kinds of absence that days had.
     [[nodiscard]] const DayAbsences& absences() const;
@@ -57,6 +59,9 @@ public:
     /// Sets the days to what they were (`after`), as one undo step, once a backup was made. Ends with restored() or
     /// restoreFailed(); then nothing has changed.
     void restore(const QList<DayDifference>& days);
+    /// Changes many days in another way, once a backup was made. `change` returns the undo step; it must not need
+    /// anything that may have gone by then. Ends with restored() or restoreFailed().
+    void backUpAndChange(const std::function<qint64()>& change);
     /// Puts the whole backup, settings included, in the place of the store, which is kept beside it
     /// ("Pellory.store.replaced"). Ends with storeReplaced() or restoreFailed(). For a store that was lost.
     void replaceStore(const QString& path);

@@ -41,8 +41,12 @@ QString DayAbsences::describe(DayState state, int kind) const
         return description(state);
     const auto known = kinds();
     const auto found = std::ranges::find(known, kind, &AbsenceKind::id);
-    return found == known.end() ? description(state)
-                                : tr("%1 (%2)", "state and reason").arg(description(state), description(*found));
+    return found == known.end() ? description(state) : describe(state, *found);
+}
+
+QString DayAbsences::describe(DayState state, const AbsenceKind& kind)
+{
+    return tr("%1 (%2)", "state and reason").arg(description(state), description(kind));
 }
 
 int DayAbsences::kindOf(QDate date) const

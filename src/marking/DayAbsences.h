@@ -25,6 +25,7 @@ public:
     [[nodiscard]] QList<AbsenceKind> kinds() const;
     /// The state in the person's language, with the kind of absence if it is known: "Out of Office (Sick)".
     [[nodiscard]] QString describe(DayState state, int kind) const;
+    [[nodiscard]] static QString describe(DayState state, const AbsenceKind& kind);
 
     /// The kind of a day; AbsenceKind::none if it has none, or if the store cannot be read.
     [[nodiscard]] int kindOf(QDate date) const;

@@ -105,6 +105,16 @@ qint64 DayMarker::apply(Month& month, qsizetype index, const DayMark& mark, Mark
 
 qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup)
 {
+    return markAll(marks, by, revertedGroup, {});
+}
+
+qint64 DayMarker::import(const QList<DayMark>& marks, const DayOrigins& origins)
+{
+    return markAll(marks, ChangedBy::Import, 0, origins);
+}
+
+qint64 DayMarker::markAll(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup, const DayOrigins& origins)
+{
     // Everything is read before anything changes.
     if (std::ranges::any_of(marks, [](const DayMark& mark) { return mark.absenceKind != AbsenceKind::none; }))
         static_cast<void>(m_absences.all());
@@ -126,12 +136,16 @@ qint64 DayMarker::mark(const QList<DayMark>& marks, ChangedBy by, qint64 reverte
         m_absences.set(mark.date, mark.absenceKind);
         setState(*month, mark.date, mark.state);
         m_context.insert(month);
-        record({.date = mark.date,
+        const auto origin = origins.constFind(mark.date);
+        const bool isKnown = origin != origins.constEnd();
+        record({.time = isKnown ? origin->time : 0,
+                .date = mark.date,
                 .before = before->state,
                 .after = mark.state,
-                .by = by,
+                .by = isKnown ? origin->by : by,
                 .group = result.group,
                 .revertedGroup = revertedGroup,
+                .network = isKnown ? origin->network : QString(),
                 .absenceBefore = before->absenceKind,
                 .absenceAfter = mark.absenceKind});
         hasOtherAbsences |= before->absenceKind != mark.absenceKind;
@@ -176,7 +190,8 @@ bool DayMarker::setAbsence(QDate date, int kind)
 
 void DayMarker::record(DayChange change)
 {
-    change.time = m_clock.now().toMSecsSinceEpoch();
+    if (change.time == 0)
+        change.time = m_clock.now().toMSecsSinceEpoch();
     m_context.append(change);
     m_last = change;
 }

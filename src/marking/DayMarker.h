@@ -5,6 +5,7 @@
 #include "DayChange.h"
 #include "DayNotes.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 
@@ -48,6 +49,9 @@ struct DayMark {
     bool operator==(const DayMark&) const = default;
 };
 
+/// Who marked days in another store, when, and by which network.
+using DayOrigins = QHash<QDate, DayChange>;
+
 /// The only class that changes the days of stored months. Each change is also a DayChange, which is saved with it. A
 /// month that is not stored, such as a sample, changes without one.
 class DayMarker : public QObject {
@@ -83,6 +87,10 @@ public:
     /// if the store cannot be read.
     qint64 mark(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup = 0);
 
+    /// Marks several days in the same way, each as the change that it has among `origins`, if any; the others are
+    /// recorded as imported now.
+    qint64 import(const QList<DayMark>& marks, const DayOrigins& origins);
+
     /// How a day is marked now; nothing if the month lacks the day.
     [[nodiscard]] std::optional<DayMark> markOn(const Month& month, QDate date) const;
 
@@ -97,6 +105,7 @@ Q_SIGNALS:
     void absencesChanged();
 
 private:
+    qint64 markAll(const QList<DayMark>& marks, ChangedBy by, qint64 revertedGroup, const DayOrigins& origins);
     qint64 apply(Month& month, qsizetype index, const DayMark& mark, MarkedBy by, const QString& network);
     [[nodiscard]] int absenceKindOf(QDate date, DayState state) const;
     /// False, with nothing changed, if the store cannot be read.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QObject>
 
@@ -29,6 +30,9 @@ public:
     /// Changes the text of a note. It is on disk when this returns; a failed save keeps it in memory for the next one.
     /// A note without text is removed.
     void write(const std::shared_ptr<DayNote>& note, const QString& text);
+    /// Adds notes to days without one; the others keep theirs. They are saved with the next save of the context. Throws
+    /// a StoreError, and changes nothing, if the store cannot be read.
+    void add(const QHash<QDate, QString>& texts);
 
 Q_SIGNALS:
     /// The note of a day has been written or removed. It is emitted in the next turn of the event loop, so that a note
@@ -36,5 +40,7 @@ Q_SIGNALS:
     void changed(QDate date);
 
 private:
+    void reportChange(QDate date);
+
     ModelContext& m_context;
 };

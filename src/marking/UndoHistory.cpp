@@ -16,6 +16,12 @@ namespace {
 
 Q_LOGGING_CATEGORY(logUndo, "pellory.marking", QtInfoMsg)
 
+// An undo that was imported takes back nothing here.
+bool isReversal(const DayChange& change, ChangedBy by)
+{
+    return change.by == by && change.revertedGroup != 0;
+}
+
 template <class Action> auto logErrors(Action action) -> decltype(action())
 {
     try {
@@ -67,7 +73,7 @@ struct UndoHistory::UndoStep {
         const DayMark before{change.date, change.before, change.absenceBefore};
         const DayMark after{change.date, change.after, change.absenceAfter};
         spans.try_emplace(change.date, Span{before, after}).first->second.before = before;
-        isUndo = change.by == ChangedBy::Undo;
+        isUndo = isReversal(change, ChangedBy::Undo);
     }
 };
 
@@ -150,10 +156,10 @@ qint64 UndoHistory::groupToRedo() const
     qint64 found = 0;
     QSet<qint64> redone;
     m_marker.context().visitChanges([&](const DayChange& change) {
-        if (change.by == ChangedBy::Redo)
+        if (isReversal(change, ChangedBy::Redo))
             redone.insert(change.revertedGroup);
         else if (!redone.contains(change.group)) {
-            found = change.by == ChangedBy::Undo ? change.group : 0;
+            found = isReversal(change, ChangedBy::Undo) ? change.group : 0;
             return false;
         }
         return true;
