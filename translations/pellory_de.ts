@@ -365,14 +365,6 @@
         <translation>Zeile %1: Der Termin „%2“ wird ausgelassen. %3.</translation>
     </message>
     <message>
-        <source>The file cannot be read: %1. Choose another file.</source>
-        <translation>Die Datei kann nicht gelesen werden: %1. Wählen Sie eine andere Datei.</translation>
-    </message>
-    <message>
-        <source>it is a folder or a device</source>
-        <translation>ein Ordner oder ein Gerät</translation>
-    </message>
-    <message>
         <source>The file has more than 10 MB. Export only the calendar with the days off, and choose that file.</source>
         <translation>Die Datei ist größer als 10 MB. Exportieren Sie nur den Kalender mit den freien Tagen und wählen Sie diese Datei.</translation>
     </message>
@@ -1152,6 +1144,191 @@
     </message>
 </context>
 <context>
+    <name>ExchangeCard</name>
+    <message>
+        <source>Import Days…</source>
+        <translation>Tage importieren …</translation>
+    </message>
+    <message>
+        <source>Export Calendar…</source>
+        <translation>Kalender exportieren …</translation>
+    </message>
+    <message>
+        <source>Export and Import</source>
+        <translation>Export und Import</translation>
+    </message>
+    <message>
+        <source>Export Days…</source>
+        <translation>Tage exportieren …</translation>
+    </message>
+    <message>
+        <source>List of Days</source>
+        <translation>Liste der Tage</translation>
+    </message>
+    <message>
+        <source>A CSV file with all days, their notes and days off, for a spreadsheet or another computer. Plain lists of dates and states can be imported too.</source>
+        <translation>Eine CSV-Datei mit allen Tagen, ihren Notizen und freien Tagen, für eine Tabelle oder einen anderen Rechner. Auch einfache Listen aus Datum und Status lassen sich importieren.</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>An iCalendar file with an all-day event for each day in these states, without notes and reasons. Importing a later one updates the events.</source>
+        <translation>Eine iCalendar-Datei mit einem ganztägigen Termin für jeden Tag mit einem dieser Status, ohne Notizen und Gründe. Wer später eine neuere importiert, aktualisiert die Termine.</translation>
+    </message>
+    <message>
+        <source>Choose a List of Days</source>
+        <translation>Liste von Tagen auswählen</translation>
+    </message>
+    <message>
+        <source>Lists of days (*.csv *.tsv *.txt)</source>
+        <translation>Listen von Tagen (*.csv *.tsv *.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Pellory days %1.csv</source>
+        <comment>file name</comment>
+        <translation>Pellory-Tage %1.csv</translation>
+    </message>
+    <message>
+        <source>Export Days</source>
+        <translation>Tage exportieren</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Kalender exportieren</translation>
+    </message>
+    <message>
+        <source>Pellory.ics</source>
+        <comment>file name</comment>
+        <translation>Pellory.ics</translation>
+    </message>
+    <message>
+        <source>Calendar files (*.ics)</source>
+        <translation>Kalenderdateien (*.ics)</translation>
+    </message>
+    <message>
+        <source>Nothing was exported. %1</source>
+        <translation>Es wurde nichts exportiert. %1</translation>
+    </message>
+    <message>
+        <source>%1 written to %2.</source>
+        <comment>number of days, file</comment>
+        <translation>%1 in %2 geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>FileError</name>
+    <message>
+        <source>it has too many cells</source>
+        <translation>sie hat zu viele Zellen</translation>
+    </message>
+    <message>
+        <source>there is a quotation mark within a cell that does not begin with one</source>
+        <translation>in einer Zelle, die nicht mit einem Anführungszeichen beginnt, steht eines</translation>
+    </message>
+    <message>
+        <source>there is text after a closing quotation mark</source>
+        <translation>nach einem schließenden Anführungszeichen steht noch Text</translation>
+    </message>
+    <message>
+        <source>a quotation mark is never closed, so the rest of the file is left out</source>
+        <translation>ein Anführungszeichen wird nie geschlossen, daher fehlt der Rest der Datei</translation>
+    </message>
+    <message>
+        <source>This is not a list of days. Its first line must name the columns, among them &quot;date&quot; and &quot;state&quot;, or be a day such as 2026-11-20,IN_OFFICE.</source>
+        <translation>Das ist keine Liste von Tagen. Die erste Zeile muss die Spalten benennen, darunter „date“ und „state“, oder ein Tag wie 2026-11-20,IN_OFFICE sein.</translation>
+    </message>
+    <message>
+        <source>The file is not in UTF-8. Save it as CSV with the encoding UTF-8 in the program that it comes from.</source>
+        <translation>Die Datei ist nicht in UTF-8. Speichern Sie sie in dem Programm, aus dem sie stammt, als CSV mit der Kodierung UTF-8.</translation>
+    </message>
+    <message>
+        <source>This is not a text file. Choose a CSV file.</source>
+        <translation>Das ist keine Textdatei. Wählen Sie eine CSV-Datei.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more problems are not listed.</source>
+        <translation>
+            <numerusform>%n weiteres Problem ist nicht aufgeführt.</numerusform>
+            <numerusform>%n weitere Probleme sind nicht aufgeführt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it has %1 cells, and the first line has %2</source>
+        <translation>sie hat %1 Zellen, die erste Zeile hat %2</translation>
+    </message>
+    <message>
+        <source>its date is in line %1 already</source>
+        <translation>ihr Datum steht schon in Zeile %1</translation>
+    </message>
+    <message>
+        <source>The list has more than %L1 days. Split it, and import one part after the other.</source>
+        <translation>Die Liste hat mehr als %L1 Tage. Teilen Sie sie, und importieren Sie die Teile nacheinander.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as 2026-11-20</source>
+        <translation>„%1“ ist kein Datum wie 2026-11-20</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a state of a day</source>
+        <translation>„%1“ ist kein Status eines Tages</translation>
+    </message>
+    <message>
+        <source>only a day out of office has a kind of absence</source>
+        <translation>nur ein Tag außerhalb des Büros hat eine Art der Abwesenheit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a way to count</source>
+        <translation>„%1“ ist keine Zählweise</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a source of days off</source>
+        <translation>„%1“ ist keine Herkunft freier Tage</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nobody who changes days</source>
+        <translation>„%1“ ist niemand, der Tage ändert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time such as 2026-11-20T08:15:00.000Z</source>
+        <translation>„%1“ ist keine Zeit wie 2026-11-20T08:15:00.000Z</translation>
+    </message>
+    <message>
+        <source>Line %1 is left out: %2.</source>
+        <extracomment>The problem is half a sentence.</extracomment>
+        <translation>Zeile %1 wird ausgelassen: %2.</translation>
+    </message>
+    <message>
+        <source>More than %L1 lines cannot be read. Choose a list of days.</source>
+        <translation>Mehr als %L1 Zeilen sind nicht lesbar. Wählen Sie eine Liste von Tagen.</translation>
+    </message>
+    <message>
+        <source>The file has more than 50 MB. Choose a list of days.</source>
+        <translation>Die Datei hat mehr als 50 MB. Wählen Sie eine Liste von Tagen.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1. Choose another file.</source>
+        <translation>Die Datei kann nicht gelesen werden: %1. Wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>it is a folder or a device</source>
+        <translation>es ist ein Ordner oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1. Choose another place.</source>
+        <translation>Die Datei kann nicht geschrieben werden: %1. Wählen Sie einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
     <name>FreedesktopNotifier</name>
     <message>
         <source>Open</source>
@@ -1252,6 +1429,112 @@
     <message>
         <source>not a workday</source>
         <translation>kein Arbeitstag</translation>
+    </message>
+</context>
+<context>
+    <name>ImportView</name>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Die Datei wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. %1</source>
+        <translation>Es wurde nichts importiert. %1</translation>
+    </message>
+    <message>
+        <source>Days from %1</source>
+        <comment>file</comment>
+        <translation>Tage aus %1</translation>
+    </message>
+    <message>
+        <source>Days that the list would change</source>
+        <translation>Tage, die die Liste ändern würde</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <comment>number of notes or days off</comment>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Not everything in the file can be read:</source>
+        <translation>Nicht alles in der Datei ist lesbar:</translation>
+    </message>
+    <message>
+        <source>What was left out</source>
+        <translation>Was ausgelassen wurde</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>Choose what to import. A backup of what is here now is made first.</source>
+        <translation>Wählen Sie, was importiert werden soll. Vorher wird eine Sicherung des jetzigen Stands gemacht.</translation>
+    </message>
+    <message>
+        <source>Days that are marked otherwise here stay as they are, unless you choose them.</source>
+        <translation>Tage, die hier anders markiert sind, bleiben, wie sie sind, wenn Sie sie nicht auswählen.</translation>
+    </message>
+    <message>
+        <source>Marked as in the list already: %1.</source>
+        <translation>Schon so markiert wie in der Liste: %1.</translation>
+    </message>
+    <message>
+        <source>Notes and days off that differ and stay as they are here: %1.</source>
+        <translation>Notizen und freie Tage, die abweichen und hier bleiben, wie sie sind: %1.</translation>
+    </message>
+    <message>
+        <source>Import 1 Day</source>
+        <translation>1 Tag importieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %n Days</source>
+        <translation>
+            <numerusform>%n Tag importieren</numerusform>
+            <numerusform>%n Tage importieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Importing...</source>
+        <translation>Wird importiert ...</translation>
+    </message>
+    <message>
+        <source>Imported: %1.</source>
+        <translation>Importiert: %1.</translation>
+    </message>
+    <message>
+        <source>%1 Ctrl+Z in the main window takes the days back.</source>
+        <translation>%1 Strg+Z im Hauptfenster nimmt die Tage zurück.</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 Notiz</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n notes</source>
+        <translation>
+            <numerusform>%n Notiz</numerusform>
+            <numerusform>%n Notizen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day off</source>
+        <translation>1 freier Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days off</source>
+        <translation>
+            <numerusform>%n freier Tag</numerusform>
+            <numerusform>%n freie Tage</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2750,6 +3033,11 @@
         <comment>month, number of days</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>%1: %2 marked otherwise here</source>
+        <comment>month, number of days</comment>
+        <translation>%1: %2, hier anders markiert</translation>
+    </message>
 </context>
 <context>
     <name>RestoreView</name>
@@ -3751,6 +4039,10 @@
     <message>
         <source>The data file is being changed.</source>
         <translation>Die Datendatei wird gerade geändert.</translation>
+    </message>
+    <message>
+        <source>The days off cannot be stored.</source>
+        <translation>Die freien Tage können nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

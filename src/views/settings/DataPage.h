@@ -4,22 +4,34 @@
 #include <QStackedWidget>
 
 class BackupService;
+class Clock;
+class CountingRecords;
 class DataSettingsView;
+class ExchangeCard;
 class ModelContext;
+class Page;
 struct BackupFile;
 
-/// The page of the settings about the data: the backups, or what one of them would restore.
+/// The page of the settings about the data: the backups and what is exported and imported, or what a backup would
+/// restore or a list of days would change.
 class DataPage : public QStackedWidget {
     Q_OBJECT
 
 public:
-    DataPage(BackupService& backups, ModelContext& context, QWidget* parent = nullptr);
+    DataPage(BackupService& backups, ModelContext& context, CountingRecords& counting, const Clock& clock,
+             QWidget* parent = nullptr);
 
 private:
     void showRestore(const BackupFile& backup);
-    void showBackups(const QString& message, const QString& path);
+    void showImport(const QString& path);
+    /// Shows a view in the place of the cards.
+    void show(QWidget* view);
+    void showCards();
 
     BackupService& m_backups;
+    CountingRecords& m_counting;
     DataSettingsView* m_list;
-    QWidget* m_restore = nullptr;
+    ExchangeCard* m_exchange;
+    Page* m_cards;
+    QWidget* m_other = nullptr;
 };

@@ -2,7 +2,6 @@
 #include "RestoreModel.h"
 
 #include "BackupTexts.h"
-#include "DayAbsences.h"
 
 #include <QLocale>
 
@@ -20,17 +19,25 @@ bool isSameMonth(QDate a, QDate b)
 
 } // namespace
 
-RestoreModel::RestoreModel(QList<DayDifference> days, const DayAbsences& absences, QObject* parent)
+RestoreModel::RestoreModel(const QList<DayDifference>& days, const QList<DayDifference>& conflicts, Describe describe,
+                           QObject* parent)
     : QAbstractItemModel(parent)
-    , m_days(std::move(days))
-    , m_absences(absences)
+    , m_describe(std::move(describe))
 {
-    for (qsizetype i = 0; i < m_days.size(); ++i) {
-        if (i == 0 || !isSameMonth(m_days.at(i - 1).date, m_days.at(i).date))
-            m_months.append({i, 0});
+    addMonths(days, false);
+    addMonths(conflicts, true);
+    m_allRows = m_months.size() > 1 ? 1 : 0;
+}
+
+void RestoreModel::addMonths(const QList<DayDifference>& days, bool isConflict)
+{
+    const auto first = m_days.size();
+    m_days += days;
+    for (auto i = first; i < m_days.size(); ++i) {
+        if (i == first || !isSameMonth(m_days.at(i - 1).date, m_days.at(i).date))
+            m_months.append({i, 0, isConflict, !isConflict});
         ++m_months.last().dayCount;
     }
-    m_allRows = m_months.size() > 1 ? 1 : 0;
 }
 
 QStringList RestoreModel::stateNames() const
@@ -44,12 +51,12 @@ QStringList RestoreModel::stateNames() const
 
 QString RestoreModel::before(const DayDifference& day) const
 {
-    return m_absences.describe(day.before, day.absenceBefore);
+    return m_describe(day.before, day.absenceBefore);
 }
 
 QString RestoreModel::after(const DayDifference& day) const
 {
-    return m_absences.describe(day.after, day.absenceAfter);
+    return m_describe(day.after, day.absenceAfter);
 }
 
 QList<DayDifference> RestoreModel::checkedDays() const
@@ -136,7 +143,9 @@ QVariant RestoreModel::monthData(const MonthRows& month, int role) const
         return {};
     const QDate date = m_days.at(month.firstDay).date;
     const QString name = tr("%1 %2", "month, year").arg(QLocale().standaloneMonthName(date.month())).arg(date.year());
-    return tr("%1: %2", "month, number of days").arg(name, backup_texts::days(month.dayCount));
+    const QString count = backup_texts::days(month.dayCount);
+    return month.isConflict ? tr("%1: %2 marked otherwise here", "month, number of days").arg(name, count)
+                            : tr("%1: %2", "month, number of days").arg(name, count);
 }
 
 bool RestoreModel::setData(const QModelIndex& index, const QVariant& value, int role)

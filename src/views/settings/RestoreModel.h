@@ -5,21 +5,25 @@
 
 #include <QAbstractItemModel>
 
-class DayAbsences;
+#include <functional>
 
-/// The days that restoring a backup would change, by month. Months can be unchecked, and all at once in the first row
-/// if there are several.
+/// The days that a restored backup or an imported list would change, by month. Months can be unchecked, and all at once
+/// in the first row if there are several.
 class RestoreModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
-    /// Of a day's row: the DayDifference, and what the day is now and in the backup, in words.
+    /// A state and the kind of an absence in words.
+    using Describe = std::function<QString(DayState state, int absenceKind)>;
+
+    /// Of a day's row: the DayDifference, and what the day is now and is to be, in words.
     static constexpr int differenceRole = Qt::UserRole;
     static constexpr int beforeRole = Qt::UserRole + 1;
     static constexpr int afterRole = Qt::UserRole + 2;
 
-    /// The days are in order.
-    RestoreModel(QList<DayDifference> days, const DayAbsences& absences, QObject* parent = nullptr);
+    /// The days are in order. After them, `conflicts` have months of their own, which are unchecked.
+    RestoreModel(const QList<DayDifference>& days, const QList<DayDifference>& conflicts, Describe describe,
+                 QObject* parent = nullptr);
 
     /// The words of all days, each once.
     [[nodiscard]] QStringList stateNames() const;
@@ -43,8 +47,11 @@ private:
     struct MonthRows {
         qsizetype firstDay;
         qsizetype dayCount;
-        bool isChecked = true;
+        bool isConflict;
+        bool isChecked;
     };
+
+    void addMonths(const QList<DayDifference>& days, bool isConflict);
 
     [[nodiscard]] bool isAllRow(const QModelIndex& index) const;
     [[nodiscard]] const MonthRows& monthAt(const QModelIndex& index) const;
@@ -54,7 +61,7 @@ private:
     [[nodiscard]] Qt::CheckState allChecked() const;
 
     QList<DayDifference> m_days;
-    const DayAbsences& m_absences;
+    Describe m_describe;
     QList<MonthRows> m_months;
     /// How many rows stand above the months.
     int m_allRows;

@@ -7,6 +7,7 @@
 #include "Button.h"
 #include "ButtonRow.h"
 #include "Card.h"
+#include "DayAbsences.h"
 #include "Labels.h"
 #include "RestoreModel.h"
 #include "RestoreTree.h"
@@ -76,7 +77,8 @@ void RestoreView::showDays()
         say(tr("Every day is as it was in this backup. There is nothing to restore."));
         return;
     }
-    m_model = new RestoreModel(days, m_backups.absences(), this);
+    const auto describe = [this](DayState state, int kind) { return m_backups.absences().describe(state, kind); };
+    m_model = new RestoreModel(days, {}, describe, this);
     m_tree->setModel(m_model);
     connect(m_model, &RestoreModel::checkedChanged, this, &RestoreView::refreshButton);
     refreshButton();

@@ -55,7 +55,7 @@ SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, Locati
               return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
           },
           [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
-          [&backups, &context] { return new DataPage(backups, context); },
+          [&backups, &context, &counting, &clock] { return new DataPage(backups, context, counting, clock); },
       }))
 {
     auto* row = new QHBoxLayout(this);

@@ -8,7 +8,9 @@
 #include "SideTabs.h"
 #include "ViewTest.h"
 
+#include <QFileDialog>
 #include <QSignalSpy>
+#include <QTextEdit>
 #include <QTreeView>
 
 #include <fstream>
@@ -98,6 +100,44 @@ TEST_F(DataSettingsTest, theChosenMonthsOfABackupAreRestoredAsOneStep)
     press(view, Qt::Key_Escape);
     EXPECT_TRUE(view.isVisible()) << "the key closes the page only";
     EXPECT_EQ(view.focusWidget(), &restoreButton());
+}
+
+TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
+{
+    set(october, DayState::IN_OFFICE);
+    open();
+    const QString path = folder.filePath(u"days.csv"_s);
+    const auto choose = [&](const char* button, const char* dialogName, const QString& file) {
+        click(named<Button>(view, button));
+        auto& dialog = named<QFileDialog>(view, dialogName);
+        Q_EMIT dialog.fileSelected(file);
+        dialog.close();
+        QCoreApplication::sendPostedEvents(&dialog, QEvent::DeferredDelete);
+    };
+    choose("exportDays", "exportFile", path);
+    EXPECT_TRUE(waitFor(u"1 day written to days.csv."_s));
+    choose("exportCalendar", "exportFile", folder.path());
+    EXPECT_TRUE(waitFor(u"Nothing was exported. The file cannot be written"_s));
+    choose("importDays", "importFile", folder.path());
+    EXPECT_TRUE(waitFor(u"Nothing was imported. The file cannot be read: it is a folder or a device."_s));
+    EXPECT_EQ(view.focusWidget(), &named<Button>(view, "importDays"));
+
+    std::ofstream(path.toStdString()) << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";
+    choose("importDays", "importFile", path);
+    EXPECT_TRUE(waitFor(u"Days that are marked otherwise here stay as they are"_s));
+    EXPECT_EQ(named<QTextEdit>(view, "problems").toPlainText(),
+              u"Line 4 is left out: \"X\" is not a date such as 2026-11-20."_s);
+    EXPECT_EQ(named<Button>(view, "import").text(), u"Import 1 Day"_s);
+    EXPECT_EQ(named<QTreeView>(view, "importedDays").model()->index(2, 0).data(),
+              u"October 2026: 1 day marked otherwise here"_s);
+    click(named<Button>(view, "import"));
+    EXPECT_TRUE(waitFor(u"Imported: 1 day, 1 note."_s));
+    EXPECT_EQ(stateOf(october), DayState::IN_OFFICE);
+    EXPECT_EQ(stateOf(november), DayState::IN_OFFICE);
+    EXPECT_EQ(marker.notes().noteOf(november)->text.value(), u"New"_s);
+    EXPECT_EQ(backups.folder().backups().size(), 1);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(stateOf(november), DayState::UNKNOWN);
 }
 
 TEST_F(DataSettingsTest, aDamagedBackupIsNotRestored)
