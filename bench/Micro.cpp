@@ -6,7 +6,11 @@
 #include "CalendarPage.h"
 #include "ContentView.h"
 #include "CountingRecords.h"
+#include "DayImport.h"
 #include "DayMarker.h"
+#include "DayRecords.h"
+#include "DaysCsv.h"
+#include "DaysCsvReader.h"
 #include "DesktopSystemSettings.h"
 #include "FreedesktopNotifier.h"
 #include "InOfficeCheck.h"
@@ -269,6 +273,44 @@ void openWindow(benchmark::State& state, WindowId id)
         state.SkipWithError("a window was opened without being painted");
 }
 
+/// A store of its own, so that nothing changes the sample.
+struct ImportingStore {
+    SystemClock clock;
+    QTemporaryDir folder;
+    std::unique_ptr<ModelContainer> container = openStore(folder.filePath(u"store"_s));
+    DayMarker marker{container->mainContext(), clock};
+    AppSettings settings;
+    CountingRecords counting{marker, settings};
+};
+
+QByteArray exportedSample()
+{
+    const auto container = openStore(sampleStore());
+    SystemClock clock;
+    const DayMarker marker(container->mainContext(), clock);
+    return daysCsv(dayRecords(marker, wholeCalendar()), marker.absences().kinds());
+}
+
+void exportOf100Years(benchmark::State& state)
+{
+    while (state.KeepRunning())
+        benchmark::DoNotOptimize(exportedSample());
+}
+
+void importOf100Years(benchmark::State& state)
+{
+    const QByteArray list = exportedSample();
+    while (state.KeepRunning()) {
+        ImportingStore store;
+        const DaysCsvContents contents = DaysCsvReader().read(list);
+        const DayImport found(contents.days, contents.kinds, store.marker, store.counting);
+        if (found.apply(found.newDays(), true, true) == 0)
+            state.SkipWithError("nothing was imported");
+    }
+}
+
+BENCHMARK(exportOf100Years)->MeasureProcessCPUTime();
+BENCHMARK(importOf100Years)->MeasureProcessCPUTime();
 BENCHMARK(statisticsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(quarterStatisticsWithTwelveRules)->MeasureProcessCPUTime();
 BENCHMARK(countDaysOfYear)->MeasureProcessCPUTime();
