@@ -230,6 +230,18 @@ bool CountingRecords::removeWorkWeek(QDate from)
         [&](auto& weeks) { weeks.removeIf([from](const WorkWeek& week) { return week.from == from; }); });
 }
 
+UsualWeek CountingRecords::usualWeek() const
+{
+    const auto weeks = stored<UsualWeek>();
+    return weeks.isEmpty() ? UsualWeek() : weeks.last();
+}
+
+bool CountingRecords::setUsualWeek(UsualWeek week)
+{
+    week.plansNewMonths = week.plansNewMonths && !week.weekdays.isEmpty();
+    return edit<UsualWeek>([&](auto& weeks) { weeks = week == UsualWeek() ? QList<UsualWeek>() : QList{week}; });
+}
+
 bool CountingRecords::addRule(AttendanceRule rule)
 {
     rule.id = QUuid::createUuid();

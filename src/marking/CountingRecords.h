@@ -66,6 +66,10 @@ public:
     bool setWorkWeek(const WorkWeek& week);
     bool removeWorkWeek(QDate from);
 
+    [[nodiscard]] UsualWeek usualWeek() const;
+    /// A week without days plans no months.
+    bool setUsualWeek(UsualWeek week);
+
     /// Adds a rule at the end of the list, with a new id.
     bool addRule(AttendanceRule rule);
     /// Changes a rule for the whole time of its validity. The rule with this id must exist.

@@ -274,6 +274,7 @@ PELLORY_SMALL_RECORDS(CountingChoices);
 PELLORY_SMALL_RECORDS(DayAbsence);
 PELLORY_SMALL_RECORDS(DayOff);
 PELLORY_SMALL_RECORDS(HolidayRegion);
+PELLORY_SMALL_RECORDS(UsualWeek);
 PELLORY_SMALL_RECORDS(WorkWeek);
 
 bool ModelContext::contains(const Month& month) const

@@ -142,6 +142,15 @@ template <> RecordFields<CountingChoices> fieldsOf<CountingChoices>()
     return {"counting", {field("leaves_out_vacation", &CountingChoices::leavesOutVacation)}};
 }
 
+template <> RecordFields<UsualWeek> fieldsOf<UsualWeek>()
+{
+    return {"usual_week",
+            {
+                field("weekdays", &UsualWeek::weekdays),
+                field("plans_new_months", &UsualWeek::plansNewMonths),
+            }};
+}
+
 template <> RecordFields<AttendanceRule> fieldsOf<AttendanceRule>()
 {
     using Rule = AttendanceRule;

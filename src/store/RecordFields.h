@@ -28,4 +28,5 @@ template <> RecordFields<DayOff> fieldsOf<DayOff>();
 template <> RecordFields<HolidayRegion> fieldsOf<HolidayRegion>();
 template <> RecordFields<WorkWeek> fieldsOf<WorkWeek>();
 template <> RecordFields<CountingChoices> fieldsOf<CountingChoices>();
+template <> RecordFields<UsualWeek> fieldsOf<UsualWeek>();
 template <> RecordFields<AttendanceRule> fieldsOf<AttendanceRule>();

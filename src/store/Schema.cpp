@@ -46,9 +46,10 @@ Schema Schema::atVersion(int version) const
 
 std::vector<TableLayout> smallTables()
 {
-    return {fieldsOf<AbsenceKind>().layout(),   fieldsOf<DayAbsence>().layout(), fieldsOf<DayOff>().layout(),
-            fieldsOf<HolidayRegion>().layout(), fieldsOf<WorkWeek>().layout(),   fieldsOf<CountingChoices>().layout(),
-            fieldsOf<AttendanceRule>().layout()};
+    return {fieldsOf<AbsenceKind>().layout(), fieldsOf<DayAbsence>().layout(),
+            fieldsOf<DayOff>().layout(),      fieldsOf<HolidayRegion>().layout(),
+            fieldsOf<WorkWeek>().layout(),    fieldsOf<CountingChoices>().layout(),
+            fieldsOf<UsualWeek>().layout(),   fieldsOf<AttendanceRule>().layout()};
 }
 
 Schema pellorySchema()
@@ -61,7 +62,8 @@ Schema pellorySchema()
         .migrations = {{.newTables = {"day_change", "day_note"}, .newIndexes = {"day_note_by_date"}},
                        {.newTables = {"absence_kind", "day_absence", "day_off", "holiday_region", "work_week",
                                       "counting", "attendance_rule"},
-                        .newColumns = {{"day_change", "absence_before", 0}, {"day_change", "absence_after", 0}}}},
+                        .newColumns = {{"day_change", "absence_before", 0}, {"day_change", "absence_after", 0}}},
+                       {.newTables = {"usual_week"}}},
     };
     for (const TableLayout& table : smallTables())
         schema.tables.push_back(table);

@@ -105,7 +105,7 @@ TEST_F(BackupTest, needsNoLockAndLeavesEverythingElseAlone)
     QStringList listed;
     for (const BackupFile& backup : backups.backups())
         listed.append(backup.path);
-    EXPECT_THAT(listed, testing::UnorderedElementsAre(future, second, first, path + ".before-3"_L1));
+    EXPECT_THAT(listed, testing::UnorderedElementsAre(future, second, first, path + ".before-4"_L1));
 
     connection().exec("UPDATE month SET name = 'x'");
     EXPECT_THROW(backups.make(now), StoreError);

@@ -42,7 +42,7 @@ protected:
         EXPECT_TRUE(!asBackup || !isSoundBackup() || !isRefused) << "a damaged backup would be offered";
         EXPECT_TRUE(bytes() == damaged);
         // With the number of version 1, which has some of the tables, it is a store to convert, which then fails.
-        QFile::remove(path + u".before-3"_s);
+        QFile::remove(path + u".before-4"_s);
         EXPECT_EQ(files(), QStringList(u"Pellory.store"_s));
         return isRefused;
     }

@@ -58,7 +58,7 @@ protected:
     }
 
     const Schema schema = laterSchema();
-    const QString copy = u".before-4"_s;
+    const QString copy = u".before-5"_s;
     QByteArray sound;
 };
 
@@ -71,7 +71,7 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
         EXPECT_EQ(oldFields(), before);
         EXPECT_EQ(query("colour || mood AS value FROM month"), "7calm,7calm,7calm");
         EXPECT_EQ(files(),
-                  QStringList({u"Pellory.store"_s, u"Pellory.store.before-4"_s, u"Pellory.store.before-4-2"_s}));
+                  QStringList({u"Pellory.store"_s, u"Pellory.store.before-5"_s, u"Pellory.store.before-5-2"_s}));
     }
     EXPECT_THAT(refusal(), HasSubstr("newer version"));
     EXPECT_EQ(bytes(copy), "of another time");
@@ -141,7 +141,7 @@ TEST_F(MigrationTest, leavesTheOldOrTheNewStoreWhateverFailsAndWheneverItIsKille
         EXPECT_EQ(oldFields(), before);
         EXPECT_EQ(refusal(schema), "");
         EXPECT_EQ(oldFields(), before);
-        EXPECT_EQ(files(), QStringList({u"Pellory.store"_s, u"Pellory.store.before-4"_s}));
+        EXPECT_EQ(files(), QStringList({u"Pellory.store"_s, u"Pellory.store.before-5"_s}));
     });
     EXPECT_THAT(calls, testing::ElementsAre(testing::Ge(5), testing::Ge(20), testing::Ge(4), 0, testing::Ge(1),
                                             testing::Ge(1)));

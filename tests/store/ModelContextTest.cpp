@@ -76,6 +76,8 @@ std::vector<FieldChange> fieldChanges()
         {"work_week.first_day", replacing(&WorkWeek::from, QDate(2026, 6, 1))},
         {"work_week.weekdays", replacing(&WorkWeek::weekdays, Weekdays(0b1000001))},
         {"counting.leaves_out_vacation", replacing(&CountingChoices::leavesOutVacation, false)},
+        {"usual_week.weekdays", replacing(&UsualWeek::weekdays, Weekdays(0b10101))},
+        {"usual_week.plans_new_months", replacing(&UsualWeek::plansNewMonths, false)},
         {"attendance_rule.id", replacing(&Rule::id, QUuid::createUuid())},
         {"attendance_rule.name", replacing(&Rule::name, u"60 %"_s)},
         {"attendance_rule.bound", replacing(&Rule::bound, Rule::Bound::AtMost)},
@@ -241,5 +243,5 @@ TEST_F(ModelContextTest, deletesWhatIsRemovedAndGoalsThatNoSettingsList)
     context.remove(settings);
     context.remove(context.fetchNotes({2026, 3, 30}, {2026, 4, 1}).first());
     EXPECT_TRUE(context.save());
-    EXPECT_EQ(stored().size(), 3 + 1 + 7);
+    EXPECT_EQ(stored().size(), 3 + 1 + 8);
 }

@@ -43,7 +43,8 @@ template <class... Record> std::vector<Row> rowsOf(ModelContext& context)
 /// Every record of the kinds that are few.
 inline std::vector<Row> smallRecords(ModelContext& context)
 {
-    return rowsOf<AbsenceKind, DayAbsence, DayOff, HolidayRegion, WorkWeek, CountingChoices, AttendanceRule>(context);
+    return rowsOf<AbsenceKind, DayAbsence, DayOff, HolidayRegion, WorkWeek, CountingChoices, UsualWeek, AttendanceRule>(
+        context);
 }
 
 /// Every other record that a context knows, as it is stored.
@@ -93,6 +94,7 @@ inline void addSmallRecords(ModelContext& context)
     context.add(HolidayRegion{u"DE-BY"_s, 2027});
     context.add(WorkWeek{{2026, 5, 1}, Weekdays(0b1111)});
     context.add(CountingChoices{true});
+    context.add(UsualWeek{Weekdays(0b10), true});
     context.add(
         AttendanceRule{.id = QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11), .name = u"Team"_s, .from = QDate(2026, 1, 1)});
 }
@@ -168,7 +170,7 @@ protected:
             addSmallRecords(container->mainContext());
         }
         sample = bytes();
-        QFile::remove(path + u".before-3"_s);
+        QFile::remove(path + u".before-4"_s);
     }
 
     [[nodiscard]] QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
