@@ -188,6 +188,13 @@ const CountedDay& CountedDays::on(QDate date) const
     return m_days.at(static_cast<std::size_t>(m_span.first.daysTo(date))).counted;
 }
 
+void conclude(RuleProgress& progress, AttendanceRule::Bound bound, qint64 possible)
+{
+    const bool isAtLeast = bound == AttendanceRule::Bound::AtLeast;
+    progress.missedBy = std::max<qint64>(0, isAtLeast ? progress.remaining() - possible : -progress.remaining());
+    progress.verdict = verdictOf(progress, bound);
+}
+
 std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const CountedDays& days, QDate reference,
                                          QDate today, Qt::DayOfWeek firstDayOfWeek)
 {
@@ -201,10 +208,7 @@ std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const Count
                           .counted = tally.counted,
                           .planned = tally.planned,
                           .workdaysLeft = tally.workdaysLeft};
-    progress.missedBy =
-        std::max<qint64>(0, rule.bound == AttendanceRule::Bound::AtLeast ? progress.remaining() - tally.possible
-                                                                         : -progress.remaining());
-    progress.verdict = verdictOf(progress, rule.bound);
+    conclude(progress, rule.bound, tally.possible);
     return progress;
 }
 

@@ -74,6 +74,10 @@ struct RuleProgress {
     bool operator==(const RuleProgress&) const = default;
 };
 
+/// Works out what follows from the other figures: `missedBy` and `verdict`. Of the days that are still to come, so many
+/// can be among the counted ones.
+void conclude(RuleProgress& progress, AttendanceRule::Bound bound, qint64 possible);
+
 /// The progress in the span to which `reference` belongs; nothing if the rule does not hold in it. `days` includes that
 /// span. Only days from `today` on can still change.
 ///

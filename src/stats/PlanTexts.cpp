@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PlanTexts.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace {
+
+struct PlanTexts {
+    Q_DECLARE_TR_FUNCTIONS(PlanTexts)
+};
+
+MarkedText withNumber(const QString& ofOne, const QString& ofSeveral, qint64 number)
+{
+    return number == 1 ? markedText(ofOne, {}) : markedText(ofSeveral, {QString::number(number)});
+}
+
+MarkedText tooManyText(qint64 days)
+{
+    return withNumber(PlanTexts::tr("**1** day more is planned than allowed"),
+                      PlanTexts::tr("**%1** days more are planned than allowed"), days);
+}
+
+MarkedText limitText(const RuleProgress& progress)
+{
+    const qint64 allowed = progress.remaining() - progress.planned;
+    if (allowed < 0)
+        return tooManyText(-allowed);
+    return withNumber(PlanTexts::tr("**1** more day is allowed beside the planned ones"),
+                      PlanTexts::tr("**%1** more days are allowed beside the planned ones"), allowed);
+}
+
+MarkedText shortText(const RuleProgress& progress)
+{
+    if (progress.workdaysLeft == 0)
+        return markedText(PlanTexts::tr("No workday is left to plan"), {});
+    if (progress.workdaysLeft == 1)
+        return markedText(PlanTexts::tr("Even with the last workday it is **%1** short"),
+                          {QString::number(progress.missedBy)});
+    return markedText(PlanTexts::tr("Even with all **%1** workdays left it is **%2** short"),
+                      {QString::number(progress.workdaysLeft), QString::number(progress.missedBy)});
+}
+
+MarkedText paceText(const PlanPace& pace)
+{
+    const QStringList numbers{QString::number(pace.daysToPlan), QString::number(pace.freeDays),
+                              QString::number(std::lround(pace.perWeek))};
+    if (pace.perWeek == 0.0)
+        return pace.freeDays == 1 ? markedText(PlanTexts::tr("The **1** free workday left is needed"), {})
+                                  : markedText(PlanTexts::tr("**%1** of the **%2** free workdays left"), numbers);
+    //: Of a few days in many weeks.
+    const QString seldom = PlanTexts::tr("**%1** of the **%2** free workdays left: less than one a week");
+    //: "4 of the 9 free workdays left: about 2 a week"
+    const QString often = PlanTexts::tr("**%1** of the **%2** free workdays left: about **%3** a week");
+    return markedText(std::lround(pace.perWeek) == 0 ? seldom : often, numbers);
+}
+
+} // namespace
+
+MarkedText planText(const AttendanceRule& rule, const RuleProgress& progress, const PlanPace& pace, QDate today)
+{
+    using Verdict = RuleProgress::Verdict;
+    const bool isLimit = rule.bound == AttendanceRule::Bound::AtMost;
+    if (progress.span.last < today || rule.subject == AttendanceRule::Subject::OutOfOffice)
+        return {};
+    if (isLimit)
+        return progress.verdict == Verdict::Broken ? MarkedText() : limitText(progress);
+    if (progress.verdict == Verdict::Broken)
+        return shortText(progress);
+    if (pace.daysToPlan > 0)
+        return paceText(pace);
+    if (pace.daysToPlan == 0 || progress.planned == 0)
+        return progress.planned > 0 ? markedText(PlanTexts::tr("The planned days are enough"), {})
+                                    : markedText(PlanTexts::tr("No more days are needed"), {});
+    return withNumber(PlanTexts::tr("**1** day more is planned than needed"),
+                      PlanTexts::tr("**%1** days more are planned than needed"), -pace.daysToPlan);
+}
