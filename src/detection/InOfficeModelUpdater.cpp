@@ -10,6 +10,7 @@
 #include "Month.h"
 #include "Notifier.h"
 #include "StoredMonths.h"
+#include "UsualWeekPlanner.h"
 
 namespace {
 
@@ -60,7 +61,7 @@ void InOfficeModelUpdater::markAsOut(QDate date, bool notificationsEnabled)
 std::shared_ptr<Month> InOfficeModelUpdater::monthOf(QDate date)
 {
     try {
-        return findOrCreateMonth(m_container.mainContext(), date);
+        return UsualWeekPlanner(m_marker, m_counting, m_clock).findOrCreateMonth(m_container.mainContext(), date);
     } catch (const DuplicateMonthError&) {
         throw InOfficeDetectionError(InOfficeDetectionError::duplicateMonthModels);
     }

@@ -98,6 +98,16 @@ TEST_F(InOfficeCheckTest, marksDaysThatAreUnknownOrPlannedAndNoOthers)
     }
 }
 
+TEST_F(InOfficeCheckTest, plansANewMonthIfThatIsWanted)
+{
+    counting.setUsualWeek({Weekdays(0b10001), true});
+    client.networks = {{u"Office"_s}};
+    EXPECT_TRUE(checkNow(false));
+    const auto days = storedMonth(context, clock.today())->days.value();
+    EXPECT_EQ(std::ranges::count(days, DayState::IN_OFFICE, &Day::state), 1);
+    EXPECT_EQ(std::ranges::count(days, DayState::WILL_BE_IN_OFFICE, &Day::state), 3);
+}
+
 TEST_F(InOfficeCheckTest, marksTheLastDayThatWasAWorkday)
 {
     clock.beginDay({2026, 11, 23}); // a Monday

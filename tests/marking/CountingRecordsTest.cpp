@@ -10,6 +10,8 @@
 #include "StoreError.h"
 #include "StoredMonths.h"
 #include "Testing.h"
+#include "UndoHistory.h"
+#include "UsualWeekPlanner.h"
 
 #include <QTemporaryDir>
 
@@ -70,13 +72,13 @@ TEST_F(CountingRecordsTest, withNothingChosenNothingIsStoredAndEveryFigureIsAsIt
     }
     EXPECT_TRUE(counting.setLeavesOutVacation(false) && counting.removeHolidayRegion(clock.today()) &&
                 counting.removeDaysOff({clock.today()}) &&
-                counting.setTreatment(AbsenceKind::sick, Treatment::OutOfOffice));
+                counting.setTreatment(AbsenceKind::sick, Treatment::OutOfOffice) && counting.setUsualWeek({{}, true}));
     settings->vacationDaysCountAsInOffice = true;
     context.save();
     EXPECT_TRUE(counting.counting().value() == Counting() && counting.rules().value().isEmpty());
     EXPECT_EQ(changes, 0);
-    for (const char* table :
-         {"absence_kind", "day_absence", "day_off", "holiday_region", "work_week", "counting", "attendance_rule"})
+    for (const char* table : {"absence_kind", "day_absence", "day_off", "holiday_region", "work_week", "counting",
+                              "usual_week", "attendance_rule"})
         EXPECT_EQ(rows(table), "") << table;
     SQLite::Database store(path.toStdString());
     EXPECT_EQ(store.execAndGet("SELECT sum(absence_before = 0 AND absence_after = 0) FROM day_change").getInt(), 6);
@@ -186,6 +188,45 @@ TEST_F(CountingRecordsTest, aRuleThatIsChangedFromADayOnEndsBeforeIt)
         }
     }
     EXPECT_FALSE(counting.addRule({.id = {}, .name = {}, .amount = 0})) << "which could not be read again";
+}
+
+TEST_F(CountingRecordsTest, aUsualWeekPlansFreeWorkdaysAndEachNewMonthOnce)
+{
+    const auto planned = [&] {
+        QStringList days;
+        for (const auto& month : context.fetchMonths()) {
+            for (const Day& day : month->days.value()) {
+                if (day.state == DayState::WILL_BE_IN_OFFICE)
+                    days += month->dateOf(day.id).toString(u"Md"_s);
+            }
+        }
+        return days.join(u' ');
+    };
+    UsualWeekPlanner planner(marker, counting, clock);
+    UndoHistory history(marker);
+    const DaySpan november{{2026, 11, 1}, {2026, 11, 30}};
+    EXPECT_EQ(planner.plan(november), 0);
+    EXPECT_EQ(rows("month"), "");
+    marker.mark({{{2026, 11, 27}, DayState::OUT_OF_OFFICE}}, ChangedBy::Hand);
+    EXPECT_TRUE(counting.addDaysOff({{{2026, 11, 23}}}) && counting.setUsualWeek({Weekdays(0b110001), false}));
+    EXPECT_EQ(planner.plan(november), 2);
+    EXPECT_EQ(planned(), u"1120 1130"_s);
+    EXPECT_EQ(planner.plan(november), 0);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(planned(), u""_s);
+
+    EXPECT_EQ(planner.quarterMonths(context, {2027, 2}).size(), 3);
+    EXPECT_TRUE(counting.setUsualWeek({Weekdays(0b1), true}));
+    for (const YearQuarter& quarter : {YearQuarter{2026, 3}, YearQuarter{2026, 4}, YearQuarter{2027, 2}})
+        EXPECT_EQ(planner.quarterMonths(context, quarter).size(), 3);
+    EXPECT_EQ(planned(), u"127 1214 1221 1228"_s);
+    EXPECT_EQ(planner.findOrCreateMonth(context, {2027, 2, 3})->month, 2);
+    EXPECT_EQ(planned(), u"127 1214 1221 1228 21 28 215 222"_s);
+    EXPECT_TRUE(history.undo() && history.undo());
+    EXPECT_EQ(planner.quarterMonths(context, {2026, 4}).size(), 3);
+    EXPECT_EQ(planned(), u""_s);
+    EXPECT_TRUE(counting.setUsualWeek({{}, true}));
+    EXPECT_EQ(rows("usual_week"), "");
 }
 
 TEST_F(CountingRecordsTest, whatCannotBeReadAtFirstIsReadLaterAndBindingsFollow)
