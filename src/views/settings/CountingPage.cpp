@@ -8,6 +8,7 @@
 #include "Clock.h"
 #include "HolidayReview.h"
 #include "Page.h"
+#include "UsualWeekCard.h"
 #include "VacationCard.h"
 #include "WindowSize.h"
 #include "WorkWeeksCard.h"
@@ -20,6 +21,7 @@ CountingPage::CountingPage(CountingRecords& counting, const Clock& clock, QWidge
     : QStackedWidget(parent)
     , m_counting(counting)
     , m_clock(clock)
+    , m_usualWeek(new UsualWeekCard(counting))
     , m_daysOff(new DaysOffCard(counting, clock))
 {
     m_cards = new Page(makeCards());
@@ -37,9 +39,21 @@ QWidget* CountingPage::makeCards()
     column->addWidget(Card::around(new VacationCard(m_counting)));
     column->addWidget(Card::around(new AbsenceKindsCard(m_counting)));
     column->addWidget(Card::around(new WorkWeeksCard(m_counting, m_clock)));
+    column->addWidget(Card::around(m_usualWeek));
     column->addWidget(Card::around(m_daysOff));
     column->addStretch();
     return cards;
+}
+
+void CountingPage::showUsualWeek()
+{
+    if (currentWidget() != m_cards) // a review is not to be lost
+        return;
+    // Once it is laid out.
+    QTimer::singleShot(0, m_cards, [this] {
+        m_usualWeek->takeFocus();
+        m_cards->reveal(*m_usualWeek);
+    });
 }
 
 void CountingPage::reviewHolidays()

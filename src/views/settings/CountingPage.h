@@ -7,6 +7,7 @@
 
 class DaysOffReview;
 class Page;
+class UsualWeekCard;
 
 /// The page of the settings about how days count, or the review of days off that may be added.
 class CountingPage : public QStackedWidget {
@@ -14,6 +15,9 @@ class CountingPage : public QStackedWidget {
 
 public:
     CountingPage(CountingRecords& counting, const Clock& clock, QWidget* parent = nullptr);
+
+    /// Scrolls to the card of the usual week and gives it the focus.
+    void showUsualWeek();
 
 private:
     [[nodiscard]] QWidget* makeCards();
@@ -23,6 +27,7 @@ private:
 
     CountingRecords& m_counting;
     const Clock& m_clock;
+    UsualWeekCard* m_usualWeek;
     DaysOffCard* m_daysOff;
     Page* m_cards;
 };

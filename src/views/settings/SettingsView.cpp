@@ -25,6 +25,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QMargins sideMargins(8, 12, 9, 12);
+// Of the pages in the list.
+constexpr int countingPage = 1;
 
 class LinkLabel : public QLabel {
 protected:
@@ -100,6 +102,12 @@ void SettingsView::addShortcuts()
     add(Qt::CTRL | Qt::Key_Tab, 1);
     add(Qt::CTRL | Qt::Key_PageUp, -1);
     add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
+}
+
+void SettingsView::showUsualWeek()
+{
+    m_tabs->setCurrentIndex(countingPage);
+    static_cast<CountingPage*>(m_pages->currentWidget())->showUsualWeek();
 }
 
 void SettingsView::showPage(int index)

@@ -26,6 +26,9 @@ public:
                  LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context, CountingRecords& counting,
                  Clock& clock, const ViewSettings& viewSettings, QWidget* parent = nullptr);
 
+    /// Turns to the page "Counting", where the usual week is chosen.
+    void showUsualWeek();
+
 Q_SIGNALS:
     void welcomeRequested();
 
