@@ -52,8 +52,9 @@ QString changeText(const QList<ChangedDays>& changes, QDate today, const DayAbse
         return ChangeTexts::tr("Set again: %1").arg(what);
     case ChangedBy::Restore:
         return ChangeTexts::tr("Restored: %1").arg(what);
-    case ChangedBy::Hand:
     case ChangedBy::Pattern:
+        return ChangeTexts::tr("Plan changed: %1").arg(what);
+    case ChangedBy::Hand:
     case ChangedBy::Import:
         break;
     }

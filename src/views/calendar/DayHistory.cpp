@@ -59,7 +59,7 @@ QString DayHistory::who(ChangedBy by)
     case ChangedBy::Restore:
         return tr("Restored from a backup");
     case ChangedBy::Pattern:
-        return tr("By a pattern");
+        return tr("By a plan");
     case ChangedBy::Import:
         return tr("Imported");
     }

@@ -23,6 +23,7 @@ MonthView::MonthView(const CalendarParts& parts, QWidget* parent)
     m_month = new MonthCard(parts, navigation);
     connectNavigation(*navigation);
     connectCard(*m_month);
+    connectTracker(*m_quarter);
     m_month->addRules();
     m_quarter->addRules();
     contents().addWidget(m_month, 0, Qt::AlignHCenter);

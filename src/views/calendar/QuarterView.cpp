@@ -21,6 +21,7 @@ QuarterView::QuarterView(const CalendarParts& parts, QWidget* parent)
     auto* navigation = new NavigationRow(tr("Last Quarter"), tr("Next Quarter"));
     m_stats = new QuarterStatsView(parts, navigation);
     connectNavigation(*navigation);
+    connectTracker(*m_stats);
     for (int i = 0; i < monthsOfQuarter; ++i) {
         auto* card = new MonthCard(parts);
         m_row->addWidget(card);

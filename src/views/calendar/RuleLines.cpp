@@ -6,6 +6,7 @@
 #include "CountingRecords.h"
 #include "DayMarker.h"
 #include "Follow.h"
+#include "PlanPopover.h"
 #include "RuleTexts.h"
 #include "StoreError.h"
 #include "StoredDays.h"
@@ -18,11 +19,6 @@
 namespace {
 
 using Verdict = RuleProgress::Verdict;
-
-double fraction(qint64 days, qint64 wanted)
-{
-    return wanted > 0 ? std::clamp(static_cast<double>(days) / static_cast<double>(wanted), 0.0, 1.0) : 0.0;
-}
 
 void leaveOutPlanned(RuleProgress& progress)
 {
@@ -62,16 +58,33 @@ void RuleLines::setPeriod(DaySpan period)
 
 void RuleLines::refresh()
 {
-    const QList<RuleLine::Contents> shown = isShown() ? contents() : QList<RuleLine::Contents>();
-    while (m_lines.size() < shown.size()) {
-        m_lines.append(new RuleLine);
-        m_column->addWidget(m_lines.last(), 0, Qt::AlignHCenter);
-    }
+    const QList<Shown> shown = isShown() ? contents() : QList<Shown>();
+    while (m_lines.size() < shown.size())
+        addLine();
     while (m_lines.size() > shown.size())
         delete m_lines.takeLast();
-    for (qsizetype i = 0; i < shown.size(); ++i)
-        m_lines.at(i)->setContents(shown.at(i));
+    m_rules.clear();
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        const AttendanceRule& rule = shown.at(i).rule;
+        m_rules.append(rule);
+        m_lines.at(i)->setContents(shown.at(i).line);
+        m_lines.at(i)->setPressable(isSummarised(rule) ? nullptr : m_lines.at(i));
+    }
     setVisible(!shown.isEmpty());
+}
+
+void RuleLines::addLine()
+{
+    auto* line = new RuleLine;
+    m_lines.append(line);
+    m_column->addWidget(line, 0, Qt::AlignHCenter);
+    connect(line, &RuleLine::pressed, this, [this, line] { plan(line); });
+}
+
+void RuleLines::plan(RuleLine* line)
+{
+    const AttendanceRule& rule = m_rules.at(m_lines.indexOf(line));
+    Q_EMIT popoverRequested(new PlanPopover(m_parts, PlanSubject::ofRule(m_parts, rule, reference()), line));
 }
 
 bool RuleLines::isShown() const
@@ -85,7 +98,7 @@ bool RuleLines::belongsHere(const AttendanceRule& rule) const
     return m_place == Place::Year || isLong == (m_place == Place::Quarter);
 }
 
-QList<RuleLine::Contents> RuleLines::contents() const
+QList<RuleLines::Shown> RuleLines::contents() const
 {
     QList<AttendanceRule> rules = m_parts.counting.rules();
     rules.removeIf([this](const AttendanceRule& rule) { return !belongsHere(rule); });
@@ -96,13 +109,13 @@ QList<RuleLine::Contents> RuleLines::contents() const
         const DaySpan days = daysOf(rule);
         span = {std::min(span.first, days.first), std::max(span.last, days.last)};
     }
-    QList<RuleLine::Contents> shown;
+    QList<Shown> shown;
     try {
         const CountedDays days = countedDays(m_parts.marker.context(), span, m_parts.counting.counting(),
                                              m_parts.settings.vacationDaysCountAsInOffice);
         for (const AttendanceRule& rule : rules) {
             if (const auto line = contentsOf(rule, days))
-                shown.append(*line);
+                shown.append({rule, *line});
         }
     } catch (const StoreError&) {
         // The page says that it cannot load the month, and tries again.
@@ -121,14 +134,7 @@ std::optional<RuleLine::Contents> RuleLines::contentsOf(const AttendanceRule& ru
         return {};
     if (!m_parts.viewSettings.showWillBeInOfficeStats)
         leaveOutPlanned(*progress);
-    const bool isDone =
-        progress->wanted == 0 && (rule.bound == AttendanceRule::Bound::AtLeast || progress->counted > 0);
-    return RuleLine::Contents{.name = rule.name,
-                              .count = ruleCountText(rule, *progress),
-                              .outlook = ruleOutlookText(rule, *progress, today),
-                              .verdict = progress->verdict,
-                              .progress = isDone ? 1.0 : fraction(progress->counted, progress->wanted),
-                              .prediction = fraction(progress->counted + progress->planned, progress->wanted)};
+    return RuleLine::contentsOf(rule, *progress, today);
 }
 
 std::optional<RuleLine::Contents> RuleLines::summaryOf(const AttendanceRule& rule, const CountedDays& days) const
@@ -140,7 +146,7 @@ std::optional<RuleLine::Contents> RuleLines::summaryOf(const AttendanceRule& rul
                               .count = {},
                               .outlook = spansKeptText(rule, spans),
                               .verdict = spans.kept == spans.spans ? Verdict::Kept : Verdict::Broken,
-                              .progress = fraction(spans.kept, spans.spans)};
+                              .progress = static_cast<double>(spans.kept) / static_cast<double>(spans.spans)};
 }
 
 bool RuleLines::isSummarised(const AttendanceRule& rule) const

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QProperty>
 
+class Popover;
 class QVBoxLayout;
 
 /// How far the rules are met in a month, quarter or year: a line for each whose span belongs there. It follows
@@ -26,11 +27,22 @@ public:
     /// An empty period has no lines, and nothing is counted.
     void setPeriod(DaySpan period);
 
+Q_SIGNALS:
+    /// A line was pressed, to plan its days.
+    void popoverRequested(Popover* popover);
+
 private:
+    struct Shown {
+        AttendanceRule rule;
+        RuleLine::Contents line;
+    };
+
     void refresh();
+    void addLine();
+    void plan(RuleLine* line);
     [[nodiscard]] bool isShown() const;
     [[nodiscard]] bool belongsHere(const AttendanceRule& rule) const;
-    [[nodiscard]] QList<RuleLine::Contents> contents() const;
+    [[nodiscard]] QList<Shown> contents() const;
     [[nodiscard]] std::optional<RuleLine::Contents> contentsOf(const AttendanceRule& rule,
                                                                const CountedDays& days) const;
     [[nodiscard]] std::optional<RuleLine::Contents> summaryOf(const AttendanceRule& rule,
@@ -47,4 +59,6 @@ private:
     DaySpan m_period;
     QVBoxLayout* m_column;
     QList<RuleLine*> m_lines;
+    /// Those of the lines.
+    QList<AttendanceRule> m_rules;
 };

@@ -7,6 +7,7 @@
 #include "LinkButton.h"
 #include "Month.h"
 #include "NavigationRow.h"
+#include "PlanPopover.h"
 #include "ProgressWidgetView.h"
 #include "RuleLines.h"
 #include "SpokenGroup.h"
@@ -37,10 +38,13 @@ TrackerCard::TrackerCard(const CalendarParts& parts, PeriodWord period, const QP
     m_column->setSpacing(spacing - inside);
     m_column->addWidget(m_tracker);
     follow(isTrackerShown, this, [this, &isTrackerShown] { m_tracker->setVisible(isTrackerShown); });
+    m_tracker->setGoalPressable();
+    connect(m_tracker, &ProgressWidgetView::pressed, this, &TrackerCard::plan);
 }
 
 void TrackerCard::setMonths(const QList<std::shared_ptr<Month>>& months)
 {
+    m_months = months;
     m_tracker->setMonths(months);
     const auto dayOf = [](const Month& month, int day) { return QDate(month.year, month.month, day); };
     m_days = {dayOf(*months.first(), 1), dayOf(*months.last(), months.last()->daysInMonth)};
@@ -62,8 +66,16 @@ void TrackerCard::buildRules()
         return;
     const auto place = m_period == PeriodWord::Quarter ? RuleLines::Place::Quarter : RuleLines::Place::Month;
     m_rules = new RuleLines(m_parts, place, m_isTrackerShown);
+
+    m_rules = new RuleLines(m_parts, m_period == PeriodWord::Quarter, m_isTrackerShown);
+    connect(m_rules, &RuleLines::popoverRequested, this, &TrackerCard::popoverRequested);
     m_column->addWidget(m_rules);
     m_rules->setPeriod(m_days);
+}
+
+void TrackerCard::plan()
+{
+    Q_EMIT popoverRequested(new PlanPopover(m_parts, PlanSubject::ofGoals(m_parts, m_months), m_tracker));
 }
 
 void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)

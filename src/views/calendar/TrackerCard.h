@@ -12,6 +12,7 @@
 
 class Month;
 class NavigationRow;
+class Popover;
 class ProgressWidgetView;
 class RuleLines;
 class QVBoxLayout;
@@ -30,6 +31,10 @@ public:
     /// Adds a line that begins and ends where the tracker does.
     void addAboveTracker(QWidget* widget);
 
+Q_SIGNALS:
+    /// The line of the goal or of a rule was pressed, to plan its days.
+    void popoverRequested(Popover* popover);
+
 protected:
     /// Adds what names the period above the tracker, and the navigation, if there is one, above that.
     void addHeader(NavigationRow* navigation, QWidget* title);
@@ -37,6 +42,7 @@ protected:
 
 private:
     void buildRules();
+    void plan();
 
     CalendarParts m_parts;
     PeriodWord m_period;
@@ -45,5 +51,6 @@ private:
     ProgressWidgetView* m_tracker;
     bool m_hasRules = false;
     RuleLines* m_rules = nullptr;
+    QList<std::shared_ptr<Month>> m_months;
     DaySpan m_days;
 };

@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QTimer>
 
 #include <chrono>
@@ -54,7 +55,7 @@ public:
             return names;
         if (widget()->property(menuProperty).toBool())
             names.prepend(showMenuAction());
-        if (button() != nullptr)
+        if (button() != nullptr || role() == QAccessible::PushButton)
             names.prepend(pressAction());
         return names;
     }
@@ -63,7 +64,10 @@ public:
     {
         if (!actionNames().contains(name))
             return;
-        if (name == pressAction()) {
+        if (name == pressAction() && button() == nullptr) {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier); // as a person would
+            QCoreApplication::sendEvent(widget(), &event);
+        } else if (name == pressAction()) {
             button()->click();
         } else if (name == showMenuAction()) {
             const QPoint place = widget()->rect().center();

@@ -12,6 +12,7 @@
 #include "WindowSize.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -97,6 +98,14 @@ void ProgressWidgetView::changeEvent(QEvent* event)
     SpokenGroup::changeEvent(event);
 }
 
+void ProgressWidgetView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    paintGround(painter);
+    painter.end();
+    SpokenGroup::paintEvent(event);
+}
+
 ProgressWidgetView::Contents ProgressWidgetView::contents() const
 {
     QList<const Month*> months;
@@ -137,6 +146,7 @@ void ProgressWidgetView::refresh()
     m_headline->setMarkedText(shown.headline);
     m_goal->setMarkedText(shown.goal);
     m_goal->setVisible(!shown.goal.isEmpty());
+    setPressable(m_isGoalPressable && !shown.goal.isEmpty() ? m_goal : nullptr);
     m_bar->setContents(shown.bar);
     m_bar->setVisible(shown.hasBar);
     speak(shown);

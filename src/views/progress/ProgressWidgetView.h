@@ -29,9 +29,12 @@ public:
     [[nodiscard]] static int columnWidth(const QFont& font);
 
     void setMonths(const QList<std::shared_ptr<Month>>& months);
+    /// Lets a person press the line of the goal, while there is one. To be called before setMonths().
+    void setGoalPressable() { m_isGoalPressable = true; }
 
 protected:
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     struct Contents {
@@ -48,6 +51,7 @@ private:
     const AppSettings& m_settings;
     const ViewSettings& m_viewSettings;
     PeriodWord m_period;
+    bool m_isGoalPressable = false;
     const QProperty<Counting>* m_counting;
     QList<std::shared_ptr<Month>> m_months;
     MarkedTextLabel* m_headline;

@@ -6,6 +6,7 @@
 #include "Labels.h"
 #include "Outline.h"
 #include "ProgressWidgetView.h"
+#include "RuleTexts.h"
 #include "Symbol.h"
 #include "Theme.h"
 
@@ -13,6 +14,7 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -64,6 +66,21 @@ void paintStripes(QPainter& painter, const QRectF& area, const Theme& theme)
 }
 
 } // namespace
+
+RuleLine::Contents RuleLine::contentsOf(const AttendanceRule& rule, const RuleProgress& progress, QDate today)
+{
+    const auto fraction = [&progress](qint64 days) {
+        const auto wanted = static_cast<double>(progress.wanted);
+        return wanted > 0.0 ? std::clamp(static_cast<double>(days) / wanted, 0.0, 1.0) : 0.0;
+    };
+    const bool isDone = progress.wanted == 0 && (rule.bound == AttendanceRule::Bound::AtLeast || progress.counted > 0);
+    return {.name = rule.name,
+            .count = ruleCountText(rule, progress),
+            .outlook = ruleOutlookText(rule, progress, today),
+            .verdict = progress.verdict,
+            .progress = isDone ? 1.0 : fraction(progress.counted),
+            .prediction = fraction(progress.counted + progress.planned)};
+}
 
 RuleLine::RuleLine(QWidget* parent)
     : SpokenGroup(0, parent)
@@ -129,6 +146,7 @@ void RuleLine::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    paintGround(painter);
     paintTexts(painter);
     paintBar(painter);
     painter.end();

@@ -25,6 +25,9 @@ public:
         bool operator==(const Contents&) const = default;
     };
 
+    /// What a line shows of the progress of a rule.
+    [[nodiscard]] static Contents contentsOf(const AttendanceRule& rule, const RuleProgress& progress, QDate today);
+
     explicit RuleLine(QWidget* parent = nullptr);
 
     void setContents(const Contents& contents);

@@ -135,6 +135,8 @@ void AppWindows::makeMain()
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
     connect(m_main, &ContentView::recordRequested, this, &AppWindows::openRecord);
+
+    connect(m_main, &ContentView::usualWeekRequested, this, &AppWindows::openUsualWeek);
     connect(m_main, &ContentView::setUpRequested, this, &AppWindows::openWelcome);
     connect(m_main, &ContentView::quitRequested, this, &AppWindows::quitRequested);
     connect(m_main, &ContentView::reloadRequested, this, &AppWindows::reloadRequested);
@@ -182,6 +184,12 @@ void AppWindows::openRecord(const DaySpan& span)
 {
     open(WindowId::record);
     m_others[WindowId::record]->findChild<RecordView*>()->setShown(span);
+}
+
+void AppWindows::openUsualWeek()
+{
+    open(WindowId::settings);
+    static_cast<SettingsView*>(m_others[WindowId::settings].data())->showUsualWeek();
 }
 
 void AppWindows::openWelcome()

@@ -35,6 +35,9 @@ public:
     void open(WindowId id);
     /// Opens the window that saves a record, for these days at first.
     void openRecord(const DaySpan& span);
+
+    /// Opens the settings where the usual week is chosen.
+    void openUsualWeek();
     /// Starts the first run, over the main window.
     void openWelcome();
     /// To be called before the first window is opened, if the store is new. If there is a sound backup, the main window

@@ -124,6 +124,7 @@ QWidget* ContentView::makeToolbar()
     connect(toolbar, &Toolbar::windowRequested, this, &ContentView::windowRequested);
     connect(toolbar, &Toolbar::undoRequested, m_undoLine, &UndoLine::undo);
     connect(toolbar, &Toolbar::redoRequested, m_undoLine, &UndoLine::redo);
+    connect(toolbar, &Toolbar::menuOpening, this, [this](QMenu& menu) { page().addEntries(menu); });
     connect(toolbar, &Toolbar::quitRequested, this, &ContentView::quitRequested);
     connect(toolbar, &Toolbar::menuOpening, this, [this](QMenu& menu) { page().addEntries(menu); });
     return toolbar;
@@ -213,6 +214,11 @@ template <class Calendar> QWidget* ContentView::makePage()
     connect(calendar, &GridPage::detailsRequested, this, &ContentView::openDetails);
     connect(calendar, &GridPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
     connect(calendar, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
+
+    connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
+    connect(calendar, &CalendarPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
+    connect(calendar, &CalendarPage::messageRequested, m_undoLine, &UndoLine::showMessage);
+    connect(calendar, &CalendarPage::usualWeekRequested, this, &ContentView::usualWeekRequested);
     return new Page(calendar);
 }
 

@@ -48,6 +48,8 @@ Q_SIGNALS:
     void recordRequested(const DaySpan& span);
     /// The first run is to be finished.
     void setUpRequested();
+    /// The usual week is to be chosen in the settings.
+    void usualWeekRequested();
     void quitRequested();
     /// The file on disk is to be used instead of what is shown.
     void reloadRequested();

@@ -32,7 +32,7 @@ void UndoLine::undo()
     if (m_history.undo())
         showChangedDay();
     else
-        showNothing(tr("Nothing to undo"));
+        showMessage(tr("Nothing to undo"));
 }
 
 void UndoLine::redo()
@@ -40,7 +40,7 @@ void UndoLine::redo()
     if (m_history.redo())
         showChangedDay();
     else
-        showNothing(tr("Nothing to redo"));
+        showMessage(tr("Nothing to redo"));
 }
 
 void UndoLine::note(const ChangedDays& change)
@@ -69,7 +69,7 @@ void UndoLine::showChanges()
         announce(line(), text);
 }
 
-void UndoLine::showNothing(const QString& text)
+void UndoLine::showMessage(const QString& text)
 {
     m_changes.clear();
     m_isShown = true;
@@ -97,7 +97,7 @@ void UndoLine::revertShown()
     std::for_each(changes.rbegin(), changes.rend(),
                   [&](const ChangedDays& change) { isReverted |= m_history.undo(change.group); });
     if (!isReverted)
-        showNothing(tr("Nothing to undo"));
+        showMessage(tr("Nothing to undo"));
 }
 
 void UndoLine::makeRoom()

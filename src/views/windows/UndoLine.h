@@ -23,11 +23,12 @@ public:
     /// Take back the last change, or bring it back. The calendar turns to it if none of its days is shown.
     void undo();
     void redo();
+    /// Says something that cannot be taken back.
+    void showMessage(const QString& text);
 
 private:
     void note(const ChangedDays& change);
     void showChanges();
-    void showNothing(const QString& text);
     void showChangedDay();
     void revertShown();
     void makeRoom();

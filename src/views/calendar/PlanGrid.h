@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Day.h"
+
+#include <QDate>
+#include <QList>
+#include <QWidget>
+
+class PlanDayButton;
+class QGridLayout;
+class QLabel;
+
+/// Small weeks of days, of which some can be pressed. The arrow keys move between these. It only displays: all of it is
+/// given to it.
+class PlanGrid : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Cell {
+        QDate date;
+        Day day;
+        bool isDayOff = false;
+        bool isToday = false;
+        bool canBePressed = false;
+        /// What a screen reader says, and the help shows.
+        QString text;
+    };
+    struct Week {
+        /// Seven.
+        QList<Cell> cells;
+        /// At the end of the row.
+        qint64 freeDays = 0;
+    };
+
+    explicit PlanGrid(QWidget* parent = nullptr);
+
+    void setWeeks(const QList<Week>& weeks);
+
+Q_SIGNALS:
+    void pressed(QDate date);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void build(const QList<Week>& weeks);
+    void addHeader(const QList<Cell>& cells);
+    /// Lets Tab reach one day.
+    void chooseTabStop();
+    [[nodiscard]] PlanDayButton* nextTo(qsizetype place, qsizetype step) const;
+
+    QGridLayout* m_grid;
+    /// Seven a row.
+    QList<PlanDayButton*> m_days;
+    QList<QLabel*> m_freeDays;
+};

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PlanPopover.h"
+
+#include "Accessibility.h"
+#include "AppSettings.h"
+#include "Button.h"
+#include "ButtonRow.h"
+#include "Clock.h"
+#include "CountingRecords.h"
+#include "DayMarker.h"
+#include "DayTexts.h"
+#include "Fonts.h"
+#include "Labels.h"
+#include "MarkedTextLabel.h"
+#include "Page.h"
+#include "PlanGrid.h"
+#include "PlanTexts.h"
+#include "ProgressWidgetView.h"
+#include "RuleLine.h"
+#include "StoreError.h"
+#include "StoredDays.h"
+#include "ViewSettings.h"
+
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(logPlan, "pellory.calendar", QtInfoMsg)
+
+constexpr int linesOfPace = 2;
+// Half a week shows that there are more.
+constexpr qreal weeksInView = 6.5;
+constexpr int roomForScrollBar = 12;
+
+} // namespace
+
+PlanPopover::PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidget* anchor)
+    : Popover(anchor, Side::Below)
+    , m_parts(parts)
+    , m_subject(std::move(subject))
+    , m_stored({}, {}, {}, false)
+    , m_lineColumn(new QWidget)
+    , m_pace(new MarkedTextLabel)
+    , m_problem(labels::error(tr("Nothing was planned, because the data file cannot be read. Try again, or restart "
+                                 "Pellory.")))
+{
+    auto* lines = new QVBoxLayout(m_lineColumn);
+    lines->setContentsMargins({});
+    lines->setSpacing(0);
+    column().setSpacing(8);
+    addTitle();
+    column().addWidget(m_lineColumn);
+    // The height is the same whatever the text is, so that the days below stay where they are.
+    m_pace->setObjectName("pace"_L1);
+    m_pace->setFont(fonts::body(font()));
+    m_pace->setFixedWidth(ProgressWidgetView::columnWidth(font()));
+    m_pace->setLineCount(linesOfPace);
+    column().addWidget(m_pace, 0, Qt::AlignHCenter);
+    const bool isToCome = m_subject.span.last >= m_parts.clock.today();
+    if (isToCome && m_subject.countsPlanned)
+        addGrid();
+    column().addWidget(m_problem);
+    m_problem->hide();
+    refresh();
+    m_pace->setVisible(isToCome && m_subject.countsPlanned);
+    // After the change is saved.
+    connect(&parts.marker, &DayMarker::changed, this, &PlanPopover::refresh, Qt::QueuedConnection);
+    connect(&parts.counting, &CountingRecords::changed, this, &PlanPopover::refresh);
+}
+
+void PlanPopover::addTitle()
+{
+    const QDate last = m_subject.span.last;
+    //: A date, in the format of QLocale::toString(). Put words in single quotes: 'the' d.
+    const QString date = QLocale().toString(last, tr("d MMMM yyyy"));
+    auto* title =
+        labels::strong(last < m_parts.clock.today() ? tr("Ended on %1").arg(date) : tr("Plan until %1").arg(date));
+    title->setContentsMargins(SpokenGroup::ringRoom, 0, SpokenGroup::ringRoom, 0);
+    setAccessibleName(title->text());
+    column().addWidget(title);
+}
+
+void PlanPopover::addGrid()
+{
+    m_grid = new PlanGrid;
+    connect(m_grid, &PlanGrid::pressed, this, &PlanPopover::tryDay);
+    column().addWidget(m_grid);
+    addButtons();
+}
+
+void PlanPopover::addButtons()
+{
+    auto* buttons = new ButtonRow(Qt::AlignRight);
+    if (!m_parts.counting.usualWeek().weekdays.isEmpty()) {
+        auto* fill = new Button(tr("Fill with My Usual Days"));
+        fill->setObjectName("fill"_L1);
+        connect(fill, &QAbstractButton::clicked, this, &PlanPopover::fillUsualWeek);
+        buttons->add(fill);
+    }
+    m_apply = new Button(tr("Apply"));
+    m_apply->setObjectName("apply"_L1);
+    m_apply->setProminent(true);
+    connect(m_apply, &QAbstractButton::clicked, this, &PlanPopover::apply);
+    buttons->add(m_apply);
+    column().addWidget(buttons);
+}
+
+CountedDays PlanPopover::daysWith(const TriedStates& tried) const
+{
+    return withTried(m_stored, tried, m_parts.counting.counting(), m_parts.settings.vacationDaysCountAsInOffice);
+}
+
+void PlanPopover::refresh()
+{
+    try {
+        m_stored = countedDays(m_parts.marker.context(), m_subject.days, m_parts.counting.counting(),
+                               m_parts.settings.vacationDaysCountAsInOffice);
+    } catch (const StoreError& error) {
+        qCWarning(logPlan, "The days of a plan cannot be read: %s", error.what());
+        m_problem->show();
+        return;
+    }
+    const QDate today = m_parts.clock.today();
+    const CountedDays days = daysWith(m_tried);
+    const QList<PlanSubject::Line> lines = m_subject.lines(days);
+    const QList<PlanWeek> weeks =
+        planWeeks(days, m_subject.span, m_subject.weekdays, today, m_parts.viewSettings.weekStart());
+    showLines(lines);
+    if (!lines.isEmpty()) {
+        const PlanPace pace = planPace(lines.first().progress, weeks);
+        m_pace->setMarkedText(planText(lines.first().rule, lines.first().progress, pace, today));
+    }
+    if (m_grid != nullptr)
+        showWeeks(weeks, days);
+}
+
+void PlanPopover::showLines(const QList<PlanSubject::Line>& lines)
+{
+    while (m_lines.size() < lines.size()) {
+        m_lines.append(new RuleLine);
+        m_lineColumn->layout()->addWidget(m_lines.last());
+    }
+    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+        m_lines.at(i)->setVisible(i < lines.size());
+        if (i < lines.size())
+            m_lines.at(i)->setContents(
+                RuleLine::contentsOf(lines.at(i).rule, lines.at(i).progress, m_parts.clock.today()));
+        // A shorter text leaves the days where they are.
+        m_lines.at(i)->setMinimumHeight(qMax(m_lines.at(i)->minimumHeight(), m_lines.at(i)->sizeHint().height()));
+    }
+}
+
+void PlanPopover::showWeeks(const QList<PlanWeek>& weeks, const CountedDays& days)
+{
+    const DayTexts texts(m_parts.counting);
+    QList<PlanGrid::Week> shown;
+    for (const PlanWeek& week : weeks) {
+        PlanGrid::Week row{.cells = {}, .freeDays = week.freeDays};
+        for (QDate date = week.days.first; date <= week.days.last; date = date.addDays(1)) {
+            const bool isIn = m_subject.span.contains(date);
+            const DayState state = isIn ? days.in({date, date}).front().state : DayState::UNKNOWN;
+            const Day day{.id = date.day(), .state = state, .isWorkday = isIn && texts.counting().isWorkday(date)};
+            row.cells.append({.date = date,
+                              .day = day,
+                              .isDayOff = texts.counting().dayOff(date) != nullptr,
+                              .isToday = date == m_parts.clock.today(),
+                              .canBePressed = canBeTried(date),
+                              .text = texts.spoken(date, state)});
+        }
+        shown.append(row);
+    }
+    m_grid->setWeeks(shown);
+    m_apply->setEnabled(std::any_of(m_tried.keyValueBegin(), m_tried.keyValueEnd(),
+                                    [this](const auto& tried) { return storedState(tried.first) != tried.second; }));
+}
+
+DayState PlanPopover::storedState(QDate date) const
+{
+    return m_stored.in({date, date}).front().state;
+}
+
+bool PlanPopover::canBeTried(QDate date) const
+{
+    return date >= m_parts.clock.today() && m_subject.span.contains(date) && m_subject.weekdays.contains(date) &&
+           canBePlanned(m_stored.in({date, date}).front());
+}
+
+void PlanPopover::tryDay(QDate date)
+{
+    const bool isPlanned = m_tried.value(date, storedState(date)) == DayState::WILL_BE_IN_OFFICE;
+    m_tried[date] = isPlanned ? DayState::UNKNOWN : DayState::WILL_BE_IN_OFFICE;
+    refresh();
+    announce(*this, m_pace->text());
+}
+
+void PlanPopover::fillUsualWeek()
+{
+    const Weekdays usual = m_parts.counting.usualWeek().weekdays;
+    for (const QDate date : daysToPlan(daysWith(m_tried), usual, m_parts.clock.today())) {
+        if (canBeTried(date))
+            m_tried[date] = DayState::WILL_BE_IN_OFFICE;
+    }
+    refresh();
+    announce(*this, m_pace->text());
+}
+
+void PlanPopover::apply()
+{
+    QList<DayMark> marks;
+    for (const auto& [date, state] : m_tried.asKeyValueRange()) {
+        if (canBeTried(date) && storedState(date) != state)
+            marks.append({date, state});
+    }
+    std::ranges::sort(marks, {}, &DayMark::date);
+    try {
+        m_parts.marker.mark(marks, ChangedBy::Pattern);
+        close();
+    } catch (const StoreError& error) {
+        qCWarning(logPlan, "A plan cannot be stored: %s", error.what());
+        m_problem->show();
+        fitToContents();
+    }
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CalendarParts.h"
+#include "Plan.h"
+#include "PlanSubject.h"
+#include "Popover.h"
+
+class Button;
+class MarkedTextLabel;
+class PlanGrid;
+class QLabel;
+class RuleLine;
+
+/// What is needed for goals or a rule, with the weeks that are left, in which days can be tried. Nothing is stored
+/// before "Apply".
+class PlanPopover : public Popover {
+    Q_OBJECT
+
+public:
+    PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidget* anchor);
+
+private:
+    void addTitle();
+    void addGrid();
+    void addButtons();
+    void refresh();
+    void showLines(const QList<PlanSubject::Line>& lines);
+    void showWeeks(const QList<PlanWeek>& weeks, const CountedDays& days);
+    void tryDay(QDate date);
+    void fillUsualWeek();
+    void apply();
+    [[nodiscard]] CountedDays daysWith(const TriedStates& tried) const;
+    [[nodiscard]] DayState storedState(QDate date) const;
+    [[nodiscard]] bool canBeTried(QDate date) const;
+
+    CalendarParts m_parts;
+    PlanSubject m_subject;
+    /// As they are stored.
+    CountedDays m_stored;
+    TriedStates m_tried;
+    QWidget* m_lineColumn;
+    QList<RuleLine*> m_lines;
+    MarkedTextLabel* m_pace;
+    PlanGrid* m_grid = nullptr;
+    QLabel* m_problem;
+    Button* m_apply = nullptr;
+};
