@@ -5,6 +5,8 @@ pellory_test(views
         views/calendar/DayClickTest.cpp views/calendar/DayDetailsTest.cpp views/calendar/DayHistoryTest.cpp
         views/calendar/DaySelectionTest.cpp
         views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp views/help/LegendViewTest.cpp
+
+        views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp views/calendar/PlanTest.cpp views/help/LegendViewTest.cpp
         views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
         views/settings/CountingTest.cpp views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp
         views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/SaveAlertTest.cpp

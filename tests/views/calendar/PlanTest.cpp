@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Button.h"
+#include "ContentView.h"
+#include "MarkedTextLabel.h"
+#include "PlanPopover.h"
+#include "RuleLine.h"
+#include "SettingsView.h"
+#include "Switch.h"
+#include "ViewTest.h"
+#include "WeekdayButtons.h"
+
+#include <QMenu>
+#include <QSignalSpy>
+
+class PlanTest : public ViewTest {
+protected:
+    PlanTest()
+    {
+        clock.beginDay({2026, 11, 23}); // a Monday, with four goal days to plan in six workdays
+        for (const int day : {2, 3, 4, 5, 6})
+            marker.mark({{{2026, 11, day}, DayState::IN_OFFICE}}, ChangedBy::Hand);
+        show(*window);
+    }
+
+    [[nodiscard]] static PlanPopover& plan()
+    {
+        auto* popover = qobject_cast<PlanPopover*>(QApplication::activePopupWidget());
+        if (popover == nullptr)
+            qFatal("No plan");
+        return *popover;
+    }
+    [[nodiscard]] static QAbstractButton& day(const char* name)
+    {
+        for (auto* button : plan().findChildren<QAbstractButton*>()) {
+            if (button->accessibleName().startsWith(QLatin1StringView(name)))
+                return *button;
+        }
+        qFatal("There is no %s", name);
+    }
+    [[nodiscard]] static QString pace() { return named<QLabel>(plan(), "pace").text(); }
+    [[nodiscard]] QList<int> planned()
+    {
+        QList<int> days;
+        for (const Day& each : month(2026, 11)->days.value()) {
+            if (each.state == DayState::WILL_BE_IN_OFFICE)
+                days.append(int(each.id));
+        }
+        return days;
+    }
+    void choose(const QString& entry)
+    {
+        click(named<QAbstractButton>(*window, "menu"));
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (QAction* action : menu->actions()) {
+            if (action->text() == entry)
+                action->trigger();
+        }
+        menu->close();
+    }
+
+    std::unique_ptr<ContentView> window = std::make_unique<ContentView>(parts);
+};
+
+TEST_F(PlanTest, followsTheDaysThatAreTriedAndStoresThemOnlyWhenApplied)
+{
+    counting.addRule({.name = u"Ten"_s, .amount = 1000, .unit = AttendanceRule::Unit::Days});
+    counting.setUsualWeek({Weekdays(0b1010), false});
+    auto& goal = named<QLabel>(*window, "goal");
+    click(goal);
+    EXPECT_EQ(plan().accessibleName(), u"Plan until 30 November 2026"_s);
+    EXPECT_EQ(plan().findChildren<RuleLine*>().first()->accessibleName(),
+              u"not fired: 5 of 9 days. 4 more by 30 November, 6 workdays left"_s);
+    EXPECT_EQ(pace(), u"4 of the 6 free workdays left: about 3 a week"_s);
+    const QPoint place = day("Tuesday 24").mapTo(&plan(), QPoint());
+    click(day("Tuesday 24"));
+    EXPECT_EQ(pace(), u"3 of the 5 free workdays left: about 2 a week"_s);
+    click(named<Button>(plan(), "fill")); // Tuesday and Thursday
+    EXPECT_EQ(pace(), u"2 of the 4 free workdays left: about 2 a week"_s);
+    EXPECT_EQ(day("Tuesday 24").mapTo(&plan(), QPoint()), place);
+    press(plan(), Qt::Key_Escape);
+    EXPECT_EQ(planned(), QList<int>());
+    EXPECT_TRUE(eventually([&] { return window->findChild<PlanPopover*>() == nullptr; }));
+
+    window->findChild<RuleLine*>()->setFocus();
+    press(*window, Qt::Key_Return);
+    EXPECT_EQ(pace(), u"5 of the 6 free workdays left: about 4 a week"_s);
+    EXPECT_FALSE(named<Button>(plan(), "apply").isEnabled());
+    day("Monday 23").setFocus();
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Space, Qt::Key_Left, Qt::Key_Down, Qt::Key_Space})
+        press(plan(), key);
+    marker.mark({{{2026, 11, 24}, DayState::VACATION_DAY}}, ChangedBy::Hand); // another hand was faster
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pace(), u"4 of the 4 free workdays left"_s);
+    click(named<Button>(plan(), "apply"));
+    EXPECT_EQ(planned(), QList{30});
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(planned(), QList<int>());
+}
+
+TEST_F(PlanTest, usualWeekIsChosenInTheSettingsAndPlannedFromTheMenu)
+{
+    const QSignalSpy wanted(window.get(), &ContentView::usualWeekRequested);
+    choose(u"Plan Usual Week…"_s);
+    EXPECT_EQ(wanted.size(), 1);
+    SettingsView view(*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
+                      counting, clock, viewSettings);
+    show(view);
+    view.showUsualWeek();
+    auto& plansNewMonths = named<Switch>(view, "plansNewMonths");
+    EXPECT_TRUE(
+        eventually([&] { return named<WeekdayButtons>(view, "usualWeekdays").isAncestorOf(view.focusWidget()); }));
+    EXPECT_FALSE(plansNewMonths.isEnabled());
+    press(view, Qt::Key_Space);
+    click(plansNewMonths);
+    EXPECT_EQ(counting.usualWeek(), (UsualWeek{Weekdays(0b1), true}));
+    counting.setUsualWeek({Weekdays(0b1001), true});
+    EXPECT_TRUE(plansNewMonths.isChecked());
+    window->activateWindow();
+    choose(u"Plan Usual Week"_s);
+    EXPECT_EQ(planned(), (QList{23, 26, 30}));
+    EXPECT_TRUE(eventually([&] { return shownTexts(*window).contains(u"Plan changed: 3 days"_s); }));
+    choose(u"Plan Usual Week"_s);
+    EXPECT_TRUE(shownTexts(*window).contains(u"None of your usual days is left to plan in this month"_s));
+}
