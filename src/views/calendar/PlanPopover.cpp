@@ -23,6 +23,7 @@
 
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -34,8 +35,9 @@ namespace {
 Q_LOGGING_CATEGORY(logPlan, "pellory.calendar", QtInfoMsg)
 
 constexpr int linesOfPace = 2;
-// Half a week shows that there are more.
-constexpr qreal weeksInView = 6.5;
+// In the usual font, with which they grow. Half a week shows that there are more.
+constexpr int highestGrid = 258;
+constexpr int leastGrid = 95;
 constexpr int roomForScrollBar = 12;
 
 } // namespace
@@ -69,6 +71,8 @@ PlanPopover::PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidge
     m_problem->hide();
     refresh();
     m_pace->setVisible(isToCome && m_subject.countsPlanned);
+    if (m_grid != nullptr)
+        limitGrid();
     // After the change is saved.
     connect(&parts.marker, &DayMarker::changed, this, &PlanPopover::refresh, Qt::QueuedConnection);
     connect(&parts.counting, &CountingRecords::changed, this, &PlanPopover::refresh);
@@ -90,7 +94,10 @@ void PlanPopover::addGrid()
 {
     m_grid = new PlanGrid;
     connect(m_grid, &PlanGrid::pressed, this, &PlanPopover::tryDay);
-    column().addWidget(m_grid);
+    m_weeks = new Page(m_grid);
+    m_grid->setAutoFillBackground(false); // which the page has turned on
+    m_weeks->viewport()->setAutoFillBackground(false);
+    column().addWidget(m_weeks);
     addButtons();
 }
 
@@ -109,6 +116,20 @@ void PlanPopover::addButtons()
     connect(m_apply, &QAbstractButton::clicked, this, &PlanPopover::apply);
     buttons->add(m_apply);
     column().addWidget(buttons);
+}
+
+// More weeks than fit on the screen, or than are easy to look through, are scrolled.
+void PlanPopover::limitGrid()
+{
+    const int whole = m_grid->sizeHint().height();
+    m_weeks->setFixedHeight(whole);
+    const int others = sizeHint().height() - whole;
+    const int room = parentWidget()->screen()->availableSize().height() - others;
+    const int height = qMin(room, fonts::grown(highestGrid, font()));
+    if (whole <= height)
+        return;
+    m_grid->setContentsMargins(0, 0, roomForScrollBar, 0);
+    m_weeks->setFixedHeight(qMax(height, fonts::grown(leastGrid, font())));
 }
 
 CountedDays PlanPopover::daysWith(const TriedStates& tried) const

@@ -8,6 +8,7 @@
 
 class Button;
 class MarkedTextLabel;
+class Page;
 class PlanGrid;
 class QLabel;
 class RuleLine;
@@ -24,6 +25,7 @@ private:
     void addTitle();
     void addGrid();
     void addButtons();
+    void limitGrid();
     void refresh();
     void showLines(const QList<PlanSubject::Line>& lines);
     void showWeeks(const QList<PlanWeek>& weeks, const CountedDays& days);
@@ -43,6 +45,7 @@ private:
     QList<RuleLine*> m_lines;
     MarkedTextLabel* m_pace;
     PlanGrid* m_grid = nullptr;
+    Page* m_weeks = nullptr;
     QLabel* m_problem;
     Button* m_apply = nullptr;
 };
