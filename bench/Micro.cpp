@@ -18,6 +18,7 @@
 #include "LocationManager.h"
 #include "NetworkManagerAuthorization.h"
 #include "NetworkManagerWiFiClient.h"
+#include "Plan.h"
 #include "RecordContents.h"
 #include "RecordPdf.h"
 #include "RulePresets.h"
@@ -106,6 +107,24 @@ void quarterStatisticsWithTwelveRules(benchmark::State& state)
         benchmark::DoNotOptimize(statisticsOf(months, counting));
         for (const AttendanceRule& rule : rules)
             benchmark::DoNotOptimize(ruleProgress(rule, days, today, today, Qt::Monday));
+    }
+}
+
+void planOfYear(benchmark::State& state)
+{
+    const Counting counting = sampleCounting();
+    const CountedDays days = sampleYear(counting);
+    AttendanceRule rule;
+    rule.span = AttendanceRule::Span::Year;
+    const QDate today(2026, 1, 20);
+    TriedStates tried;
+    while (state.KeepRunning()) {
+        const CountedDays planned = withTried(days, tried, counting, false);
+        tried[today] = DayState::WILL_BE_IN_OFFICE;
+        const auto progress = ruleProgress(rule, planned, today, today, Qt::Monday);
+        benchmark::DoNotOptimize(
+            planPace(*progress, planWeeks(planned, progress->span, rule.weekdays, today, Qt::Monday)));
+        benchmark::DoNotOptimize(daysToPlan(planned, Weekdays::mondayToFriday(), today));
     }
 }
 
@@ -313,6 +332,7 @@ BENCHMARK(exportOf100Years)->MeasureProcessCPUTime();
 BENCHMARK(importOf100Years)->MeasureProcessCPUTime();
 BENCHMARK(statisticsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(quarterStatisticsWithTwelveRules)->MeasureProcessCPUTime();
+BENCHMARK(planOfYear)->MeasureProcessCPUTime();
 BENCHMARK(countDaysOfYear)->MeasureProcessCPUTime();
 BENCHMARK(fractionsOfQuarter)->MeasureProcessCPUTime();
 BENCHMARK(monthChange)->MeasureProcessCPUTime();
