@@ -45,7 +45,8 @@ struct CountingChoices {
     bool operator==(const CountingChoices&) const = default;
 };
 
-/// The weekdays on which a person usually comes to the office. At most one is stored; none is the same as a default one.
+/// The weekdays on which a person usually comes to the office. At most one is stored; none is the same as a default
+/// one.
 struct UsualWeek {
     Weekdays weekdays = {};
     /// Plans these days in each month that is new.
