@@ -121,4 +121,7 @@ TEST_F(PlanTest, usualWeekIsChosenInTheSettingsAndPlannedFromTheMenu)
     EXPECT_TRUE(eventually([&] { return shownTexts(*window).contains(u"Plan changed: 3 days"_s); }));
     choose(u"Plan Usual Week"_s);
     EXPECT_TRUE(shownTexts(*window).contains(u"None of your usual days is left to plan in this month"_s));
+    for (int turns = 0; turns < 2; ++turns)
+        press(*window, Qt::Key_PageDown);
+    EXPECT_EQ(std::ranges::count(month(2027, 1)->days.value(), DayState::WILL_BE_IN_OFFICE, &Day::state), 8);
 }
