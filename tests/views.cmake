@@ -3,16 +3,13 @@ pellory_test(views
     SOURCES
         support/FakeWiFiClient.h support/WindowTestMain.cpp views/calendar/CalendarViewTest.cpp
         views/calendar/DayClickTest.cpp views/calendar/DayDetailsTest.cpp views/calendar/DayHistoryTest.cpp
-        views/calendar/DaySelectionTest.cpp
-        views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp views/help/LegendViewTest.cpp
-
-        views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp views/calendar/PlanTest.cpp views/help/LegendViewTest.cpp
+        views/calendar/DaySelectionTest.cpp views/calendar/HoverTest.cpp views/calendar/OpenDaysTest.cpp
+        views/calendar/PlanTest.cpp views/calendar/RuleLinesTest.cpp views/help/LegendViewTest.cpp
         views/look/ThemeTest.cpp views/progress/ProgressBarTest.cpp views/progress/ProgressWidgetViewTest.cpp
-        views/settings/CountingTest.cpp views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp
-        views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/SaveAlertTest.cpp
-        views/windows/UndoLineTest.cpp views/settings/DataSettingsTest.cpp
-        views/calendar/RuleLinesTest.cpp views/settings/RulesTest.cpp views/year/YearViewTest.cpp
-        views/windows/RecordViewTest.cpp
+        views/settings/CountingTest.cpp views/settings/DataSettingsTest.cpp views/settings/RulesTest.cpp
+        views/settings/SettingsTest.cpp views/tracking/TrackingTest.cpp views/windows/AppWindowsTest.cpp
+        views/windows/ContentViewTest.cpp views/windows/PagesTest.cpp views/windows/RecordViewTest.cpp
+        views/windows/SaveAlertTest.cpp views/windows/UndoLineTest.cpp views/year/YearViewTest.cpp
     LINKS Pellory::windows SQLiteCpp Qt6::Test
     PRECOMPILES <QApplication> <QCoroTask> <QLabel> <QSignalSpy> <QTest>
 )

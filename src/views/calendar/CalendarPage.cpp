@@ -2,13 +2,11 @@
 #include "CalendarPage.h"
 
 #include "Clock.h"
-#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "Labels.h"
 #include "LinkButton.h"
 #include "NavigationRow.h"
 #include "StoreError.h"
-#include "UsualWeekPlanner.h"
 #include "WindowSize.h"
 
 #include <QKeyEvent>
@@ -60,20 +58,6 @@ void CalendarPage::connectNavigation(NavigationRow& navigation)
     });
 }
 
-void CalendarPage::connectCard(MonthCard& card)
-{
-    m_cards.push_back(&card);
-    connectTracker(card);
-    connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
-    connect(&card.calendar(), &CalendarView::detailsRequested, this, &CalendarPage::detailsRequested);
-    connect(&card.calendar(), &CalendarView::popoverRequested, this, &CalendarPage::popoverRequested);
-}
-
-void CalendarPage::connectTracker(TrackerCard& tracker)
-{
-    connect(&tracker, &TrackerCard::popoverRequested, this, &CalendarPage::popoverRequested);
-}
-
 void CalendarPage::previous(Qt::FocusReason reason)
 {
     if (const auto month = monthBefore())
@@ -120,11 +104,10 @@ void CalendarPage::showDay(QDate date, Qt::FocusReason reason)
 {
     if (date.year() < firstYear || date.year() > lastYear)
         return;
-    if (!isShown(date) || m_contents->isHidden())
+    if (!isShown(date) || !isLoaded())
         showPeriod({date.year(), date.month()});
-    if (m_contents->isHidden())
-        return;
-    focusDay(date, reason);
+    if (isLoaded())
+        focusDay(date, reason);
 }
 
 void CalendarPage::showToday(Qt::FocusReason reason)
@@ -134,13 +117,15 @@ void CalendarPage::showToday(Qt::FocusReason reason)
 
 void CalendarPage::focusCurrentDay(Qt::FocusReason reason)
 {
-    if (!m_contents->isHidden())
+    if (isLoaded())
         focusCurrent(reason);
 }
 
 void CalendarPage::addEntries(QMenu& menu)
 {
-    QAction* record = menu.addAction(tr("Save Record…"));
+    if (!isLoaded())
+        return;
+    const QAction* record = menu.addAction(tr("Save Record…"));
     connect(record, &QAction::triggered, this, [this] { Q_EMIT recordRequested(span()); });
 }
 
@@ -154,95 +139,6 @@ void CalendarPage::keyPressEvent(QKeyEvent* event)
     default:
         QWidget::keyPressEvent(event);
     }
-}
-
-std::optional<YearMonth> CalendarPage::monthBefore() const
-{
-    return isQuarter() ? firstMonth(m_month.quarter().previous()) : m_month.previous();
-}
-
-std::optional<YearMonth> CalendarPage::monthAfter() const
-{
-    return isQuarter() ? firstMonth(m_month.quarter().next()) : m_month.next();
-}
-
-QList<std::shared_ptr<Month>> CalendarPage::loadQuarter() const
-{
-    try {
-        UsualWeekPlanner planner(m_parts.marker, m_parts.counting, m_parts.clock);
-        return planner.quarterMonths(m_parts.marker.context(), m_month.quarter());
-    } catch (const StoreError& error) {
-        if (m_error->isHidden()) // the first time
-            qCWarning(logCalendar, "Cannot load a month: %s", error.what());
-        return {};
-    }
-}
-
-DaySpan CalendarPage::span() const
-{
-    const auto months = m_month.quarter().months();
-    const QDate first(m_month.year, isQuarter() ? months.front() : m_month.month, 1);
-    const QDate lastMonth(m_month.year, isQuarter() ? months.back() : m_month.month, 1);
-    return {first, lastMonth.addDays(lastMonth.daysInMonth() - 1)};
-}
-
-void CalendarPage::addEntries(QMenu& menu)
-{
-    if (m_contents->isHidden())
-        return;
-    if (m_parts.counting.usualWeek().weekdays.isEmpty())
-        connect(menu.addAction(tr("Plan Usual Week…")), &QAction::triggered, this, &CalendarPage::usualWeekRequested);
-    else
-        connect(menu.addAction(tr("Plan Usual Week")), &QAction::triggered, this, &CalendarPage::planUsualWeek);
-}
-
-void CalendarPage::planUsualWeek()
-{
-    try {
-        if (UsualWeekPlanner(m_parts.marker, m_parts.counting, m_parts.clock).plan(span()) == 0)
-            Q_EMIT messageRequested(isQuarter() ? tr("None of your usual days is left to plan in this quarter")
-                                                : tr("None of your usual days is left to plan in this month"));
-    } catch (const StoreError& error) {
-        qCWarning(logCalendar, "The usual week cannot be planned: %s", error.what());
-        Q_EMIT messageRequested(tr("Nothing was planned, because the data file cannot be read"));
-    }
-}
-
-bool CalendarPage::isShown(QDate date) const
-{
-    const YearMonth month{date.year(), date.month()};
-    return isQuarter() ? month.quarter() == m_month.quarter() : month == m_month;
-}
-
-QDate CalendarPage::focusedDate() const
-{
-    const CalendarView* calendar = focusedCalendar();
-    return calendar == nullptr ? QDate() : calendar->month()->dateOf(calendar->focusedDay());
-}
-
-CalendarView& CalendarPage::calendarOf(QDate date) const
-{
-    return m_cards.at(isQuarter() ? static_cast<std::size_t>((date.month() - 1) % 3) : 0)->calendar();
-}
-
-CalendarView* CalendarPage::focusedCalendar() const
-{
-    const auto focused = std::ranges::find_if(m_cards, [](auto* card) { return card->calendar().focusedDay() > 0; });
-    return focused == m_cards.end() ? nullptr : &(*focused)->calendar();
-}
-
-void CalendarPage::turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason)
-{
-    if (!month)
-        return;
-    CalendarView* const calendar = focusedCalendar();
-    if (calendar != nullptr && calendar->focusedDay() != m_reachedDay)
-        m_wantedDay = calendar->focusedDay();
-    showPeriod(*month);
-    if (calendar == nullptr)
-        return;
-    calendar->focusDay(m_wantedDay, reason);
-    m_reachedDay = calendar->focusedDay();
 }
 
 void CalendarPage::followToday()

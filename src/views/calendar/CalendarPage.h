@@ -4,6 +4,7 @@
 #include "CalendarParts.h"
 #include "DaySpan.h"
 #include "Period.h"
+#include "Popover.h"
 #include "Retry.h"
 
 #include <QDate>
@@ -50,25 +51,14 @@ public:
     /// The days of the period.
     [[nodiscard]] virtual DaySpan span() const = 0;
     [[nodiscard]] bool isShown(QDate date) const { return span().contains(date); }
-
-    [[nodiscard]] DaySpan span() const;
-    [[nodiscard]] bool isShown(QDate date) const;
-    /// Adds what the menu offers for the period.
-    virtual void addEntries(QMenu& menu);
     /// The day that has the keyboard focus, invalid if none has.
     [[nodiscard]] virtual QDate focusedDate() const = 0;
 
 Q_SIGNALS:
     /// A record of these days is to be saved.
     void recordRequested(DaySpan span);
-
-    // As CalendarView emits them.
-    void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
+    /// Emitted with a new popover, for the window to open in its own way.
     void popoverRequested(Popover* popover);
-    /// Something is to be said in a line.
-    void messageRequested(const QString& text);
-    /// There is no usual week yet; the person wants to choose it.
-    void usualWeekRequested();
 
 protected:
     [[nodiscard]] const CalendarParts& parts() const { return m_parts; }
@@ -77,10 +67,8 @@ protected:
     [[nodiscard]] QVBoxLayout& contents() { return *m_column; }
     /// Makes the buttons turn the page.
     void connectNavigation(NavigationRow& navigation);
-    /// Makes a card show a month of the page: the only one, or the next of a quarter.
-    void connectCard(MonthCard& card);
-    /// Lets the days of a tracker be planned.
-    void connectTracker(TrackerCard& tracker);
+    /// False while the store cannot be read.
+    [[nodiscard]] bool isLoaded() const { return !m_contents->isHidden(); }
 
     /// Reads and shows the period of month(). Throws a StoreError if the store cannot be read.
     virtual void load() = 0;
@@ -97,16 +85,6 @@ protected:
 
 private:
     [[nodiscard]] bool tryToLoad();
-
-    [[nodiscard]] bool isQuarter() const { return m_cards.size() > 1; }
-    [[nodiscard]] std::optional<YearMonth> monthBefore() const;
-    [[nodiscard]] std::optional<YearMonth> monthAfter() const;
-    [[nodiscard]] QList<std::shared_ptr<Month>> loadQuarter() const;
-    /// The grid of a day that is shown.
-    [[nodiscard]] CalendarView& calendarOf(QDate date) const;
-    [[nodiscard]] CalendarView* focusedCalendar() const;
-    void planUsualWeek();
-    void turnTo(const std::optional<YearMonth>& month, Qt::FocusReason reason);
     void followToday();
 
     CalendarParts m_parts;

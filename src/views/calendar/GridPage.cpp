@@ -2,15 +2,23 @@
 #include "GridPage.h"
 
 #include "CalendarView.h"
+#include "Clock.h"
+#include "CountingRecords.h"
 #include "DayMarker.h"
 #include "DaySelection.h"
 #include "Month.h"
 #include "MonthCard.h"
-#include "StoredMonths.h"
+#include "StoreError.h"
+#include "UsualWeekPlanner.h"
+
+#include <QLoggingCategory>
+#include <QMenu>
 
 #include <algorithm>
 
 namespace {
+
+Q_LOGGING_CATEGORY(logGridPage, "pellory.calendar", QtInfoMsg)
 
 std::optional<YearMonth> firstMonth(const std::optional<YearQuarter>& quarter)
 {
@@ -32,15 +40,22 @@ void GridPage::connectCard(MonthCard& card)
 {
     m_cards.push_back(&card);
     m_selection->watch(card.calendar());
+    connectTracker(card);
     connect(&card.calendar(), &CalendarView::dayRequested, this, [this](QDate date) { showDay(date); });
     connect(&card.calendar(), &CalendarView::detailsRequested, this, &GridPage::detailsRequested);
     connect(&card.calendar(), &CalendarView::popoverRequested, this, &GridPage::popoverRequested);
 }
 
+void GridPage::connectTracker(TrackerCard& tracker)
+{
+    connect(&tracker, &TrackerCard::popoverRequested, this, &GridPage::popoverRequested);
+}
+
 void GridPage::load()
 {
     m_selection->followTurn();
-    const auto months = quarterMonths(parts().marker.context(), month().quarter());
+    UsualWeekPlanner planner(parts().marker, parts().counting, parts().clock);
+    const auto months = planner.quarterMonths(parts().marker.context(), month().quarter());
     for (std::size_t i = 0; i < m_cards.size(); ++i)
         m_cards[i]->setMonth(months.at(isQuarter() ? static_cast<qsizetype>(i) : (month().month - 1) % 3));
     showQuarter(months);
@@ -104,4 +119,27 @@ void GridPage::turnTo(const YearMonth& month, Qt::FocusReason reason)
         return;
     calendar->focusDay(m_wantedDay, reason);
     m_reachedDay = calendar->focusedDay();
+}
+
+void GridPage::addEntries(QMenu& menu)
+{
+    if (!isLoaded())
+        return;
+    if (parts().counting.usualWeek().weekdays.isEmpty())
+        connect(menu.addAction(tr("Plan Usual Week…")), &QAction::triggered, this, &GridPage::usualWeekRequested);
+    else
+        connect(menu.addAction(tr("Plan Usual Week")), &QAction::triggered, this, &GridPage::planUsualWeek);
+    CalendarPage::addEntries(menu);
+}
+
+void GridPage::planUsualWeek()
+{
+    try {
+        if (UsualWeekPlanner(parts().marker, parts().counting, parts().clock).plan(span()) == 0)
+            Q_EMIT messageRequested(isQuarter() ? tr("None of your usual days is left to plan in this quarter")
+                                                : tr("None of your usual days is left to plan in this month"));
+    } catch (const StoreError& error) {
+        qCWarning(logGridPage, "The usual week cannot be planned: %s", error.what());
+        Q_EMIT messageRequested(tr("Nothing was planned, because the data file cannot be read"));
+    }
 }

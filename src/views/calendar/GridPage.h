@@ -2,7 +2,6 @@
 #pragma once
 
 #include "CalendarPage.h"
-#include "Popover.h"
 
 #include <memory>
 #include <vector>
@@ -11,6 +10,7 @@ class CalendarView;
 class DaySelection;
 class Month;
 class MonthCard;
+class TrackerCard;
 
 /// A month or a quarter, with the grids in which days are marked. To show it stores the months of its quarter that are
 /// not stored yet. When it turns, a day that has the focus passes it to the same day of the new page.
@@ -24,14 +24,21 @@ public:
     [[nodiscard]] DaySpan span() const override;
     [[nodiscard]] QDate focusedDate() const override;
 
+    void addEntries(QMenu& menu) override;
+
 Q_SIGNALS:
-    // As CalendarView emits them.
+    // As CalendarView emits it.
     void detailsRequested(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
-    void popoverRequested(Popover* popover);
+    /// Something is to be said in a line.
+    void messageRequested(const QString& text);
+    /// There is no usual week yet; the person wants to choose it.
+    void usualWeekRequested();
 
 protected:
     /// Makes a card show a month of the page: the only one, or the next of a quarter.
     void connectCard(MonthCard& card);
+    /// Lets the days of a tracker be planned.
+    void connectTracker(TrackerCard& tracker);
 
     /// Passes the months of the quarter to the other parts, whenever a period is shown.
     virtual void showQuarter(const QList<std::shared_ptr<Month>>& months) = 0;
@@ -48,6 +55,7 @@ private:
     /// The grid of a day that is shown.
     [[nodiscard]] CalendarView& calendarOf(QDate date) const;
     [[nodiscard]] CalendarView* focusedCalendar() const;
+    void planUsualWeek();
 
     std::vector<MonthCard*> m_cards;
     std::unique_ptr<DaySelection> m_selection;

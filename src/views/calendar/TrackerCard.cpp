@@ -66,8 +66,6 @@ void TrackerCard::buildRules()
         return;
     const auto place = m_period == PeriodWord::Quarter ? RuleLines::Place::Quarter : RuleLines::Place::Month;
     m_rules = new RuleLines(m_parts, place, m_isTrackerShown);
-
-    m_rules = new RuleLines(m_parts, m_period == PeriodWord::Quarter, m_isTrackerShown);
     connect(m_rules, &RuleLines::popoverRequested, this, &TrackerCard::popoverRequested);
     m_column->addWidget(m_rules);
     m_rules->setPeriod(m_days);

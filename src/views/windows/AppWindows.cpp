@@ -135,7 +135,6 @@ void AppWindows::makeMain()
     prepare(*m_main, u"contentView"_s, QCoreApplication::applicationName(), grown(firstMainSize, m_main->font()));
     connect(m_main, &ContentView::windowRequested, this, &AppWindows::open);
     connect(m_main, &ContentView::recordRequested, this, &AppWindows::openRecord);
-
     connect(m_main, &ContentView::usualWeekRequested, this, &AppWindows::openUsualWeek);
     connect(m_main, &ContentView::setUpRequested, this, &AppWindows::openWelcome);
     connect(m_main, &ContentView::quitRequested, this, &AppWindows::quitRequested);

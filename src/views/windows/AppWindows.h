@@ -35,7 +35,6 @@ public:
     void open(WindowId id);
     /// Opens the window that saves a record, for these days at first.
     void openRecord(const DaySpan& span);
-
     /// Opens the settings where the usual week is chosen.
     void openUsualWeek();
     /// Starts the first run, over the main window.

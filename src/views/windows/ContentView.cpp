@@ -124,7 +124,6 @@ QWidget* ContentView::makeToolbar()
     connect(toolbar, &Toolbar::windowRequested, this, &ContentView::windowRequested);
     connect(toolbar, &Toolbar::undoRequested, m_undoLine, &UndoLine::undo);
     connect(toolbar, &Toolbar::redoRequested, m_undoLine, &UndoLine::redo);
-    connect(toolbar, &Toolbar::menuOpening, this, [this](QMenu& menu) { page().addEntries(menu); });
     connect(toolbar, &Toolbar::quitRequested, this, &ContentView::quitRequested);
     connect(toolbar, &Toolbar::menuOpening, this, [this](QMenu& menu) { page().addEntries(menu); });
     return toolbar;
@@ -212,22 +211,23 @@ template <class Calendar> QWidget* ContentView::makePage()
 {
     auto* calendar = new Calendar(m_parts.calendar());
     connect(calendar, &GridPage::detailsRequested, this, &ContentView::openDetails);
-    connect(calendar, &GridPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
-    connect(calendar, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
-
-    connect(calendar, &CalendarPage::detailsRequested, this, &ContentView::openDetails);
-    connect(calendar, &CalendarPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
-    connect(calendar, &CalendarPage::messageRequested, m_undoLine, &UndoLine::showMessage);
-    connect(calendar, &CalendarPage::usualWeekRequested, this, &ContentView::usualWeekRequested);
-    return new Page(calendar);
+    connect(calendar, &GridPage::messageRequested, m_undoLine, &UndoLine::showMessage);
+    connect(calendar, &GridPage::usualWeekRequested, this, &ContentView::usualWeekRequested);
+    return addPage(calendar);
 }
 
 QWidget* ContentView::makeYearPage()
 {
     auto* year = new YearView(m_parts.calendar());
     connect(year, &YearView::monthOpened, this, &ContentView::openMonth);
-    connect(year, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
-    return new Page(year);
+    return addPage(year);
+}
+
+QWidget* ContentView::addPage(CalendarPage* page)
+{
+    connect(page, &CalendarPage::popoverRequested, this, [this](Popover* popover) { popUp(*popover); });
+    connect(page, &CalendarPage::recordRequested, this, &ContentView::recordRequested);
+    return new Page(page);
 }
 
 void ContentView::openMonth(const YearMonth& month, Qt::FocusReason reason)

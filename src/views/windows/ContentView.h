@@ -77,6 +77,7 @@ private:
     [[nodiscard]] CalendarPage& page() const;
     template <class Calendar> [[nodiscard]] QWidget* makePage();
     [[nodiscard]] QWidget* makeYearPage();
+    [[nodiscard]] QWidget* addPage(CalendarPage* page);
     void openMonth(const YearMonth& month, Qt::FocusReason reason);
     void openDetails(const std::shared_ptr<Month>& month, qsizetype index, QWidget* cell);
     void popUp(Popover& popover);

@@ -70,6 +70,7 @@ YearView::YearView(const CalendarParts& parts, QWidget* parent)
     , m_figures(new YearFigures)
     , m_rules(new RuleLines(parts, RuleLines::Place::Year, parts.viewSettings.showQuarterStats))
 {
+    connect(m_rules, &RuleLines::popoverRequested, this, &YearView::popoverRequested);
     addMonths();
     addFigures();
     followChanges();
