@@ -582,6 +582,10 @@
         <source>Restored: %1</source>
         <translation>Wiederhergestellt: %1</translation>
     </message>
+    <message>
+        <source>Plan changed: %1</source>
+        <translation>Plan geändert: %1</translation>
+    </message>
 </context>
 <context>
     <name>CheckOutcome</name>
@@ -616,6 +620,17 @@
     <message>
         <source>No office network is set.</source>
         <translation>Es ist kein Büronetzwerk eingetragen.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -800,6 +815,29 @@
     </message>
 </context>
 <context>
+    <name>DayCommands</name>
+    <message>
+        <source>“%1” is not a date. Write it as in 2026-11-20.</source>
+        <translation>„%1“ ist kein Datum. Schreiben Sie es wie in 2026-11-20.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a state. The states are: %2.</source>
+        <translation>„%1“ ist kein Status. Möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to take back.</source>
+        <translation>Es gibt nichts, was rückgängig gemacht werden kann.</translation>
+    </message>
+    <message>
+        <source>The change could not be saved. %1</source>
+        <translation>Die Änderung konnte nicht gespeichert werden. %1</translation>
+    </message>
+    <message>
+        <source>Pellory is starting.</source>
+        <translation>Pellory startet gerade.</translation>
+    </message>
+</context>
+<context>
     <name>DayDetails</name>
     <message>
         <source>The note of this day cannot be read.</source>
@@ -872,12 +910,12 @@
         <translation>Aus einer Sicherung wiederhergestellt</translation>
     </message>
     <message>
-        <source>By a pattern</source>
-        <translation>Nach einem Muster</translation>
-    </message>
-    <message>
         <source>Imported</source>
         <translation>Importiert</translation>
+    </message>
+    <message>
+        <source>By a plan</source>
+        <translation>Durch einen Plan</translation>
     </message>
 </context>
 <context>
@@ -1386,6 +1424,29 @@
         <source>%1: %2. %3.</source>
         <comment>period, days, what is left</comment>
         <translation>%1: %2. %3.</translation>
+    </message>
+</context>
+<context>
+    <name>GridPage</name>
+    <message>
+        <source>Plan Usual Week…</source>
+        <translation>Übliche Woche planen…</translation>
+    </message>
+    <message>
+        <source>Plan Usual Week</source>
+        <translation>Übliche Woche planen</translation>
+    </message>
+    <message>
+        <source>None of your usual days is left to plan in this quarter</source>
+        <translation>In diesem Quartal ist keiner Ihrer üblichen Tage mehr zu planen</translation>
+    </message>
+    <message>
+        <source>None of your usual days is left to plan in this month</source>
+        <translation>In diesem Monat ist keiner Ihrer üblichen Tage mehr zu planen</translation>
+    </message>
+    <message>
+        <source>Nothing was planned, because the data file cannot be read</source>
+        <translation>Nichts wurde geplant, weil die Datendatei nicht gelesen werden kann</translation>
     </message>
 </context>
 <context>
@@ -1964,6 +2025,112 @@
     <message>
         <source>This does not mean that your data is damaged. Choose Cancel to keep it.</source>
         <translation>Das bedeutet nicht, dass Ihre Daten beschädigt sind. Mit „Abbrechen“ behalten Sie sie.</translation>
+    </message>
+</context>
+<context>
+    <name>PlanGrid</name>
+    <message>
+        <source>%1 free</source>
+        <comment>days of a week</comment>
+        <translation>%1 frei</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <extracomment>The number of days in a week that can still be planned, as the head of a narrow column.</extracomment>
+        <translation>Frei</translation>
+    </message>
+</context>
+<context>
+    <name>PlanPopover</name>
+    <message>
+        <source>Nothing was planned, because the data file cannot be read. Try again, or restart Pellory.</source>
+        <translation>Nichts wurde geplant, weil die Datendatei nicht gelesen werden kann. Versuchen Sie es noch einmal, oder starten Sie Pellory neu.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>A date, in the format of QLocale::toString(). Put words in single quotes: &apos;the&apos; d.</extracomment>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>Ended on %1</source>
+        <translation>Endete am %1</translation>
+    </message>
+    <message>
+        <source>Plan until %1</source>
+        <translation>Plan bis %1</translation>
+    </message>
+    <message>
+        <source>Fill with My Usual Days</source>
+        <translation>Mit meinen üblichen Tagen füllen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+</context>
+<context>
+    <name>PlanTexts</name>
+    <message>
+        <source>**1** day more is planned than allowed</source>
+        <translation>**1** Tag mehr geplant als erlaubt</translation>
+    </message>
+    <message>
+        <source>**%1** days more are planned than allowed</source>
+        <translation>**%1** Tage mehr geplant als erlaubt</translation>
+    </message>
+    <message>
+        <source>**1** more day is allowed beside the planned ones</source>
+        <translation>Neben den geplanten ist noch **1** Tag erlaubt</translation>
+    </message>
+    <message>
+        <source>**%1** more days are allowed beside the planned ones</source>
+        <translation>Neben den geplanten sind noch **%1** Tage erlaubt</translation>
+    </message>
+    <message>
+        <source>No workday is left to plan</source>
+        <translation>Kein Arbeitstag ist mehr zu planen</translation>
+    </message>
+    <message>
+        <source>Even with the last workday it is **%1** short</source>
+        <translation>Auch mit dem letzten Arbeitstag fehlen noch **%1**</translation>
+    </message>
+    <message>
+        <source>Even with all **%1** workdays left it is **%2** short</source>
+        <translation>Auch mit allen **%1** übrigen Arbeitstagen fehlen noch **%2**</translation>
+    </message>
+    <message>
+        <source>The **1** free workday left is needed</source>
+        <translation>Der **1** freie Arbeitstag, der bleibt, wird gebraucht</translation>
+    </message>
+    <message>
+        <source>**%1** of the **%2** free workdays left</source>
+        <translation>Noch **%1** der **%2** freien Arbeitstage</translation>
+    </message>
+    <message>
+        <source>**%1** of the **%2** free workdays left: less than one a week</source>
+        <extracomment>Of a few days in many weeks.</extracomment>
+        <translation>Noch **%1** der **%2** freien Arbeitstage: weniger als einer pro Woche</translation>
+    </message>
+    <message>
+        <source>**%1** of the **%2** free workdays left: about **%3** a week</source>
+        <extracomment>&quot;4 of the 9 free workdays left: about 2 a week&quot;</extracomment>
+        <translation>Noch **%1** der **%2** freien Arbeitstage: etwa **%3** pro Woche</translation>
+    </message>
+    <message>
+        <source>The planned days are enough</source>
+        <translation>Die geplanten Tage reichen</translation>
+    </message>
+    <message>
+        <source>No more days are needed</source>
+        <translation>Weitere Tage sind nicht nötig</translation>
+    </message>
+    <message>
+        <source>**1** day more is planned than needed</source>
+        <translation>**1** Tag mehr geplant als nötig</translation>
+    </message>
+    <message>
+        <source>**%1** days more are planned than needed</source>
+        <translation>**%1** Tage mehr geplant als nötig</translation>
     </message>
 </context>
 <context>
@@ -3663,6 +3830,13 @@
     </message>
 </context>
 <context>
+    <name>RunningProgram</name>
+    <message>
+        <source>Pellory is running, but does not answer: %1</source>
+        <translation>Pellory läuft, antwortet aber nicht: %1</translation>
+    </message>
+</context>
+<context>
     <name>SaveAlert</name>
     <message>
         <source>Try Again</source>
@@ -3703,6 +3877,26 @@
     <message>
         <source>If you use the file on disk, your last changes are lost.</source>
         <translation>Wird die Datei verwendet, gehen die letzten Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptService</name>
+    <message>
+        <source>Automatic tracking is off, or set-up is not finished.</source>
+        <translation>Die automatische Erfassung ist aus, oder die Einrichtung ist nicht abgeschlossen.</translation>
+    </message>
+</context>
+<context>
+    <name>SearchProvider</name>
+    <message>
+        <source>office attendance days needed workdays goals today quarter month</source>
+        <extracomment>Words under which a search of the desktop finds the program, with spaces between them.</extracomment>
+        <translation>Büro Anwesenheit Tage nötig fehlen Arbeitstage Ziele heute Quartal Monat</translation>
+    </message>
+    <message>
+        <source>Today: %1</source>
+        <comment>a state</comment>
+        <translation>Heute: %1</translation>
     </message>
 </context>
 <context>
@@ -4046,6 +4240,40 @@
     </message>
 </context>
 <context>
+    <name>StoredData</name>
+    <message>
+        <source>There is no data yet: %1 does not exist.</source>
+        <translation>Es gibt noch keine Daten: %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 is missing, but there are backups of it. Start Pellory to restore one.</source>
+        <translation>%1 fehlt, aber es gibt Sicherungen davon. Starten Sie Pellory, um eine wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>The folder of %1 cannot be created: %2</source>
+        <translation>Der Ordner von %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>Another Pellory is using your data, perhaps in another session, and cannot be reached from here. Quit it first, or use its window.</source>
+        <translation>Ein anderes Pellory benutzt Ihre Daten, vielleicht in einer anderen Sitzung, und ist von hier aus nicht erreichbar. Beenden Sie es vorher, oder benutzen Sie dessen Fenster.</translation>
+    </message>
+    <message>
+        <source>The data file is from an earlier version of Pellory. Start Pellory once to convert it.</source>
+        <translation>Die Datei mit den Daten stammt von einer früheren Version von Pellory. Starten Sie Pellory einmal, um sie umzuwandeln.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2</source>
+        <translation>%1 kann nicht benutzt werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TodayEntries</name>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+</context>
+<context>
     <name>Toolbar</name>
     <message>
         <source>Calendar View Settings</source>
@@ -4187,6 +4415,29 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>UsualWeekCard</name>
+    <message>
+        <source>Usual Week</source>
+        <translation>Übliche Woche</translation>
+    </message>
+    <message>
+        <source>&quot;Plan Usual Week&quot; in the menu of the main window plans these days of the month or quarter that it shows: from today on, workdays that are not marked yet.</source>
+        <translation>„Übliche Woche planen“ im Menü des Hauptfensters plant diese Tage des gezeigten Monats oder Quartals: von heute an die Arbeitstage, die noch nicht markiert sind.</translation>
+    </message>
+    <message>
+        <source>Plan new months like this</source>
+        <translation>Neue Monate so planen</translation>
+    </message>
+    <message>
+        <source>A month is planned once, when it is shown or checked for the first time. Months that were there before are left as they are.</source>
+        <translation>Ein Monat wird einmal geplant, wenn er zum ersten Mal gezeigt oder geprüft wird. Monate, die es schon gibt, bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>I usually come on</source>
+        <translation>Ich komme meist am</translation>
     </message>
 </context>
 <context>
@@ -4482,6 +4733,42 @@
     <message>
         <source>A calendar of your days in the office that marks them by the Wi-Fi networks in range.</source>
         <translation>Ein Kalender Ihrer Bürotage, der sie an den WLANs in Reichweite erkennt.</translation>
+    </message>
+    <message>
+        <source>Print today&apos;s state and the figures of month and quarter.</source>
+        <translation>Den Status von heute und die Zahlen von Monat und Quartal ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the status as JSON.</source>
+        <translation>Den Stand als JSON ausgeben.</translation>
+    </message>
+    <message>
+        <source>Mark a day, such as 2026-11-20=IN_OFFICE. Can be repeated.</source>
+        <translation>Einen Tag eintragen, zum Beispiel 2026-11-20=IN_OFFICE. Kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Take back the last change.</source>
+        <translation>Die letzte Änderung rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Write all days to a file as CSV; - is standard output.</source>
+        <translation>Alle Tage als CSV in eine Datei schreiben; - steht für die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Make a backup and print its name.</source>
+        <translation>Eine Sicherung anlegen und ihren Namen ausgeben.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Unerwartetes Argument: %1</translation>
+    </message>
+    <message>
+        <source>These options cannot be used together.</source>
+        <translation>Diese Optionen lassen sich nicht zusammen verwenden.</translation>
+    </message>
+    <message>
+        <source>Write a day to mark as in --mark 2026-11-20=IN_OFFICE.</source>
+        <translation>Schreiben Sie einen Tag wie in --mark 2026-11-20=IN_OFFICE.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 #include "BackupAlert.h"
 #include "Button.h"
 #include "ContentView.h"
+#include "DayNote.h"
 #include "LostDataAlert.h"
 #include "LostStore.h"
 #include "SettingsView.h"
@@ -106,7 +107,7 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
 {
     set(october, DayState::IN_OFFICE);
     open();
-    const QString path = folder.filePath(u"days.csv"_s);
+    const QString listPath = folder.filePath(u"days.csv"_s);
     const auto choose = [&](const char* button, const char* dialogName, const QString& file) {
         click(named<Button>(view, button));
         auto& dialog = named<QFileDialog>(view, dialogName);
@@ -114,7 +115,7 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
         dialog.close();
         QCoreApplication::sendPostedEvents(&dialog, QEvent::DeferredDelete);
     };
-    choose("exportDays", "exportFile", path);
+    choose("exportDays", "exportFile", listPath);
     EXPECT_TRUE(waitFor(u"1 day written to days.csv."_s));
     choose("exportCalendar", "exportFile", folder.path());
     EXPECT_TRUE(waitFor(u"Nothing was exported. The file cannot be written"_s));
@@ -122,8 +123,9 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     EXPECT_TRUE(waitFor(u"Nothing was imported. The file cannot be read: it is a folder or a device."_s));
     EXPECT_EQ(view.focusWidget(), &named<Button>(view, "importDays"));
 
-    std::ofstream(path.toStdString()) << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";
-    choose("importDays", "importFile", path);
+    std::ofstream(listPath.toStdString())
+        << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";
+    choose("importDays", "importFile", listPath);
     EXPECT_TRUE(waitFor(u"Days that are marked otherwise here stay as they are"_s));
     EXPECT_EQ(named<QTextEdit>(view, "problems").toPlainText(),
               u"Line 4 is left out: \"X\" is not a date such as 2026-11-20."_s);
