@@ -205,8 +205,10 @@ class DesktopTest(unittest.TestCase):
         key("Tab", "n", "Escape")
         self.hear("Unknown, has a note")
         quarter = next(node for node in self.shown() if node.name.startswith("Progress of the quarter: 0 days"))
-        self.press(quarter.name, "Tracking Off", then="Last check")
-        self.hear(quarter.name, "Tracking Off Wi-Fi: ")
+        self.press(quarter.name, then=lambda: self.hear("Plan until "))
+        key("Escape")
+        self.press("Tracking Off", then="Last check")
+        self.hear("Tracking Off Wi-Fi: ")
         key("Escape")
         self.assertEqual([text for text in self.spoken if ": Vacation Day" in text], [])  # which the day has said
         key("ctrl+z")

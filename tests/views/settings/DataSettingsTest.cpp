@@ -109,7 +109,7 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     open();
     const QString listPath = folder.filePath(u"days.csv"_s);
     const auto choose = [&](const char* button, const char* dialogName, const QString& file) {
-        click(named<Button>(view, button));
+        named<Button>(view, button).click(); // wherever it has been scrolled
         auto& dialog = named<QFileDialog>(view, dialogName);
         Q_EMIT dialog.fileSelected(file);
         dialog.close();
