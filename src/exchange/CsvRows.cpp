@@ -83,13 +83,13 @@ CsvRow CsvRows::takeRow()
 QString CsvRows::takeCell(CsvRow& row)
 {
     if (isAtEnd() || m_text.at(m_place) != '"') {
-        const QString cell = takePlainCell();
+        QString cell = takePlainCell();
         if (cell.contains(u'"'))
             refuseRow(row, FileError::tr("there is a quotation mark within a cell that does not begin with one"));
         return cell;
     }
     ++m_place;
-    const QString cell = takeQuotedCell(row);
+    QString cell = takeQuotedCell(row);
     if (!takePlainCell().isEmpty())
         refuseRow(row, FileError::tr("there is text after a closing quotation mark"));
     return cell;

@@ -79,7 +79,7 @@ QString date(QDate date)
 
 QString period(DaySpan span)
 {
-    const QString year = QString::number(span.first.year());
+    QString year = QString::number(span.first.year());
     if (isWholeMonths(span, 1))
         return RecordTexts::tr("%1 %2", "month, year").arg(QLocale().standaloneMonthName(span.first.month()), year);
     if (isWholeMonths(span, 3))

@@ -45,7 +45,8 @@ std::array<QString, GridOrder::columns> weekdayLetters(Qt::DayOfWeek weekStart)
         HeaderTexts::tr("T", "Thursday"), HeaderTexts::tr("F", "Friday"),  HeaderTexts::tr("S", "Saturday"),
         HeaderTexts::tr("S", "Sunday"),
     };
-    std::ranges::rotate(letters, letters.begin() + weekStart - Qt::Monday);
+    // Not that of std::ranges, which clang 14 cannot compile.
+    std::rotate(letters.begin(), letters.begin() + weekStart - Qt::Monday, letters.end());
     return letters;
 }
 
