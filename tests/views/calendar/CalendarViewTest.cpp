@@ -4,6 +4,7 @@
 #include "WeekLabel.h"
 
 #include <QAccessible>
+#include <QMenu>
 
 TEST_F(CalendarViewTest, showsTheDaysOfTheMonthUnderTheirWeekdaysAndNothingElse)
 {
@@ -95,6 +96,7 @@ TEST_F(CalendarViewTest, weeksCountTheirOfficeDaysWithThoseOfTheNeighbouringMont
     viewSettings.firstDayOfWeek = Qt::Monday;
     EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 0 48: 0 49: 0"_s);
     setState({2026, 12, 6}, DayState::IN_OFFICE);
+    EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 0 48: 0 49: 1"_s);
     setState({2026, 10, 25}, DayState::IN_OFFICE);
     click(dayButton(view, friday));
     EXPECT_EQ(weeks(), u"44: 1 45: 0 46: 0 47: 1 48: 0 49: 1"_s);
@@ -104,6 +106,15 @@ TEST_F(CalendarViewTest, weeksCountTheirOfficeDaysWithThoseOfTheNeighbouringMont
     rule.amount = 100;
     rule.unit = AttendanceRule::Unit::Days;
     rule.span = AttendanceRule::Span::Week;
+    AttendanceRule other = rule; // which weeks do not show
+    other.bound = AttendanceRule::Bound::AtMost;
+    EXPECT_TRUE(counting.addRule(other));
+    other.bound = AttendanceRule::Bound::AtLeast;
+    other.subject = AttendanceRule::Subject::OutOfOffice;
+    EXPECT_TRUE(counting.addRule(other));
+    other.subject = AttendanceRule::Subject::InOffice;
+    other.until = QDate(2026, 10, 1);
+    EXPECT_TRUE(counting.addRule(other));
     rule.from = QDate(2026, 11, 16);
     rule.until = QDate(2026, 11, 29);
     EXPECT_TRUE(counting.addRule(rule));
@@ -144,6 +155,21 @@ TEST_F(CalendarViewTest, theMenuSaysWhyOneIsOutOfOfficeAndThatADayIsNoWorkday)
         EXPECT_TRUE(shownTexts(view).contains(u"%1 workdays"_s.arg(workdays))) << qPrintable(spoken);
         EXPECT_TRUE(dayOnDisk(friday).isWorkday);
     }
+    const auto entries = [&](int day) {
+        view.focusDay(day);
+        press(view, Key_F10, Qt::ShiftModifier);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        const auto count = menu->actions().size();
+        menu->close();
+        return count;
+    };
+    EXPECT_LT(entries(21), entries(friday)) << "a Saturday is no workday anyway";
+    EXPECT_TRUE(counting.addDaysOff({{{2026, 11, friday}}}));
+    EXPECT_EQ(dayButton(view, friday).accessibleName(), u"Friday 20 November 2026, Unknown, Day Off"_s);
+    EXPECT_TRUE(counting.removeDaysOff({{2026, 11, friday}}));
+    view.setMonth(std::make_shared<Month>(2026, 11)); // a sample
+    EXPECT_EQ(entries(friday), std::ssize(allDayStates));
+    view.setMonth(november);
     counting.setWorkWeek({{2026, 11, 1}, Weekdays(0b1000001)}); // Sunday and Monday
     EXPECT_EQ(painted(dayButton(view, friday), 4), theme.nonWorkday);
     EXPECT_EQ(painted(dayButton(view, 22), 4), theme.unknown);
