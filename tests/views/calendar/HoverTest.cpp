@@ -53,7 +53,10 @@ TEST_F(HoverTest, theStateFadesInAboveTheNeighboursAndGoes)
 TEST_F(HoverTest, aDayOffAndAKindOfAbsenceAreNamedAsFarAsThereIsRoom)
 {
     marker.markAbsence(*november, friday - 1, AbsenceKind::sick);
-    counting.addDaysOff({{{2026, 11, friday}, u"Harvest"_s}, {{2026, 11, saturday}, QString(200, u'x')}});
+    counting.addDaysOff(
+        {{{2026, 11, friday}, u"Harvest"_s}, {{2026, 11, saturday}, QString(200, u'x')}, {{2026, 11, 6}}});
+    rest(6);
+    EXPECT_EQ(labels().last()->text(), u"Unknown · Day Off"_s);
     rest(friday);
     EXPECT_EQ(labels().last()->text(), u"Out of Office (Sick) · Harvest"_s);
     rest(saturday);
