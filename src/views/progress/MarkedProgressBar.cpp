@@ -218,11 +218,13 @@ void MarkedProgressBar::paintBar(QPainter& painter, const ProgressBarGeometry& g
     const qreal radius = barRadius * m_contents.barHeight;
     QPainterPath outline;
     outline.addRoundedRect(geometry.bar, radius, radius);
-    // However short, a fill is clipped by the left end of the bar and has a round right end.
+    // However short, a fill is clipped by the left end of the bar and has a round right end. Only what is shorter than
+    // its two round ends is clipped, because that takes longer than all else.
     const auto fill = [&](const QRectF& rect, const QColor& color) {
+        const bool isShort = rect.width() < 2 * radius;
         QPainterPath part;
-        part.addRoundedRect(rect.adjusted(-2 * radius, 0, 0, 0), radius, radius);
-        painter.fillPath(part.intersected(outline), color);
+        part.addRoundedRect(isShort ? rect.adjusted(-2 * radius, 0, 0, 0) : rect, radius, radius);
+        painter.fillPath(isShort ? part.intersected(outline) : part, color);
     };
     painter.fillPath(outline, m_contents.backgroundColor);
     if (m_contents.progressPrediction > m_contents.progress)

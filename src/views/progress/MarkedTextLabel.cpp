@@ -86,8 +86,9 @@ QSize MarkedTextLabel::minimumSizeHint() const
 
 void MarkedTextLabel::changeEvent(QEvent* event)
 {
-    // The layout depends on font, direction and palette.
-    layOut();
+    const auto type = event->type();
+    if (type == QEvent::FontChange || type == QEvent::LayoutDirectionChange || type == QEvent::PaletteChange)
+        layOut();
     QLabel::changeEvent(event);
 }
 
