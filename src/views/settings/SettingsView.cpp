@@ -42,22 +42,21 @@ protected:
 
 } // namespace
 
-SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager,
-                           InOfficeCheck& check, LaunchAtLogin& launchAtLogin, BackupService& backups,
-                           ModelContext& context, CountingRecords& counting, Clock& clock,
-                           const ViewSettings& viewSettings, QWidget* parent)
+SettingsView::SettingsView(const SettingsParts& parts, QWidget* parent)
     : QWidget(parent)
+    , m_parts(parts)
     , m_tabs(new SideTabs)
     , m_pages(new LazyStack({
-          [&settings, &counting, &context, &clock, &viewSettings] {
-              return new GoalsPage(settings, counting, context, clock, viewSettings);
+          [parts] {
+              return new GoalsPage(parts.settings, parts.counting, parts.context, parts.clock, parts.viewSettings);
           },
-          [&counting, &clock] { return new CountingPage(counting, clock); },
-          [&settings, &wifiClient, &locationManager, &check] {
-              return makeCardPage(new SsidSettingsView(settings, wifiClient, locationManager, check, true));
+          [parts] { return new CountingPage(parts.counting, parts.clock); },
+          [parts] {
+              return makeCardPage(
+                  new SsidSettingsView(parts.settings, parts.wifiClient, parts.locationManager, parts.check, true));
           },
-          [this, &settings, &launchAtLogin] { return makeGeneralPage(settings, launchAtLogin); },
-          [&backups, &context, &counting, &clock] { return new DataPage(backups, context, counting, clock); },
+          [this] { return makeGeneralPage(); },
+          [parts] { return new DataPage(parts.backups, parts.context, parts.counting, parts.clock); },
       }))
 {
     auto* row = new QHBoxLayout(this);
@@ -66,7 +65,7 @@ SettingsView::SettingsView(AppSettings& settings, WiFiClient& wifiClient, Locati
     row->addWidget(makeSide());
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
-    addLocationLine(*column, locationManager);
+    addLocationLine(*column);
     column->addWidget(m_pages);
     row->addLayout(column, 1);
     addShortcuts();
@@ -134,8 +133,9 @@ void SettingsView::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
 }
 
-void SettingsView::addLocationLine(QVBoxLayout& column, LocationManager& manager)
+void SettingsView::addLocationLine(QVBoxLayout& column)
 {
+    LocationManager& manager = m_parts.locationManager;
     auto* line = new LinkLabel;
     line->setWordWrap(true);
     line->setFont(fonts::body(line->font()));
@@ -151,9 +151,9 @@ void SettingsView::addLocationLine(QVBoxLayout& column, LocationManager& manager
            [line, &manager] { line->setVisible(!isAccessGranted(manager.locationPermissionStatus)); });
 }
 
-QWidget* SettingsView::makeGeneralPage(AppSettings& settings, LaunchAtLogin& launchAtLogin)
+QWidget* SettingsView::makeGeneralPage()
 {
-    auto* general = new GeneralSettingsView(settings, launchAtLogin, false);
+    auto* general = new GeneralSettingsView(m_parts.settings, m_parts.launchAtLogin, false);
     connect(general, &GeneralSettingsView::welcomeRequested, this, &SettingsView::welcomeRequested);
     return makeCardPage(general);
 }

@@ -17,14 +17,26 @@ class SideTabs;
 class ViewSettings;
 class WiFiClient;
 
+/// What the pages of the settings show and change.
+struct SettingsParts {
+    AppSettings& settings;
+    WiFiClient& wifiClient;
+    LocationManager& locationManager;
+    InOfficeCheck& check;
+    LaunchAtLogin& launchAtLogin;
+    BackupService& backups;
+    ModelContext& context;
+    CountingRecords& counting;
+    Clock& clock;
+    const ViewSettings& viewSettings;
+};
+
 /// The settings: a list of pages at the side, of which one is shown.
 class SettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    SettingsView(AppSettings& settings, WiFiClient& wifiClient, LocationManager& locationManager, InOfficeCheck& check,
-                 LaunchAtLogin& launchAtLogin, BackupService& backups, ModelContext& context, CountingRecords& counting,
-                 Clock& clock, const ViewSettings& viewSettings, QWidget* parent = nullptr);
+    explicit SettingsView(const SettingsParts& parts, QWidget* parent = nullptr);
 
     /// Turns to the page "Counting", where the usual week is chosen.
     void showUsualWeek();
@@ -41,9 +53,10 @@ private:
     void addShortcuts();
     void showPage(int index);
     void arrange();
-    void addLocationLine(QVBoxLayout& column, LocationManager& manager);
-    [[nodiscard]] QWidget* makeGeneralPage(AppSettings& settings, LaunchAtLogin& launchAtLogin);
+    void addLocationLine(QVBoxLayout& column);
+    [[nodiscard]] QWidget* makeGeneralPage();
 
+    const SettingsParts m_parts;
     SideTabs* m_tabs;
     LazyStack* m_pages;
 };

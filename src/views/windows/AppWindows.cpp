@@ -261,9 +261,9 @@ QWidget* AppWindows::makeWindow(WindowId id)
 
 QWidget* AppWindows::makeSettings()
 {
-    auto* window = new SettingsView(m_parts.settings, m_parts.wifiClient, m_parts.locationManager.defaultValue(),
-                                    m_parts.check, m_parts.launchAtLogin, m_parts.backups, m_parts.context,
-                                    m_parts.counting, m_parts.clock, m_parts.viewSettings);
+    auto* window = new SettingsView({m_parts.settings, m_parts.wifiClient, m_parts.locationManager.defaultValue(),
+                                     m_parts.check, m_parts.launchAtLogin, m_parts.backups, m_parts.context,
+                                     m_parts.counting, m_parts.clock, m_parts.viewSettings});
     prepare(*window, u"settings"_s, tr("Settings"), grown(firstSettingsSize, window->font()));
     connect(window, &SettingsView::welcomeRequested, this, [this, window] {
         openWelcome();

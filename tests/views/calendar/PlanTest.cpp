@@ -102,8 +102,8 @@ TEST_F(PlanTest, usualWeekIsChosenInTheSettingsAndPlannedFromTheMenu)
     const QSignalSpy wanted(window.get(), &ContentView::usualWeekRequested);
     choose(u"Plan Usual Week…"_s);
     EXPECT_EQ(wanted.size(), 1);
-    SettingsView view(*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
-                      counting, clock, viewSettings);
+    SettingsView view({*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
+                       counting, clock, viewSettings});
     show(view);
     view.showUsualWeek();
     auto& plansNewMonths = named<Switch>(view, "plansNewMonths");

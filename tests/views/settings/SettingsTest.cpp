@@ -45,9 +45,8 @@ protected:
     }
     [[nodiscard]] QStringList networks() const { return settings->inOfficeSsids.value(); }
 
-    SettingsView view{
-        *settings, wifiClient,  locationManager.defaultValue(), check, launchAtLogin, backups, context, counting,
-        clock,     viewSettings};
+    SettingsView view{{*settings, wifiClient, locationManager.defaultValue(), check, launchAtLogin, backups, context,
+                       counting, clock, viewSettings}};
 };
 
 TEST_F(SettingsTest, aGoalIsAddedByReturnAndByTheButton)
