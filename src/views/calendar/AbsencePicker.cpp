@@ -5,8 +5,8 @@
 #include "CountingRecords.h"
 #include "OtherKind.h"
 
-AbsencePicker::AbsencePicker(const CalendarParts& parts, std::optional<DayState> current, QWidget* cell)
-    : StatusPicker(current, cell->parentWidget())
+AbsencePicker::AbsencePicker(const CalendarParts& parts, std::optional<DayState> current, QWidget* cell, ClickKeys keys)
+    : StatusPicker(current, cell->parentWidget(), keys)
     , m_parts(parts)
     , m_cell(cell)
 {

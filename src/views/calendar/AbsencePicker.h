@@ -12,7 +12,8 @@ class AbsencePicker : public StatusPicker {
     Q_OBJECT
 
 public:
-    AbsencePicker(const CalendarParts& parts, std::optional<DayState> current, QWidget* cell);
+    AbsencePicker(const CalendarParts& parts, std::optional<DayState> current, QWidget* cell,
+                  ClickKeys keys = ClickKeys::Shown);
 
 Q_SIGNALS:
     /// Emitted with a new popover, for the window to open in its own way.

@@ -49,7 +49,7 @@ RangeMenu::RangeMenu(const CalendarParts& parts, const SelectedDays& days, const
 
 RangeMenu::RangeMenu(const CalendarParts& parts, const SelectedDays& days, const SetDays& set,
                      const std::optional<DayMark>& current, QWidget* cell)
-    : AbsencePicker(parts, current ? std::optional(current->state) : std::nullopt, cell)
+    : AbsencePicker(parts, current ? std::optional(current->state) : std::nullopt, cell, ClickKeys::Hidden)
 {
     setHeading(days.heading());
     addSeparator();

@@ -32,14 +32,20 @@ QSize keySize(const QFont& font)
     return size;
 }
 
-QSize iconSize(const QFont& font)
+using ClickKeys = StatusPicker::ClickKeys;
+
+constexpr int marksWidth = tickSize.width() + gap + swatchSize.width();
+
+QSize iconSize(const QFont& font, ClickKeys keys)
 {
+    if (keys == ClickKeys::Hidden)
+        return {marksWidth, swatchSize.height()};
     const QSize key = keySize(font);
-    return {tickSize.width() + gap + swatchSize.width() + gap + key.width(), qMax(swatchSize.height(), key.height())};
+    return {marksWidth + gap + key.width(), qMax(swatchSize.height(), key.height())};
 }
 
 // A tick for the current state, the colour and mark of a state, and the modifier key that sets it in one click.
-QPixmap drawIcon(DayState state, bool isCurrent, QIcon::Mode mode, const QWidget& menu)
+QPixmap drawIcon(DayState state, bool isCurrent, ClickKeys keys, QIcon::Mode mode, const QWidget& menu)
 {
     // The entry that is about to be chosen is white on blue in both schemes.
     const bool isActive = mode == QIcon::Active;
@@ -48,7 +54,7 @@ QPixmap drawIcon(DayState state, bool isCurrent, QIcon::Mode mode, const QWidget
     if (isActive)
         theme.outline = Qt::white; // or blue would be on blue
     const QFont font = fonts::caption(menu.font());
-    const QRect whole({}, iconSize(font));
+    const QRect whole({}, iconSize(font, keys));
     QPixmap pixmap(whole.size() * menu.devicePixelRatioF());
     pixmap.setDevicePixelRatio(menu.devicePixelRatioF());
     pixmap.fill(Qt::transparent);
@@ -57,22 +63,22 @@ QPixmap drawIcon(DayState state, bool isCurrent, QIcon::Mode mode, const QWidget
     const auto place = [&](Qt::Alignment side, const QSize& size) {
         return QStyle::alignedRect(menu.layoutDirection(), side | Qt::AlignVCenter, size, whole);
     };
-    const QRect swatch = place(Qt::AlignLeft, {tickSize.width() + gap + swatchSize.width(), swatchSize.height()});
+    const QRect swatch = place(Qt::AlignLeft, {marksWidth, swatchSize.height()});
     painter.setRenderHint(QPainter::Antialiasing);
     if (isCurrent)
         drawSymbol(painter, place(Qt::AlignLeft, tickSize), Symbol::Tick, themeFor(colors).text);
     drawDaySwatch(painter, QStyle::alignedRect(menu.layoutDirection(), Qt::AlignRight, swatchSize, swatch), theme,
                   {1, state, true});
-    if (const QString key = keyName(modifierFor(state)); !key.isEmpty())
+    if (const QString key = keyName(modifierFor(state)); keys == ClickKeys::Shown && !key.isEmpty())
         drawKeyCap(painter, place(Qt::AlignRight, keySize(font)), key, colors);
     return pixmap;
 }
 
-QIcon iconOf(DayState state, bool isCurrent, const QWidget& menu)
+QIcon iconOf(DayState state, bool isCurrent, ClickKeys keys, const QWidget& menu)
 {
     QIcon icon;
     for (const auto mode : {QIcon::Normal, QIcon::Active})
-        icon.addPixmap(drawIcon(state, isCurrent, mode, menu), mode);
+        icon.addPixmap(drawIcon(state, isCurrent, keys, mode, menu), mode);
     return icon;
 }
 
@@ -107,12 +113,13 @@ QAction* addTickedTo(QMenu& menu, const QString& text, bool isTicked, const QSiz
 
 } // namespace
 
-StatusPicker::StatusPicker(std::optional<DayState> current, QWidget* parent)
+StatusPicker::StatusPicker(std::optional<DayState> current, QWidget* parent, ClickKeys keys)
     : QMenu(parent)
     , m_current(current)
+    , m_clickKeys(keys)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    MenuStyle::apply(*this, iconSize(fonts::caption(font())));
+    MenuStyle::apply(*this, iconSize(fonts::caption(font()), keys));
     for (const DayState state : allDayStates)
         addState(state, m_letters.mark(description(state)));
 }
@@ -130,7 +137,7 @@ QAction* StatusPicker::addEntry(const QString& text)
 
 QAction* StatusPicker::addTicked(const QString& text, bool isTicked)
 {
-    return addTickedTo(*this, m_letters.mark(text), isTicked, iconSize(fonts::caption(font())));
+    return addTickedTo(*this, m_letters.mark(text), isTicked, iconSize(fonts::caption(font()), m_clickKeys));
 }
 
 QMenu& StatusPicker::addSubmenu(const QString& text)
@@ -148,7 +155,7 @@ QAction* StatusPicker::addTicked(QMenu& submenu, const QString& text, bool isTic
 void StatusPicker::addState(DayState state, const QString& text)
 {
     const bool isCurrent = state == m_current;
-    QAction* action = addAction(iconOf(state, isCurrent, *this), text);
+    QAction* action = addAction(iconOf(state, isCurrent, m_clickKeys, *this), text);
     m_states.append(action);
     action->setIconVisibleInMenu(true);
     action->setCheckable(true);

@@ -13,8 +13,11 @@ class StatusPicker : public QMenu {
     Q_OBJECT
 
 public:
+    /// Whether the entries show the modifier keys that set a state in one click.
+    enum class ClickKeys { Shown, Hidden };
+
     /// `current`, if there is one, is checked.
-    StatusPicker(std::optional<DayState> current, QWidget* parent);
+    StatusPicker(std::optional<DayState> current, QWidget* parent, ClickKeys keys = ClickKeys::Shown);
 
     /// Adds a line above the states that says what they are for. A screen reader says it as the name of the menu.
     void setHeading(const QString& text);
@@ -43,6 +46,7 @@ private:
     [[nodiscard]] QAction* currentAction() const;
 
     std::optional<DayState> m_current;
+    ClickKeys m_clickKeys;
     QList<QAction*> m_states;
     AccessLetters m_letters;
     /// Where the button was pressed that opened the menu, until it is released.
