@@ -9,6 +9,7 @@
 #include <QBoxLayout>
 #include <QLocale>
 #include <QPainter>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -71,7 +72,8 @@ WeekdayButtons::WeekdayButtons(QWidget* parent)
         auto* button = new WeekdayButton(day);
         m_buttons.at(static_cast<std::size_t>(day - 1)) = button;
         row->addWidget(button);
-        connect(button, &QAbstractButton::clicked, this, &WeekdayButtons::chosen);
+        // Not clicked(), which assistive technology does not emit.
+        connect(button, &QAbstractButton::toggled, this, &WeekdayButtons::chosen);
     }
     row->addStretch();
 }
@@ -86,6 +88,7 @@ Weekdays WeekdayButtons::weekdays() const
 
 void WeekdayButtons::setWeekdays(Weekdays weekdays)
 {
+    const QSignalBlocker blocker(this);
     for (int day = 1; QAbstractButton * button : m_buttons)
         button->setChecked(weekdays.contains(day++));
 }

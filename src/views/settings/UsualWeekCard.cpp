@@ -33,7 +33,7 @@ UsualWeekCard::UsualWeekCard(CountingRecords& counting, QWidget* parent)
     showWeek();
     connect(&counting, &CountingRecords::changed, this, &UsualWeekCard::showWeek);
     connect(m_weekdays, &WeekdayButtons::chosen, this, &UsualWeekCard::set);
-    connect(m_plansNewMonths, &QAbstractButton::clicked, this, &UsualWeekCard::set);
+    connect(m_plansNewMonths, &QAbstractButton::toggled, this, &UsualWeekCard::set);
 }
 
 void UsualWeekCard::takeFocus()
@@ -45,6 +45,7 @@ void UsualWeekCard::showWeek()
 {
     const UsualWeek week = m_counting.usualWeek();
     m_weekdays->setWeekdays(week.weekdays);
+    const QSignalBlocker blocker(m_plansNewMonths);
     m_plansNewMonths->setChecked(week.plansNewMonths);
     m_plansNewMonths->setEnabled(!week.weekdays.isEmpty());
 }
