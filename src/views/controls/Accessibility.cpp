@@ -18,9 +18,17 @@ namespace {
 constexpr const char* roleProperty = "accessibleRole";
 constexpr const char* menuProperty = "accessibleMenu";
 
+QVariant roleOf(const QObject& object)
+{
+    return object.property(roleProperty);
+}
+
 class WidgetInterface : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
+
+    // It may change.
+    [[nodiscard]] QAccessible::Role role() const override { return roleOf(*widget()).value<QAccessible::Role>(); }
 
     // Qt leaves popups out of the windows of the application, so each is a child of the window that it belongs to.
     [[nodiscard]] QAccessibleInterface* parent() const override
@@ -125,7 +133,7 @@ public:
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
-    const QVariant role = object->property(roleProperty);
+    const QVariant role = roleOf(*object);
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     if (dynamic_cast<Notification*>(object) != nullptr)
         return new NotificationInterface(object);

@@ -6,8 +6,8 @@
 #include <functional>
 
 /// Sets the role that assistive technology sees, for widgets whose role Qt cannot know. Must be called first thing on a
-/// new widget, because Qt asks for the role only once. Widgets that draw themselves need an accessible name too. A
-/// window also has its popups among its children.
+/// new widget, because Qt asks only once whether there is one. Widgets that draw themselves need an accessible name
+/// too. A window also has its popups among its children. Later calls change the role.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 /// Like setAccessibleRole(), for a button with a context menu, which assistive technology can then open.

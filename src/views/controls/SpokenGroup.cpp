@@ -46,9 +46,9 @@ void SpokenGroup::setPressable(QWidget* target)
         setHovered(false);
     }
     m_target = target;
+    setAccessibleRole(*this, target == nullptr ? QAccessible::StaticText : QAccessible::PushButton);
     if (target == nullptr)
         return;
-    setAccessibleRole(*this, QAccessible::PushButton);
     target->installEventFilter(this);
     target->setCursor(Qt::PointingHandCursor);
 }
