@@ -146,6 +146,7 @@ void RuleLine::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto); // a name may be in another language
     paintGround(painter);
     paintTexts(painter);
     paintBar(painter);
