@@ -12,6 +12,7 @@ namespace {
 
 constexpr qreal segmentRadius = 7.0;
 constexpr int segmentGap = 3;
+constexpr int leastSide = segmentGap + 5;
 constexpr int usualTabSymbolSize = 16;
 
 QFont selectedFont(const QWidget& tabs)
@@ -48,17 +49,18 @@ SymbolLabel SegmentedTabs::label(int index) const
             fonts::grown(usualTabSymbolSize, font())};
 }
 
-SymbolLabel SegmentedTabs::labelIn(int index, int width) const
+bool SegmentedTabs::hasRoomForSymbols() const
 {
-    SymbolLabel shown = label(index);
-    if (shown.size(QFontMetrics(selectedFont(*this))).width() > width)
-        shown.symbol.reset();
-    return shown;
+    const QFontMetrics metrics(selectedFont(*this));
+    for (int i = 0; i < count(); ++i) {
+        if (label(i).size(metrics).width() + 2 * leastSide > tabRect(i).width())
+            return false;
+    }
+    return true;
 }
 
 QSize SegmentedTabs::minimumTabSizeHint(int index) const
 {
-    constexpr int leastSide = 5;
     const int text = QFontMetrics(selectedFont(*this)).horizontalAdvance(tabText(index));
     return {text + 2 * leastSide, tabSizeHint(index).height()};
 }
@@ -90,6 +92,7 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.trough);
     painter.drawRoundedRect(rect(), segmentRadius + segmentGap, segmentRadius + segmentGap);
+    const bool hasSymbols = hasRoomForSymbols();
     for (int i = 0; i < count(); ++i) {
         const QRectF segment =
             QRectF(tabRect(i)).marginsRemoved(QMarginsF(segmentGap, segmentGap, segmentGap, segmentGap));
@@ -101,7 +104,10 @@ void SegmentedTabs::paintEvent(QPaintEvent* /*event*/)
         }
         painter.setPen(isCurrent ? theme.text : theme.dimText);
         painter.setFont(isCurrent ? selectedFont(*this) : font());
-        labelIn(i, segment.toRect().width()).paint(painter, segment.toRect(), layoutDirection());
+        SymbolLabel shown = label(i);
+        if (!hasSymbols)
+            shown.symbol.reset();
+        shown.paint(painter, segment.toRect(), layoutDirection());
     }
 }
 

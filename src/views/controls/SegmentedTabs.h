@@ -31,8 +31,8 @@ protected:
 
 private:
     [[nodiscard]] SymbolLabel label(int index) const;
-    /// The label without its symbol if that does not fit.
-    [[nodiscard]] SymbolLabel labelIn(int index, int width) const;
+    /// If one does not fit, none is shown.
+    [[nodiscard]] bool hasRoomForSymbols() const;
 
     FocusVisible m_focusVisible;
 };
