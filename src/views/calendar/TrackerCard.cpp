@@ -19,6 +19,7 @@ namespace {
 
 constexpr int spacing = 8;
 constexpr int leastInset = 6;
+constexpr int headerWidth = 398;
 
 } // namespace
 
@@ -80,7 +81,8 @@ void TrackerCard::addHeader(NavigationRow* navigation, QWidget* title)
 {
     auto* header = new QGridLayout;
     // The arrows of the navigation are above the ends of the tracker. Without them a grid has room for its weeks.
-    const int inset = navigation != nullptr ? fonts::grown(36, font()) : leastInset;
+    const int room = (contentWidth(font()) - fonts::grown(headerWidth, font())) / 2;
+    const int inset = navigation != nullptr ? qMax(leastInset, room) : leastInset;
     header->setContentsMargins(inset, SpokenGroup::ringRoom, inset, 0);
     header->setVerticalSpacing(spacing);
     if (navigation != nullptr)
