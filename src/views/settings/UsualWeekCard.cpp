@@ -6,6 +6,7 @@
 #include "Switch.h"
 #include "WeekdayButtons.h"
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,15 @@ UsualWeekCard::UsualWeekCard(CountingRecords& counting, QWidget* parent)
 void UsualWeekCard::takeFocus()
 {
     m_weekdays->findChild<QAbstractButton*>()->setFocus(Qt::TabFocusReason);
+    m_awaitsFocus = !isActiveWindow();
+}
+
+bool UsualWeekCard::event(QEvent* event)
+{
+    // By itself the window would pass on the focus for another reason, which shows no ring.
+    if (event->type() == QEvent::WindowActivate && m_awaitsFocus)
+        takeFocus();
+    return CountingCard::event(event);
 }
 
 void UsualWeekCard::showWeek()

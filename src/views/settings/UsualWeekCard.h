@@ -14,7 +14,11 @@ class UsualWeekCard : public CountingCard {
 public:
     explicit UsualWeekCard(CountingRecords& counting, QWidget* parent = nullptr);
 
+    /// Also once the window becomes active.
     void takeFocus();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void showWeek();
@@ -23,4 +27,5 @@ private:
     CountingRecords& m_counting;
     WeekdayButtons* m_weekdays;
     Switch* m_plansNewMonths;
+    bool m_awaitsFocus = false;
 };
