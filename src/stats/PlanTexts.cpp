@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -29,6 +30,17 @@ MarkedText limitText(const RuleProgress& progress)
         return tooManyText(-allowed);
     return withNumber(PlanTexts::tr("**1** more day is allowed beside the planned ones"),
                       PlanTexts::tr("**%1** more days are allowed beside the planned ones"), allowed);
+}
+
+// Of a rule about days out of office for any reason.
+MarkedText leaveText(const RuleProgress& progress)
+{
+    if (progress.remaining() >= progress.workdaysLeft)
+        return {};
+    if (progress.remaining() == 0)
+        return markedText(PlanTexts::tr("None of the workdays left may be out of office"), {});
+    return markedText(PlanTexts::tr("**%1** of the **%2** workdays left may be out of office"),
+                      {QString::number(progress.remaining()), QString::number(progress.workdaysLeft)});
 }
 
 MarkedText shortText(const RuleProgress& progress)
@@ -62,10 +74,13 @@ MarkedText planText(const AttendanceRule& rule, const RuleProgress& progress, co
 {
     using Verdict = RuleProgress::Verdict;
     const bool isLimit = rule.bound == AttendanceRule::Bound::AtMost;
-    if (progress.span.last < today || rule.subject == AttendanceRule::Subject::OutOfOffice)
+    const bool isAboutLeave = rule.subject == AttendanceRule::Subject::OutOfOffice;
+    if (progress.span.last < today || (isAboutLeave && (!isLimit || rule.absenceKind != AbsenceKind::none)))
+        return {};
+    if (isLimit && progress.verdict == Verdict::Broken)
         return {};
     if (isLimit)
-        return progress.verdict == Verdict::Broken ? MarkedText() : limitText(progress);
+        return isAboutLeave ? leaveText(progress) : limitText(progress);
     if (progress.verdict == Verdict::Broken)
         return shortText(progress);
     if (pace.daysToPlan > 0)
@@ -74,5 +89,6 @@ MarkedText planText(const AttendanceRule& rule, const RuleProgress& progress, co
         return progress.planned > 0 ? markedText(PlanTexts::tr("The planned days are enough"), {})
                                     : markedText(PlanTexts::tr("No more days are needed"), {});
     return withNumber(PlanTexts::tr("**1** day more is planned than needed"),
-                      PlanTexts::tr("**%1** days more are planned than needed"), -pace.daysToPlan);
+                      PlanTexts::tr("**%1** days more are planned than needed"),
+                      std::min(-pace.daysToPlan, progress.planned));
 }

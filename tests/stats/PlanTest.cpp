@@ -40,6 +40,7 @@ TEST(Plan, saysWhatAGoalStillNeedsAsItsTrackerDoes)
         {5, {23, 24, 25, 26, 27}, "**1** day more is planned than needed"},
         {8, {}, "**1** of the **7** free workdays left: about **1** a week"},
         {9, {}, "No more days are needed"},
+        {10, {24}, "**1** day more is planned than needed"},
         {1, {23}, "Even with all **7** workdays left it is **1** short"},
     };
     const auto goal = Goal::create(u"2"_s, {});
@@ -67,6 +68,9 @@ TEST(Plan, saysWhatARuleStillNeedsOrAllows)
     const Rule atMost{.bound = Rule::Bound::AtMost, .amount = 700, .unit = Rule::Unit::Days};
     Rule outside = atMost;
     outside.subject = Rule::Subject::OutOfOffice;
+    Rule abroad = outside;
+    abroad.absenceKind = 1;
+    outside.amount = 500;
     const std::tuple<Rule, QList<int>, QDate, const char*> rows[]{
         {fridays, {}, today, "**1** of the **2** free workdays left: about **1** a week"},
         {fridays, {20}, on(21), "The **1** free workday left is needed"},
@@ -75,7 +79,9 @@ TEST(Plan, saysWhatARuleStillNeedsOrAllows)
         {atMost, {20}, today, "**0** more days are allowed beside the planned ones"},
         {atMost, {}, today, "**1** more day is allowed beside the planned ones"},
         {atMost, {20, 23, 24}, today, "**2** days more are planned than allowed"},
-        {outside, {}, today, ""},
+        {outside, {}, today, "**5** of the **7** workdays left may be out of office"},
+        {outside, {}, on(28), ""},
+        {abroad, {}, today, ""},
     };
     for (const auto& [rule, planned, day, expected] : rows) {
         const CountedDays days = november(6, planned);
