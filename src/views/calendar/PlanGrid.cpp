@@ -17,6 +17,9 @@
 namespace {
 
 constexpr int daysOfRow = 7;
+// Above the faces of the days.
+constexpr int nameInset = 6;
+constexpr int nameGap = 4;
 // Of days that cannot be pressed.
 constexpr qreal closedOpacity = 0.4;
 
@@ -119,7 +122,9 @@ void PlanGrid::build(const QList<Week>& weeks)
     if (weeks.isEmpty())
         return;
     addHeader(weeks.first().cells);
-    for (int row = 1; row <= weeks.size(); ++row) {
+    for (int row = 2; const Week& week : weeks) {
+        if (week.named.isValid())
+            addMonthName(week.named, row - 1, static_cast<int>(week.cells.first().date.daysTo(week.named)));
         for (int column = 0; column < daysOfRow; ++column) {
             auto* day = new PlanDayButton;
             m_days.append(day);
@@ -128,6 +133,7 @@ void PlanGrid::build(const QList<Week>& weeks)
         }
         m_freeDays.append(makeColumnLabel({}));
         m_grid->addWidget(m_freeDays.last(), row, daysOfRow);
+        row += 2; // with one for the name of a month
     }
 }
 
@@ -140,6 +146,15 @@ void PlanGrid::addHeader(const QList<Cell>& cells)
     }
     //: The number of days in a week that can still be planned, as the head of a narrow column.
     m_grid->addWidget(makeColumnLabel(tr("Free")), 0, daysOfRow);
+}
+
+void PlanGrid::addMonthName(QDate date, int row, int column)
+{
+    auto* name = labels::dim(QLocale().standaloneMonthName(date.month()));
+    name->setFont(fonts::caption(font()));
+    name->setWordWrap(false);
+    name->setContentsMargins(nameInset, nameGap, 0, 0);
+    m_grid->addWidget(name, row, column, 1, daysOfRow + 1 - column);
 }
 
 void PlanGrid::chooseTabStop()

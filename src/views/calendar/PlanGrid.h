@@ -31,6 +31,8 @@ public:
         QList<Cell> cells;
         /// At the end of the row.
         qint64 freeDays = 0;
+        /// The day above which the name of its month stands; invalid if none does.
+        QDate named;
     };
 
     explicit PlanGrid(QWidget* parent = nullptr);
@@ -46,6 +48,7 @@ protected:
 private:
     void build(const QList<Week>& weeks);
     void addHeader(const QList<Cell>& cells);
+    void addMonthName(QDate date, int row, int column);
     /// Lets Tab reach one day.
     void chooseTabStop();
     [[nodiscard]] PlanDayButton* nextTo(qsizetype place, qsizetype step) const;

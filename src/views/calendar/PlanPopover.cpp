@@ -9,6 +9,7 @@
 #include "CountingRecords.h"
 #include "DayMarker.h"
 #include "DayTexts.h"
+#include "FocusOrder.h"
 #include "Fonts.h"
 #include "Labels.h"
 #include "MarkedTextLabel.h"
@@ -21,6 +22,7 @@
 #include "StoredDays.h"
 #include "ViewSettings.h"
 
+#include <QHBoxLayout>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QScreen>
@@ -58,19 +60,14 @@ PlanPopover::PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidge
     column().setSpacing(8);
     addTitle();
     column().addWidget(m_lineColumn);
-    // The height is the same whatever the text is, so that the days below stay where they are.
-    m_pace->setObjectName("pace"_L1);
-    m_pace->setFont(fonts::body(font()));
-    m_pace->setFixedWidth(ProgressWidgetView::columnWidth(font()));
-    m_pace->setLineCount(linesOfPace);
-    column().addWidget(m_pace, 0, Qt::AlignHCenter);
+    addPace();
     const bool isToCome = m_subject.span.last >= m_parts.clock.today();
     if (isToCome && m_subject.countsPlanned)
         addGrid();
     column().addWidget(m_problem);
     m_problem->hide();
     refresh();
-    m_pace->setVisible(isToCome && m_subject.countsPlanned);
+    m_pace->setVisible(isToCome && (m_subject.countsPlanned || !m_pace->text().isEmpty()));
     if (m_grid != nullptr)
         limitGrid();
     // After the change is saved.
@@ -88,6 +85,20 @@ void PlanPopover::addTitle()
     title->setContentsMargins(SpokenGroup::ringRoom, 0, SpokenGroup::ringRoom, 0);
     setAccessibleName(title->text());
     column().addWidget(title);
+}
+
+void PlanPopover::addPace()
+{
+    // The height is the same whatever the text is, so that the days below stay where they are.
+    m_pace->setObjectName("pace"_L1);
+    m_pace->setFont(fonts::body(font()));
+    m_pace->setFixedWidth(ProgressWidgetView::columnWidth(font()));
+    m_pace->setLineCount(linesOfPace);
+    auto* belowLines = new QHBoxLayout;
+    belowLines->setContentsMargins(SpokenGroup::ringRoom, 0, SpokenGroup::ringRoom, 0);
+    belowLines->addWidget(m_pace);
+    belowLines->addStretch();
+    column().addLayout(belowLines);
 }
 
 void PlanPopover::addGrid()
@@ -130,6 +141,11 @@ void PlanPopover::limitGrid()
         return;
     m_grid->setContentsMargins(0, 0, roomForScrollBar, 0);
     m_weeks->setFixedHeight(qMax(height, fonts::grown(leastGrid, font())));
+}
+
+bool PlanPopover::focusNextPrevChild(bool next)
+{
+    return moveFocus(*this, next);
 }
 
 CountedDays PlanPopover::daysWith(const TriedStates& tried) const
@@ -180,13 +196,17 @@ void PlanPopover::showLines(const QList<PlanSubject::Line>& lines)
 void PlanPopover::showWeeks(const QList<PlanWeek>& weeks, const CountedDays& days)
 {
     const DayTexts texts(m_parts.counting);
+    const QDate first = weeks.isEmpty() ? QDate() : std::max(weeks.first().days.first, m_subject.span.first);
+    const bool namesMonths = first.month() != m_subject.span.last.month() || first.year() != m_subject.span.last.year();
     QList<PlanGrid::Week> shown;
     for (const PlanWeek& week : weeks) {
-        PlanGrid::Week row{.cells = {}, .freeDays = week.freeDays};
+        PlanGrid::Week row{.cells = {}, .freeDays = week.freeDays, .named = {}};
         for (QDate date = week.days.first; date <= week.days.last; date = date.addDays(1)) {
             const bool isIn = m_subject.span.contains(date);
             const DayState state = isIn ? days.in({date, date}).front().state : DayState::UNKNOWN;
             const Day day{.id = date.day(), .state = state, .isWorkday = isIn && texts.counting().isWorkday(date)};
+            if (namesMonths && isIn && (date.day() == 1 || (shown.isEmpty() && !row.named.isValid())))
+                row.named = date;
             row.cells.append({.date = date,
                               .day = day,
                               .isDayOff = texts.counting().dayOff(date) != nullptr,

@@ -21,8 +21,12 @@ class PlanPopover : public Popover {
 public:
     PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidget* anchor);
 
+protected:
+    bool focusNextPrevChild(bool next) override;
+
 private:
     void addTitle();
+    void addPace();
     void addGrid();
     void addButtons();
     void limitGrid();
