@@ -43,6 +43,37 @@ AttendanceRule startOf(const RulePreset& preset, const QList<AbsenceKind>& kinds
     return rule;
 }
 
+// Whether both ask for the same, whenever they hold.
+bool isSameDemand(AttendanceRule rule, const AttendanceRule& other)
+{
+    rule.id = other.id;
+    rule.name = other.name;
+    rule.anchor = other.anchor;
+    rule.from = other.from;
+    rule.until = other.until;
+    rule.position = other.position;
+    return rule == other;
+}
+
+// The name of a preset that asks for the same, or the summary.
+QString givenName(const AttendanceRule& rule, const QList<AbsenceKind>& kinds)
+{
+    for (const RulePreset& preset : rulePresets()) {
+        const AttendanceRule start = startOf(preset, kinds);
+        const bool lacksKind = !preset.absenceKindName.isEmpty() && start.absenceKind == AbsenceKind::none;
+        if (!lacksKind && isSameDemand(start, rule))
+            return preset.rule.name;
+    }
+    AttendanceRule always = rule;
+    always.from = always.until = std::nullopt;
+    return ruleSummary(always, kinds);
+}
+
+bool hasGivenName(const AttendanceRule& rule, const QList<AbsenceKind>& kinds)
+{
+    return rule.name == givenName(rule, kinds) || rule.name == ruleSummary(rule, kinds);
+}
+
 // As high as so many lines, so that what is below does not move with the text.
 QLabel* withRoom(QLabel* label, int lines)
 {
@@ -61,6 +92,7 @@ RuleEditor::RuleEditor(CountingRecords& counting, const RulePreset& start, QDate
     , m_today(today)
     , m_meaning(std::move(meaning))
     , m_kinds(kindsWith(counting.absenceKinds(), start.absenceKindName))
+    , m_isNameGiven(hasGivenName(m_before, m_kinds))
     , m_form(new RuleForm(m_before, m_kinds, today))
     , m_sentence(withRoom(cutLongWords(labels::text({})), 2))
     , m_now(withRoom(labels::dim({}), 2))
@@ -68,6 +100,7 @@ RuleEditor::RuleEditor(CountingRecords& counting, const RulePreset& start, QDate
 {
     build();
     connect(m_form, &RuleForm::changed, this, &RuleEditor::refresh);
+    connect(m_form, &RuleForm::nameEdited, this, [this] { m_isNameGiven = false; });
     connect(m_form, &RuleForm::accepted, this, &RuleEditor::save);
     refresh();
 }
@@ -150,6 +183,8 @@ void RuleEditor::refresh()
 {
     const QString problem = m_form->problem();
     const AttendanceRule rule = m_form->rule();
+    if (m_isNameGiven && problem.isEmpty())
+        m_form->setName(isSameDemand(rule, m_before) ? m_before.name : givenName(rule, m_kinds));
     const QString summary = ruleSummary(rule, m_kinds);
     m_form->setNamePrompt(problem.isEmpty() ? summary : QString());
     m_problem->setText(problem);

@@ -58,6 +58,8 @@ private:
     const Meaning m_meaning;
     /// Those that can be chosen, with one that is added if the rule is saved.
     QList<AbsenceKind> m_kinds;
+    /// Whether the name follows from the rest, as long as nobody has changed it.
+    bool m_isNameGiven;
     RuleForm* m_form;
     QLabel* m_sentence;
     QLabel* m_now;

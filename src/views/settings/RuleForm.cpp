@@ -97,6 +97,7 @@ RuleForm::RuleForm(const AttendanceRule& rule, const QList<AbsenceKind>& absence
         connect(field, &QLineEdit::textChanged, this, report);
         connect(field, &QLineEdit::returnPressed, this, &RuleForm::accepted);
     }
+    connect(m_name, &QLineEdit::textEdited, this, &RuleForm::nameEdited);
     for (const auto* choice : findChildren<ComboBox*>())
         connect(choice, &QComboBox::currentIndexChanged, this, report);
     connect(m_weekdays, &WeekdayButtons::chosen, this, report);
@@ -242,7 +243,7 @@ int RuleForm::largestAmount() const
 {
     switch (unit()) {
     case Unit::DaysPerWeek:
-        return 7 * hundredths;
+        return 5 * hundredths; // which counts weeks of five workdays
     case Unit::PercentOfWorkdays:
         return 100 * hundredths;
     case Unit::Days:
@@ -270,7 +271,12 @@ std::optional<int> RuleForm::weeks() const
 std::optional<RuleForm::Refusal> RuleForm::refusal() const
 {
     if (!amount()) {
-        return Refusal{m_amount, tr("How many must be a number above 0 and up to %1").arg(amountText(largestAmount()))};
+        const QString range =
+            unit() == Unit::DaysPerWeek
+                ? tr("How many must be a number above 0 and up to %1, because an average counts weeks "
+                     "of %1 workdays")
+                : tr("How many must be a number above 0 and up to %1");
+        return Refusal{m_amount, range.arg(amountText(largestAmount()))};
     }
     if (span() == Span::LastWeeks && !weeks()) {
         return Refusal{m_weeks, tr("Weeks must be a whole number between 1 and %1").arg(AttendanceRule::mostWeeks)};
@@ -313,6 +319,12 @@ void RuleForm::focusName()
 void RuleForm::setNamePrompt(const QString& prompt)
 {
     m_name->setPlaceholderText(prompt);
+}
+
+void RuleForm::setName(const QString& name)
+{
+    if (m_name->text() != name)
+        m_name->setText(name);
 }
 
 AttendanceRule RuleForm::rule() const

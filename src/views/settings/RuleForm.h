@@ -34,9 +34,12 @@ public:
     void focusName();
     /// What is shown in place of the name while that is empty.
     void setNamePrompt(const QString& prompt);
+    void setName(const QString& name);
 
 Q_SIGNALS:
     void changed();
+    /// A person has changed the name.
+    void nameEdited();
     /// Return was pressed in a field.
     void accepted();
 

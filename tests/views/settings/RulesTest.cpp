@@ -66,9 +66,10 @@ TEST_F(RulesTest, whatIsRefusedChangesNothing)
     const QList<Rule> before = rules();
     edit();
     choose("ruleSpan", static_cast<int>(Rule::Span::LastWeeks));
-    const QString number = u"How many must be a number above 0 and up to 7"_s;
+    const QString number =
+        u"How many must be a number above 0 and up to 5, because an average counts weeks of 5 workdays"_s;
     const std::tuple<const char*, QString, QString> rows[]{
-        {"ruleAmount", u"7.5"_s, number},
+        {"ruleAmount", u"5.5"_s, number},
         {"ruleAmount", u"0"_s, number},
         {"ruleAmount", {}, number},
         {"ruleWeeks", u"54"_s, u"Weeks must be a whole number between 1 and 53"_s},
@@ -114,6 +115,23 @@ TEST_F(RulesTest, aChangeHoldsSinceTodayOrAlways)
     EXPECT_EQ(rules().first().until, today.addDays(-1));
     EXPECT_EQ(std::pair(rules().last().amount, rules().last().from), std::pair(250, std::optional(today)));
     EXPECT_TRUE(shownTexts(page).contains(u"At least 4 days a week on average, each month, until 19 November 2026"_s));
+}
+
+TEST_F(RulesTest, aNameThatFollowsFromARuleChangesWithIt)
+{
+    const auto name = [this] { return named<QLineEdit>(page, "ruleName").text(); };
+    startWith(u"12 days a month"_s);
+    type("ruleAmount", u"10"_s);
+    EXPECT_EQ(name(), u"At least 10 days each month"_s);
+    choose("ruleSpan", static_cast<int>(Rule::Span::Quarter));
+    EXPECT_EQ(name(), u"10 days a quarter"_s);
+    click(button("saveRule"));
+    edit();
+    type("ruleAmount", u"11"_s);
+    EXPECT_EQ(name(), u"At least 11 days each quarter"_s);
+    QTest::keyClicks(&named<QLineEdit>(page, "ruleName"), u"!"_s);
+    type("ruleAmount", u"9"_s);
+    EXPECT_EQ(name(), u"At least 11 days each quarter!"_s);
 }
 
 TEST_F(RulesTest, itIsAskedOnlyIfItMakesADifference)
