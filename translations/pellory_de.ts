@@ -2061,7 +2061,7 @@
     </message>
     <message>
         <source>Fill with My Usual Days</source>
-        <translation>Mit meinen üblichen Tagen füllen</translation>
+        <translation>Übliche Tage einplanen</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -2131,6 +2131,14 @@
     <message>
         <source>**%1** days more are planned than needed</source>
         <translation>**%1** Tage mehr geplant als nötig</translation>
+    </message>
+    <message>
+        <source>None of the workdays left may be out of office</source>
+        <translation>Keiner der übrigen Arbeitstage darf außerhalb des Büros sein</translation>
+    </message>
+    <message>
+        <source>**%1** of the **%2** workdays left may be out of office</source>
+        <translation>Außerhalb des Büros erlaubt: **%1** der **%2** übrigen Arbeitstage</translation>
     </message>
 </context>
 <context>
@@ -3471,6 +3479,10 @@
     <message>
         <source>The last day must not be before the first</source>
         <translation>Der letzte Tag darf nicht vor dem ersten liegen</translation>
+    </message>
+    <message>
+        <source>How many must be a number above 0 and up to %1, because an average counts weeks of %1 workdays</source>
+        <translation>Die Anzahl muss eine Zahl über 0 und bis %1 sein, denn ein Durchschnitt zählt Wochen mit %1 Arbeitstagen</translation>
     </message>
 </context>
 <context>
