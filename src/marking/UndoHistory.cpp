@@ -100,13 +100,18 @@ bool UndoHistory::undo()
 
 bool UndoHistory::undo(qint64 group)
 {
-    return logErrors([=, this] {
+    return undo(group, [](QDate) { return true; });
+}
+
+bool UndoHistory::undo(qint64 group, const std::function<bool(QDate)>& isWanted)
+{
+    return logErrors([&, this] {
         UndoStep step{.group = group};
         Reversals reversals;
         QSet<QDate> changedLater;
         m_marker.context().visitChanges([&](const DayChange& change) {
             const bool isInForce = !reversals.contains(change) && !changedLater.contains(change.date);
-            if (change.group == group && isInForce)
+            if (change.group == group && isInForce && isWanted(change.date))
                 step.add(change);
             else if (change.group != group && !reversals.include(change))
                 changedLater.insert(change.date);
@@ -130,7 +135,8 @@ bool UndoHistory::undoCheck(QDate date, DayState before)
         });
         return group;
     });
-    return check != 0 && undo(check);
+    // An import has other days in the same group.
+    return check != 0 && undo(check, [date](QDate each) { return each == date; });
 }
 
 bool UndoHistory::redo()

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QList>
 
+#include <functional>
+
 class DayMarker;
 enum class DayState;
 struct DayChange;
@@ -22,8 +24,8 @@ public:
     bool undo();
     /// Takes back one group, such as that of a notification. False if none of its days is as the group left it.
     bool undo(qint64 group);
-    /// Takes back the mark of a check that is in force on a day. False if there is none, or the day was not in the
-    /// state `before` it.
+    /// Takes back the mark of a check that is in force on a day, and no other day. False if there is none, or the day
+    /// was not in the state `before` it.
     bool undoCheck(QDate date, DayState before);
     /// Takes back the last undo, unless something else was changed since. False if there is none.
     bool redo();
@@ -34,6 +36,7 @@ public:
 private:
     struct UndoStep;
 
+    bool undo(qint64 group, const std::function<bool(QDate)>& isWanted);
     [[nodiscard]] qint64 groupToRedo() const;
     /// What takes the step back, on those days that are as it left them.
     [[nodiscard]] QList<DayMark> marksOf(const UndoStep& step) const;
