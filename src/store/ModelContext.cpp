@@ -14,6 +14,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +43,15 @@ std::pair<QList<Record>, QList<Record>> differingParts(const QList<Record>& one,
     while (end < most && one.at(one.size() - 1 - end) == other.at(other.size() - 1 - end))
         ++end;
     return {one.sliced(start, one.size() - start - end), other.sliced(start, other.size() - start - end)};
+}
+
+/// The rows that are not among others.
+std::vector<Row> without(const std::vector<Row>& rows, const std::vector<Row>& others)
+{
+    const std::set<Row> known(others.begin(), others.end());
+    std::vector<Row> rest;
+    std::ranges::copy_if(rows, std::back_inserter(rest), [&known](const Row& row) { return !known.contains(row); });
+    return rest;
 }
 
 const char* textOf(SaveState::File file)
@@ -243,24 +254,24 @@ template <class Record> bool ModelContext::replace(const QList<Record>& before, 
     return withStoreErrors([&] {
         const auto fields = fieldsOf<Record>();
         const auto [onlyBefore, onlyAfter] = differingParts(before, after);
-        QList<Row> removed;
-        QList<Row> added;
-        for (const Record& record : onlyBefore) {
-            if (!onlyAfter.contains(record))
-                removed.append(fields.row(record));
-        }
-        for (const Record& record : onlyAfter) {
-            if (onlyBefore.contains(record))
-                continue;
-            added.append(fields.row(record));
-            static_cast<void>(fields.record(added.last())); // what could not be read later must not be stored
-        }
+        const auto rowsOfAll = [&fields](const QList<Record>& records) {
+            std::vector<Row> all;
+            for (const Record& record : records)
+                all.push_back(fields.row(record));
+            return all;
+        };
+        const auto rowsBefore = rowsOfAll(onlyBefore);
+        const auto rowsAfter = rowsOfAll(onlyAfter);
+        const auto removed = without(rowsBefore, rowsAfter);
+        const auto added = without(rowsAfter, rowsBefore);
+        for (const Row& row : added)
+            static_cast<void>(fields.record(row)); // what could not be read later must not be stored
         RowSet& rows = rowsOf<Record>();
-        for (const Row& row : removed)
-            rows.remove(row);
+        if (!removed.empty())
+            rows.remove(removed);
         for (const Row& row : added)
             rows.add(row);
-        return !removed.isEmpty() || !added.isEmpty();
+        return !removed.empty() || !added.empty();
     });
 }
 

@@ -4,7 +4,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
-#include <algorithm>
+#include <set>
 
 std::vector<Row> RowSet::rows()
 {
@@ -20,14 +20,18 @@ void RowSet::add(const Row& row)
     changed();
 }
 
-void RowSet::remove(const Row& row)
+void RowSet::remove(const std::vector<Row>& rows)
 {
-    const auto found = std::ranges::find(entries(), row, &Entry::row);
-    if (found == m_entries->end())
-        return;
-    if (found->key)
-        m_removed.push_back(*found->key);
-    m_entries->erase(found);
+    std::multiset<Row> left(rows.begin(), rows.end());
+    std::erase_if(entries(), [&](const Entry& entry) {
+        const auto found = left.find(entry.row);
+        if (found == left.end())
+            return false;
+        left.erase(found);
+        if (entry.key)
+            m_removed.push_back(*entry.key);
+        return true;
+    });
     changed();
 }
 

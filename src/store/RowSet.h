@@ -25,9 +25,9 @@ public:
     /// In the order in which they were added. Throws a StoreError, or the database's own exception, if they cannot be
     /// read.
     [[nodiscard]] std::vector<Row> rows();
-    /// Adds or removes a row with the next write. Both read the rows first.
+    /// Adds a row, or removes rows, with the next write. Both read the rows first.
     void add(const Row& row);
-    void remove(const Row& row);
+    void remove(const std::vector<Row>& rows);
 
     [[nodiscard]] const std::string& name() const { return m_layout.name; }
     [[nodiscard]] bool isRead() const { return m_entries.has_value(); }
