@@ -166,16 +166,23 @@ QList<DayOff> CountingRecords::daysOff() const
 
 bool CountingRecords::addDaysOff(const QList<DayOff>& daysOff)
 {
+    QHash<QDate, DayOff> added;
+    for (const DayOff& dayOff : daysOff)
+        added.insert(dayOff.date, dayOff);
     return edit<DayOff>([&](auto& all) {
-        for (const DayOff& dayOff : daysOff)
-            put(all, &DayOff::date, dayOff);
+        all.removeIf([&](const DayOff& dayOff) { return added.contains(dayOff.date); });
+        for (const DayOff& dayOff : daysOff) {
+            if (added.contains(dayOff.date))
+                all.append(added.take(dayOff.date));
+        }
     });
 }
 
 bool CountingRecords::removeDaysOff(const QList<QDate>& dates)
 {
+    const QSet<QDate> removed(dates.begin(), dates.end());
     return edit<DayOff>(
-        [&](auto& all) { all.removeIf([&](const DayOff& dayOff) { return dates.contains(dayOff.date); }); });
+        [&](auto& all) { all.removeIf([&](const DayOff& dayOff) { return removed.contains(dayOff.date); }); });
 }
 
 std::optional<HolidayRegion> CountingRecords::holidayRegion() const

@@ -69,16 +69,28 @@ const QHash<QDate, int>& DayAbsences::all() const
     return m_kinds;
 }
 
-void DayAbsences::set(QDate date, int kind)
+void DayAbsences::set(const QMap<QDate, int>& kinds)
 {
-    const int before = kind == AbsenceKind::none ? kindOf(date) : all().value(date, AbsenceKind::none);
-    if (before == kind)
+    QMap<QDate, int> others;
+    for (const auto& [date, kind] : kinds.asKeyValueRange()) {
+        const int before = kind == AbsenceKind::none ? kindOf(date) : all().value(date, AbsenceKind::none);
+        if (before != kind)
+            others.insert(date, kind);
+    }
+    if (others.isEmpty())
         return;
-    auto stored = m_context.records<DayAbsence>(); // one of the date, unless the store holds duplicates
-    stored.removeIf([date](const DayAbsence& absence) { return absence.date != date; });
-    m_context.replace(stored, kind == AbsenceKind::none ? QList<DayAbsence>() : QList{DayAbsence{date, kind}});
-    if (kind == AbsenceKind::none)
-        m_kinds.remove(date);
-    else
-        m_kinds.insert(date, kind);
+    auto stored = m_context.records<DayAbsence>(); // one of each date, unless the store holds duplicates
+    stored.removeIf([&others](const DayAbsence& absence) { return !others.contains(absence.date); });
+    QList<DayAbsence> added;
+    for (const auto& [date, kind] : others.asKeyValueRange()) {
+        if (kind != AbsenceKind::none)
+            added.append({date, kind});
+    }
+    m_context.replace(stored, added);
+    for (const auto& [date, kind] : others.asKeyValueRange()) {
+        if (kind == AbsenceKind::none)
+            m_kinds.remove(date);
+        else
+            m_kinds.insert(date, kind);
+    }
 }

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QList>
+#include <QMap>
 
 class ModelContext;
 
@@ -31,9 +32,9 @@ public:
     [[nodiscard]] int kindOf(QDate date) const;
     /// Throws a StoreError if the store cannot be read.
     [[nodiscard]] const QHash<QDate, int>& all() const;
-    /// It is saved with the next save of the context. Throws a StoreError, and changes nothing, if the store cannot be
-    /// read and the day is to have a kind.
-    void set(QDate date, int kind);
+    /// Gives days a kind each, or none. It is saved with the next save of the context. Throws a StoreError, and changes
+    /// nothing, if the store cannot be read and a day is to have a kind.
+    void set(const QMap<QDate, int>& kinds);
 
 private:
     ModelContext& m_context;

@@ -126,29 +126,35 @@ qint64 DayMarker::markAll(const QList<DayMark>& marks, ChangedBy by, qint64 reve
         if (!month)
             month = std::make_shared<Month>(mark.date.year(), mark.date.month());
     }
-    ChangedDays result{.group = newGroup(), .by = by};
+    QList<std::pair<DayMark, DayMark>> differing; // as they are, and as they are to be
+    QMap<QDate, int> absences;
     bool hasOtherAbsences = false;
     for (const DayMark& mark : marks) {
-        const auto& month = months.at(firstOfMonth(mark.date));
-        const auto before = markOn(*month, mark.date);
+        const auto before = markOn(*months.at(firstOfMonth(mark.date)), mark.date);
         if (!before || *before == mark)
             continue;
-        m_absences.set(mark.date, mark.absenceKind);
+        differing.append({*before, mark});
+        absences.insert(mark.date, mark.absenceKind);
+        hasOtherAbsences |= before->absenceKind != mark.absenceKind;
+    }
+    m_absences.set(absences);
+    ChangedDays result{.group = newGroup(), .by = by};
+    for (const auto& [before, mark] : differing) {
+        const auto& month = months.at(firstOfMonth(mark.date));
         setState(*month, mark.date, mark.state);
         m_context.insert(month);
         const auto origin = origins.constFind(mark.date);
         const bool isKnown = origin != origins.constEnd();
         record({.time = isKnown ? origin->time : 0,
                 .date = mark.date,
-                .before = before->state,
+                .before = before.state,
                 .after = mark.state,
                 .by = isKnown ? origin->by : by,
                 .group = result.group,
                 .revertedGroup = revertedGroup,
                 .network = isKnown ? origin->network : QString(),
-                .absenceBefore = before->absenceKind,
+                .absenceBefore = before.absenceKind,
                 .absenceAfter = mark.absenceKind});
-        hasOtherAbsences |= before->absenceKind != mark.absenceKind;
         result.dates.append(mark.date);
         result.state = mark.state;
         result.absenceKind = mark.absenceKind;
@@ -180,7 +186,7 @@ int DayMarker::absenceKindOf(QDate date, DayState state) const
 bool DayMarker::setAbsence(QDate date, int kind)
 {
     try {
-        m_absences.set(date, kind);
+        m_absences.set({{date, kind}});
         return true;
     } catch (const StoreError& error) {
         qCWarning(logMarking, "The kind of an absence cannot be stored: %s", error.what());
