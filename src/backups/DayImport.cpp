@@ -86,6 +86,12 @@ int DayImport::storedKind(int provisional) const
     return stored->id;
 }
 
+bool DayImport::hasNewKinds() const
+{
+    const auto isNew = [](const DayDifference& day) { return day.absenceAfter >= firstProvisional; };
+    return std::ranges::any_of(m_newDays, isNew) || std::ranges::any_of(m_conflicts, isNew);
+}
+
 QString DayImport::describe(DayState state, int kind) const
 {
     const auto listed = std::ranges::find(m_kinds, kind - firstProvisional, &AbsenceKind::id);

@@ -26,6 +26,8 @@ public:
     [[nodiscard]] qsizetype sameCount() const { return m_sameCount; }
     [[nodiscard]] const QHash<QDate, QString>& notes() const { return m_notes; }
     [[nodiscard]] const QList<DayOff>& daysOff() const { return m_daysOff; }
+    /// Whether some of the days have a kind of absence that is not here yet.
+    [[nodiscard]] bool hasNewKinds() const;
     /// How many notes and days off are left out, as there are others on their days.
     [[nodiscard]] qsizetype keptCount() const { return m_keptCount; }
 

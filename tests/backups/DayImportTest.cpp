@@ -104,6 +104,7 @@ TEST(DayImport, changesNothingThatIsThereUnlessItIsChosen)
     EXPECT_EQ(found.conflicts().size(), 1);
     EXPECT_EQ(found.sameCount(), 1);
     EXPECT_EQ(found.keptCount(), 2);
+    EXPECT_TRUE(found.hasNewKinds());
     ASSERT_EQ(found.newDays().size(), 1);
     EXPECT_EQ(found.describe(DayState::OUT_OF_OFFICE, found.newDays().first().absenceAfter),
               u"Out of Office (Parents)"_s);
@@ -115,4 +116,18 @@ TEST(DayImport, changesNothingThatIsThereUnlessItIsChosen)
     EXPECT_EQ(days.first().note, u"mine"_s);
     EXPECT_EQ(days.first().dayOff->name, u"Mine"_s);
     EXPECT_EQ(days.last().note, QString());
+}
+
+TEST(DayImport, ofACheckOfTodayIsTakenBackForThatDayAlone)
+{
+    Store store;
+    const DayImport found =
+        store.compare("date,state,changed_by,changed_at\n2026-11-19,IN_OFFICE,CHECK,2026-11-19T08:00:00Z\n"
+                      "2026-11-20,IN_OFFICE,CHECK,2026-11-20T08:00:00Z\n");
+    const auto group = found.apply(found.newDays(), true, true);
+    EXPECT_TRUE(store.history.undoCheck({2026, 11, 20}, DayState::UNKNOWN));
+    EXPECT_TRUE(store.marker.isTakenBack({2026, 11, 20}, DayState::IN_OFFICE));
+    EXPECT_EQ(store.compare(store.list()).sameCount(), 1);
+    EXPECT_TRUE(store.history.undo(group));
+    EXPECT_EQ(store.compare(store.list()).sameCount(), 0);
 }

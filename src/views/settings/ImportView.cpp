@@ -212,7 +212,14 @@ void ImportView::reportImport()
     if (!m_daysOff->isHidden() && m_daysOff->isChecked())
         parts += daysOffText();
     const QString done = tr("Imported: %1.").arg(parts.join(u", "_s));
-    Q_EMIT finished(count > 0 ? tr("%1 Ctrl+Z in the main window takes the days back.").arg(done) : done);
+    if (count == 0)
+        Q_EMIT finished(done);
+    else if (parts.size() > 1 || m_found->hasNewKinds())
+        Q_EMIT finished(
+            tr("%1 Ctrl+Z in the main window takes the days back; notes, days off and kinds of absence stay.")
+                .arg(done));
+    else
+        Q_EMIT finished(tr("%1 Ctrl+Z in the main window takes the days back.").arg(done));
 }
 
 QString ImportView::notesText() const
