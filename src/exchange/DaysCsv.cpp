@@ -20,10 +20,30 @@ public:
     void add(const QString& cell)
     {
         begin();
+        if (cell.isEmpty())
+            return;
         QByteArray bytes = days_csv::escaped(cell).toUtf8();
         const bool isQuoted = bytes.contains(',') || bytes.contains('"') || bytes.contains('\n') ||
                               bytes.contains('\r') || bytes.startsWith(' ') || bytes.endsWith(' ');
         m_text += isQuoted ? '"' + bytes.replace('"', "\"\"") + '"' : bytes;
+    }
+
+    // Most of the work, if QDate::toString() did it.
+    void add(QDate date)
+    {
+        begin();
+        append(date);
+    }
+
+    void add(const QDateTime& time)
+    {
+        begin();
+        append(time.date());
+        append('T', time.time().hour(), 2);
+        append(':', time.time().minute(), 2);
+        append(':', time.time().second(), 2);
+        append('.', time.time().msec(), 3);
+        m_text += 'Z';
     }
 
     void endLine()
@@ -40,6 +60,27 @@ private:
         if (!m_isLineEmpty)
             m_text += ',';
         m_isLineEmpty = false;
+    }
+
+    void append(QDate date)
+    {
+        append(date.year(), 4);
+        append('-', date.month(), 2);
+        append('-', date.day(), 2);
+    }
+
+    void append(char separator, int number, int digits)
+    {
+        m_text += separator;
+        append(number, digits);
+    }
+
+    void append(int number, int digits)
+    {
+        const auto start = m_text.size();
+        m_text.resize(start + digits);
+        for (auto place = m_text.size() - 1; place >= start; --place, number /= 10)
+            m_text[place] = static_cast<char>('0' + number % 10);
     }
 
     QByteArray m_text;
@@ -61,9 +102,11 @@ void addDayOff(CsvWriter& writer, const std::optional<DayOff>& dayOff)
 
 void addChange(CsvWriter& writer, const std::optional<DayChange>& change)
 {
-    const auto time = [&] { return QDateTime::fromMSecsSinceEpoch(change->time, Qt::UTC); };
     writer.add(change ? days_csv::nameOf(change->by) : QLatin1StringView());
-    writer.add(change ? time().toString(Qt::ISODateWithMs) : QString());
+    if (change)
+        writer.add(QDateTime::fromMSecsSinceEpoch(change->time, Qt::UTC));
+    else
+        writer.add(QLatin1StringView());
     writer.add(change ? change->network : QString());
 }
 
@@ -79,7 +122,7 @@ QByteArray daysCsv(const QList<DayRecord>& days, const QList<AbsenceKind>& kinds
         writer.add(name);
     writer.endLine();
     for (const DayRecord& day : days) {
-        writer.add(day.date.toString(Qt::ISODate));
+        writer.add(day.date);
         writer.add(rawValue(day.state));
         addKind(writer, kindsById.value(day.absenceKind));
         writer.add(day.note);
