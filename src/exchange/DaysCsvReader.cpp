@@ -14,6 +14,7 @@ namespace {
 
 constexpr qint64 largestList = 50'000'000;
 constexpr qsizetype mostDays = 100'000;
+constexpr qsizetype mostKinds = 100;
 constexpr qsizetype mostProblems = 100;
 constexpr int mostBadLines = 10'000;
 constexpr qsizetype longestQuotation = 40;
@@ -166,6 +167,8 @@ int DaysCsvReader::ownKind(const QString& name, Treatment treatment)
         kinds, [&name](const AbsenceKind& kind) { return kind.name.compare(name, Qt::CaseInsensitive) == 0; });
     if (found != kinds.end())
         return found->id;
+    if (kinds.size() >= mostKinds)
+        throw RowProblem{FileError::tr("the list names more than %1 kinds of absence").arg(mostKinds)};
     kinds.append({AbsenceKind::firstOwn + static_cast<int>(kinds.size()), name, treatment});
     return kinds.last().id;
 }

@@ -136,6 +136,12 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
     for (const auto& [text, result] : rows)
         EXPECT_EQ(readDays(text), QString::fromUtf8(result)) << text.left(100).constData();
     EXPECT_EQ(readList("2026-11-20,X\n" + QByteArray("x,y\n").repeated(1000)).problems.size(), 101);
+    QByteArray kinds = "date,state,absence";
+    for (QDate date(2026, 1, 1); date.dayOfYear() <= 101; date = date.addDays(1))
+        kinds +=
+            '\n' + date.toString(Qt::ISODate).toUtf8() + ",OUT_OF_OFFICE,Kind " + QByteArray::number(date.dayOfYear());
+    EXPECT_EQ(readList(kinds).problems,
+              QStringList(u"Line 102 is left out: the list names more than 100 kinds of absence."_s));
     const auto own =
         readList("date,state,absence\n2026-11-20,OUT_OF_OFFICE,Parents\n2026-11-21,OUT_OF_OFFICE,sick").days;
     EXPECT_EQ(own.first().absenceKind, AbsenceKind::firstOwn);
