@@ -17,6 +17,14 @@ CalendarFileError notACalendar()
                                                    "format (.ics) and choose that file."));
 }
 
+CalendarFileError notText(const QByteArray& text)
+{
+    if (text.contains('\0'))
+        return notACalendar();
+    return CalendarFileError(CalendarFileError::tr("The calendar is not in UTF-8. Export it with the encoding UTF-8 in "
+                                                   "the program that it comes from, and choose that file."));
+}
+
 } // namespace
 
 CalendarReader::CalendarReader(QDate today)
@@ -32,7 +40,7 @@ CalendarFileContents CalendarReader::read(const QByteArray& text)
         throw notACalendar();
     for (; line; line = lines.next()) {
         if (!line->isText)
-            throw notACalendar();
+            throw notText(text);
         readLine(*line);
     }
     refuseUnfinishedEvent();

@@ -99,7 +99,7 @@ TEST(CalendarFile, whichIsNoneSaysWhatToDo)
     for (const auto& [text, reason] : {std::pair(QByteArray(), "This is not a calendar file."),
                                        {"BEGIN:VCARD\n", "This is not a calendar file."},
                                        {calendar(QByteArray("X:\0", 3)), "This is not a calendar file."},
-                                       {calendar("X:\xFF"), "This is not a calendar file."},
+                                       {calendar("X:\xFF"), "not in UTF-8"},
                                        {calendar(event.repeated(274)), "more than 100000 days"},
                                        {QByteArray(10'000'001, ' '), "more than 10 MB"}}) {
         QFile file(path);
