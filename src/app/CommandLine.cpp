@@ -6,6 +6,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -85,13 +86,50 @@ std::optional<WrittenMarks> Options::marks() const
     return marks;
 }
 
+/// Reads the arguments. Returns what is wrong with them; nothing if they are sound.
+QString problemOf(QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!parser.parse(arguments))
+        return parser.errorText();
+    const QStringList others = parser.positionalArguments();
+    return others.isEmpty() ? QString()
+                            : QCoreApplication::translate("main", "Unexpected argument: %1").arg(others.first());
+}
+
+bool isToolkitOption(std::string_view argument)
+{
+    return argument.size() > 2 && argument.starts_with('-') && !argument.starts_with("--");
+}
+
 } // namespace
+
+QStringList ownArguments(std::span<char* const> arguments)
+{
+    QStringList own;
+    bool isValue = false;
+    for (const std::string_view argument : arguments) {
+        const bool isForToolkit = isToolkitOption(argument) || (isValue && !argument.starts_with('-'));
+        isValue = isToolkitOption(argument);
+        if (!isForToolkit)
+            own.append(QString::fromLocal8Bit(argument));
+    }
+    return own;
+}
+
+bool isMisuse(const QStringList& arguments)
+{
+    return arguments.size() > 1 && !problemOf(Options().parser(), arguments).isEmpty();
+}
 
 StartMode readCommandLine(const QStringList& arguments)
 {
     if (arguments.size() <= 1)
         return StartMode::Shown;
     Options options;
+    if (const QString problem = problemOf(options.parser(), arguments); !problem.isEmpty()) {
+        printError(problem);
+        std::exit(exitMisuse);
+    }
     options.parser().process(arguments);
     if (options.parser().isSet(options.atLogin))
         return StartMode::AtLogin;
@@ -106,11 +144,8 @@ std::optional<CommandRequest> readCommand(const QStringList& arguments)
         printError(reason);
         return std::nullopt;
     };
-    if (!parser.parse(arguments))
-        return refuse(parser.errorText());
-    if (!parser.positionalArguments().isEmpty())
-        return refuse(
-            QCoreApplication::translate("main", "Unexpected argument: %1").arg(parser.positionalArguments().first()));
+    if (const QString problem = problemOf(parser, arguments); !problem.isEmpty())
+        return refuse(problem);
     const QList<Kind> kinds = options.commands();
     const bool isJson = parser.isSet(options.json);
     if (kinds.size() != 1 || parser.isSet(options.atLogin) || parser.isSet(options.checkNow) ||

@@ -19,6 +19,13 @@ enum class StartMode {
     WithCheck
 };
 
+/// The arguments without those of the toolkit, such as "-platform offscreen", which has not taken them out yet. Can be
+/// called before there is an application, like isMisuse().
+[[nodiscard]] QStringList ownArguments(std::span<char* const> arguments);
+
+/// Whether readCommandLine() would print an error.
+[[nodiscard]] bool isMisuse(const QStringList& arguments);
+
 /// Prints help, the version or an error if need be, and then ends the process.
 [[nodiscard]] StartMode readCommandLine(const QStringList& arguments);
 

@@ -251,11 +251,12 @@ bool asksForText(std::span<char* const> arguments)
     return hasOption(arguments, {"-h", "--help", "--help-all", "-v", "--version"});
 }
 
+// What is wrong with the arguments too.
 int printText(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     const Translations translations(QLocale::system().uiLanguages());
-    std::ignore = readCommandLine(QCoreApplication::arguments());
+    std::ignore = readCommandLine(ownArguments(std::span(argv, static_cast<std::size_t>(argc))));
     return EXIT_SUCCESS;
 }
 
@@ -284,10 +285,10 @@ int main(int argc, char* argv[])
     correctUserFolders();
     setApplicationMetadata();
     const std::span arguments(argv, static_cast<std::size_t>(argc));
-    if (asksForText(arguments)) // for which no display is needed
-        return printText(argc, argv);
-    if (asksForCommand(arguments))
+    if (asksForCommand(arguments) && !asksForText(arguments))
         return runCommand(argc, argv);
+    if (asksForText(arguments) || isMisuse(ownArguments(arguments))) // for which no display is needed
+        return printText(argc, argv);
     logToJournalIfPresent();
     logStage("program loaded");
     SingleInstance instance;

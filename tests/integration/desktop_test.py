@@ -291,7 +291,8 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(search("GetInitialResultSet", "as", ["office"]), [])
         self.assertIn("no data yet", self.command("--status", status=1))
         for options in (["--mark", today], ["--mark", "2026-02-30=IN_OFFICE"], ["--mark", "2026-2-03=IN_OFFICE"],
-                        ["--mark", f"{today}=IN"], ["--status", "--undo"], ["--json"], ["--status", "x"], ["--export"]):
+                        ["--mark", f"{today}=IN"], ["--status", "--undo"], ["--json"], ["--status", "x"], ["--export"],
+                        ["--none"], ["x"], ["-style", "fusion", "--at-login", "x"]):
             self.command(*options, status=2)
         self.assertEqual(list(self.folder.glob("Pellory*")), [])
         nowhere = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
