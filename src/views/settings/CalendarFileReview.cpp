@@ -8,8 +8,6 @@
 
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,7 +20,7 @@ CalendarFileReview::CalendarFileReview(CountingRecords& records, const QString& 
                                        const CalendarFileContents& contents, QDate today, QWidget* parent)
     : DaysOffReview(records, tr("Days Off from %1", "file").arg(fileName), parent)
 {
-    const auto present = counting().daysOff();
+    const auto present = datesOff();
     QList<ListedDayOff> days;
     for (const DayOff& dayOff : contents.daysOff)
         days.append(listed(dayOff, present));
@@ -43,10 +41,10 @@ void CalendarFileReview::showProblems(const QStringList& problems)
     head().addWidget(list);
 }
 
-ListedDayOff CalendarFileReview::listed(DayOff dayOff, const QList<DayOff>& present)
+ListedDayOff CalendarFileReview::listed(DayOff dayOff, const QSet<QDate>& present)
 {
     dayOff.source = DayOffSource::File;
-    const bool isPresent = std::ranges::find(present, dayOff.date, &DayOff::date) != present.end();
+    const bool isPresent = present.contains(dayOff.date);
     const bool isWorkday = counting().counting().value().isScheduled(dayOff.date);
     return {.day = dayOff,
             .note = isPresent   ? tr("already a day off")

@@ -18,5 +18,5 @@ protected:
 
 private:
     void showProblems(const QStringList& problems);
-    [[nodiscard]] ListedDayOff listed(DayOff dayOff, const QList<DayOff>& present);
+    [[nodiscard]] ListedDayOff listed(DayOff dayOff, const QSet<QDate>& present);
 };

@@ -72,13 +72,15 @@ QString counting_texts::daysOff(qsizetype count)
 
 QString counting_texts::changed(qsizetype added, qsizetype takenOut)
 {
+    QStringList sentences;
     if (added > 0)
-        return added == 1 ? CountingTexts::tr("1 day off was added.")
-                          : CountingTexts::tr("%n days off were added.", nullptr, static_cast<int>(added));
+        sentences += added == 1 ? CountingTexts::tr("1 day off was added.")
+                                : CountingTexts::tr("%n days off were added.", nullptr, static_cast<int>(added));
     if (takenOut > 0)
-        return takenOut == 1 ? CountingTexts::tr("1 day off was taken out.")
-                             : CountingTexts::tr("%n days off were taken out.", nullptr, static_cast<int>(takenOut));
-    return {};
+        sentences += takenOut == 1
+                         ? CountingTexts::tr("1 day off was taken out.")
+                         : CountingTexts::tr("%n days off were taken out.", nullptr, static_cast<int>(takenOut));
+    return sentences.join(u' ');
 }
 
 QString counting_texts::notStored()

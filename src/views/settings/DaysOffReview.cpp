@@ -5,6 +5,7 @@
 #include "Button.h"
 #include "ButtonRow.h"
 #include "Card.h"
+#include "CountingRecords.h"
 #include "CountingTexts.h"
 #include "DaysOffTree.h"
 #include "Labels.h"
@@ -85,6 +86,14 @@ qsizetype DaysOffReview::count(bool isChecked, bool isPresent) const
     });
 }
 
+QSet<QDate> DaysOffReview::datesOff() const
+{
+    QSet<QDate> dates;
+    for (const DayOff& dayOff : m_counting.daysOff())
+        dates.insert(dayOff.date);
+    return dates;
+}
+
 void DaysOffReview::refreshButton()
 {
     const auto added = count(true, false);
@@ -109,9 +118,9 @@ void DaysOffReview::accept()
         else if (listed.isPresent)
             takenOut.append(listed.day.date);
     }
-    const QString done = counting_texts::changed(count(true, false), takenOut.size());
+    const QSet<QDate> before = datesOff();
     if (store(chosen, takenOut))
-        Q_EMIT finished(done);
+        Q_EMIT finished(counting_texts::changed(count(true, false), (before - datesOff()).size()));
     else
         say(counting_texts::notStored());
 }

@@ -3,6 +3,7 @@
 
 #include "DaysOffModel.h"
 
+#include <QSet>
 #include <QWidget>
 
 class Button;
@@ -27,6 +28,8 @@ protected:
     DaysOffReview(CountingRecords& counting, const QString& heading, QWidget* parent = nullptr);
 
     [[nodiscard]] CountingRecords& counting() { return m_counting; }
+    /// That are stored.
+    [[nodiscard]] QSet<QDate> datesOff() const;
     /// The room between the heading and the message.
     [[nodiscard]] QVBoxLayout& head() { return *m_head; }
     /// Shows days, those from a year on opened.

@@ -268,6 +268,12 @@ TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
     press(view(), Qt::Key_Escape);
     EXPECT_TRUE(view().isVisible()) << "the key closes the review only";
     EXPECT_EQ(view().focusWidget(), &button("chooseHolidays"));
+    click(button("chooseHolidays"));
+    named<ComboBox>(view(), "region").setFocus();
+    press(view(), Qt::Key_H);
+    turn(u"2026"_s);
+    click(button("addDays"));
+    EXPECT_TRUE(isShown(u"12 days off were added. 2 days off were taken out."_s));
     click(button("removeRegion"));
     EXPECT_FALSE(counting.holidayRegion());
     EXPECT_EQ(counting.daysOff(), (QList<DayOff>{{epiphany, u"Company day"_s}}));
