@@ -122,7 +122,7 @@ DayRecord DaysCsvReader::dayIn(const CsvRow& row)
 {
     const QString date = word(row, Column::Date);
     DayRecord day{.date = isoDate(date)};
-    if (!day.date.isValid() || day.date.year() < 1)
+    if (!day.date.isValid())
         refuseWord(FileError::tr("\"%1\" is not a date such as 2026-11-20"), date);
     const QString state = word(row, Column::State);
     const auto known = state.isEmpty() ? DayState::UNKNOWN : dayStateFromText(state);

@@ -100,7 +100,7 @@ TEST(DayImport, changesNothingThatIsThereUnlessItIsChosen)
     EXPECT_TRUE(store.counting.addDaysOff({{day, u"Mine"_s}}));
     const DayImport found = store.compare("date,state,absence,note,day_off\n2026-11-20,VACATION_DAY,,theirs,Theirs\n"
                                           "2026-11-21,OUT_OF_OFFICE,,,\n2026-11-22,UNKNOWN,,,\n"
-                                          "2026-11-23,OUT_OF_OFFICE,Parents,new,\n");
+                                          "2026-11-23,OUT_OF_OFFICE,Parents,new,New\n");
     EXPECT_EQ(found.conflicts().size(), 1);
     EXPECT_EQ(found.sameCount(), 1);
     EXPECT_EQ(found.keptCount(), 2);
@@ -115,7 +115,8 @@ TEST(DayImport, changesNothingThatIsThereUnlessItIsChosen)
     EXPECT_EQ(days.first().lastChange->by, ChangedBy::Import);
     EXPECT_EQ(days.first().note, u"mine"_s);
     EXPECT_EQ(days.first().dayOff->name, u"Mine"_s);
-    EXPECT_EQ(days.last().note, QString());
+    EXPECT_TRUE(days.last().note.isEmpty() && !days.last().dayOff);
+    EXPECT_EQ(store.compare("date,state,absence\n2026-11-23,OUT_OF_OFFICE,PARENTS\n").sameCount(), 1);
 }
 
 TEST(DayImport, ofACheckOfTodayIsTakenBackForThatDayAlone)

@@ -12,8 +12,10 @@ namespace {
 /// What libical finds in a calendar: "uid start end summary busy".
 QStringList eventsIn(const QByteArray& file)
 {
-    for (const QByteArray& line : file.split('\n'))
+    for (const QByteArray& line : file.split('\n')) {
         EXPECT_LE(line.chopped(line.isEmpty() ? 0 : 1).size(), 75);
+        EXPECT_TRUE(line.isValidUtf8());
+    }
     icalcomponent* calendar = icalparser_parse_string(file.constData());
     const auto guard = qScopeGuard([calendar] { icalcomponent_free(calendar); });
     EXPECT_TRUE(icalrestriction_check(calendar));
@@ -45,7 +47,7 @@ public:
         return qstrcmp(context, "DayState") == 0 ? name : QString();
     }
 
-    const QString name = u"a, b; \\"_s + QString(200, u'ä') + u"\n"_s;
+    const QString name = u"a, b; \\"_s + QString(100, u'ä') + QString(200, u'a') + u"\n"_s;
 };
 
 } // namespace
@@ -62,6 +64,8 @@ TEST(CalendarExport, isReadByLibicalAndUpdatesWhatWasExportedBefore)
               (QStringList{u"20261231@io.github.pellory.Pellory 20261231 20270101 Vacation Day 1 60"_s,
                            u"20270101@io.github.pellory.Pellory 20270101 20270102 In the Office 0 60"_s}));
     EXPECT_TRUE(eventsIn(calendarFile(days, states, now.addSecs(1))).first().endsWith(u" 61"_s));
+    EXPECT_TRUE(eventsIn(calendarFile(days, states, now.addYears(-1))).first().endsWith(u" 0"_s));
+    EXPECT_EQ(calendarFile(days, states, now.toOffsetFromUtc(3600)), calendarFile(days, states, now));
     EXPECT_TRUE(eventsIn(calendarFile({}, states, now)).isEmpty());
     LongNames names;
     QCoreApplication::installTranslator(&names);

@@ -63,7 +63,7 @@ private:
         if (number(2) == 0)
             day.dayOff = DayOff{date, text(), DayOffSource(1 + number(3))};
         if (number(2) == 0)
-            day.lastChange = DayChange{.time = 1'000'000LL * number(2'000'000),
+            day.lastChange = DayChange{.time = 1'000'003LL * number(2'000'000),
                                        .date = date,
                                        .after = day.state,
                                        .by = ChangedBy(1 + number(7)),
@@ -98,7 +98,9 @@ TEST(DaysCsv, readsAsItWasWritten)
         EXPECT_TRUE(read.days == days);
     }
     const DayRecord day{.date = {2026, 11, 20}, .note = u"=1+1"_s};
-    EXPECT_EQ(daysCsv({day}, {}), header.toUtf8() + "\r\n2026-11-20,UNKNOWN,,,,'=1+1,,,,,\r\n");
+    const DayRecord wide{.date = {2026, 11, 21}, .note = u"\uFF1D1 "_s};
+    EXPECT_EQ(daysCsv({day, wide}, {}), header.toUtf8() + "\r\n2026-11-20,UNKNOWN,,,,'=1+1,,,,,\r\n"
+                                                          "2026-11-21,UNKNOWN,,,,\"'\uFF1D1 \",,,,,\r\n");
 }
 
 TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
@@ -118,6 +120,7 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
         {"date,state\n2026-11-20,IN_OFFICE\n2026-11-20,UNKNOWN",
          "2026-11-20 IN_OFFICE; Line 3 is left out: its date is in line 2 already."},
         {"date,state\n=1+1,IN_OFFICE", "Line 2 is left out: \"=1+1\" is not a date such as 2026-11-20."},
+        {"date,state\n-001-01-01,IN_OFFICE", "Line 2 is left out: \"-001-01-01\" is not a date such as 2026-11-20."},
         {"date,state\n2026-02-30,IN_OFFICE", "Line 2 is left out: \"2026-02-30\" is not a date such as 2026-11-20."},
         {"date,state,note\n2026-11-20,HERE,\"\n\"\n2026-11-21",
          "Line 2 is left out: \"HERE\" is not a state of a day.; "
@@ -131,7 +134,16 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
          "Line 2 is left out: there is a quotation mark within a cell that does not begin with one."},
         {"date,state,changed_by,changed_at\n2026-11-20,IN_OFFICE,HAND,2026-11-20T08:00",
          "Line 2 is left out: \"2026-11-20T08:00\" is not a time such as 2026-11-20T08:15:00.000Z."},
-        {"date,state\n" + QByteArray(1000, ','), "Line 2 is left out: it has too many cells."},
+        {"date,state,changed_by,changed_at\n2026-11-20,IN_OFFICE,HAND,1969-12-31T23:59:59Z",
+         "Line 2 is left out: \"1969-12-31T23:59:59Z\" is not a time such as 2026-11-20T08:15:00.000Z."},
+        {"date,state,changed_by\n2026-11-20,IN_OFFICE,ME", "Line 2 is left out: \"ME\" is nobody who changes days."},
+        {"date,state,absence,counts_as\n2026-11-20,OUT_OF_OFFICE,Parents,HALF",
+         "Line 2 is left out: \"HALF\" is not a way to count."},
+        {"date,state,day_off,day_off_from\n2026-11-20,,X,MOON",
+         "Line 2 is left out: \"MOON\" is not a source of days off."},
+        {"date,state\n2026-11-20,1234567890123456789012345678901234567890x",
+         "Line 2 is left out: \"1234567890123456789012345678901234567890…\" is not a state of a day."},
+        {"date,state\n" + QByteArray(100, ','), "Line 2 is left out: it has too many cells."},
     };
     for (const auto& [text, result] : rows)
         EXPECT_EQ(readDays(text), QString::fromUtf8(result)) << text.left(100).constData();
@@ -146,6 +158,7 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
         readList("date,state,absence\n2026-11-20,OUT_OF_OFFICE,Parents\n2026-11-21,OUT_OF_OFFICE,sick").days;
     EXPECT_EQ(own.first().absenceKind, AbsenceKind::firstOwn);
     EXPECT_EQ(own.last().absenceKind, AbsenceKind::sick);
+    EXPECT_EQ(readList("date,state,day_off\n2026-11-20,,X").days.first().dayOff->source, DayOffSource::File);
 }
 
 TEST(DaysCsv, whatIsNoListSaysWhatToDo)
