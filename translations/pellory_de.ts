@@ -391,6 +391,10 @@
             <numerusform>%n weitere Probleme sind nicht aufgeführt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The calendar is not in UTF-8. Export it with the encoding UTF-8 in the program that it comes from, and choose that file.</source>
+        <translation>Der Kalender ist nicht in UTF-8. Exportieren Sie ihn in dem Programm, aus dem er stammt, mit der Kodierung UTF-8, und wählen Sie diese Datei.</translation>
+    </message>
 </context>
 <context>
     <name>CalendarFileReview</name>
@@ -1365,6 +1369,10 @@
         <source>The file cannot be written: %1. Choose another place.</source>
         <translation>Die Datei kann nicht geschrieben werden: %1. Wählen Sie einen anderen Ort.</translation>
     </message>
+    <message>
+        <source>the list names more than %1 kinds of absence</source>
+        <translation>die Liste nennt mehr als %1 Arten der Abwesenheit</translation>
+    </message>
 </context>
 <context>
     <name>FreedesktopNotifier</name>
@@ -1596,6 +1604,10 @@
             <numerusform>%n freier Tag</numerusform>
             <numerusform>%n freie Tage</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 Ctrl+Z in the main window takes the days back; notes, days off and kinds of absence stay.</source>
+        <translation>%1 Strg+Z im Hauptfenster nimmt die Tage zurück; Notizen, freie Tage und Arten der Abwesenheit bleiben.</translation>
     </message>
 </context>
 <context>
