@@ -2,6 +2,7 @@
 #include "Popover.h"
 
 #include "Accessibility.h"
+#include "FocusOrder.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -89,6 +90,11 @@ QPoint Popover::placeBeside(const QRect& anchor, const QRect& room) const
     const bool fitsRight = right + width() <= room.right() + 1;
     const bool isRight = isLeftToRight() ? fitsRight || !fitsLeft : fitsRight && !fitsLeft;
     return {isRight ? right : left, anchor.top() - shadow()};
+}
+
+bool Popover::focusNextPrevChild(bool next)
+{
+    return moveFocus(*this, next);
 }
 
 void Popover::paintEvent(QPaintEvent* /*event*/)

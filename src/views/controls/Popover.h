@@ -24,6 +24,7 @@ protected:
     /// To be called after the contents have changed.
     void fitToContents();
 
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
