@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StatusPicker.h"
 
+#include "Accessibility.h"
 #include "Day.h"
 #include "Fonts.h"
 #include "KeyCap.h"
@@ -182,6 +183,8 @@ void StatusPicker::popUpBeside(const QRect& cell)
     popup({isAfter ? after : before, qMax(room.top(), qMin(cell.top(), room.bottom() + 1 - size.height()))});
     if (!m_pressedAt && m_current)
         setActiveAction(currentAction()); // which a screen reader says
+    else if (!m_pressedAt)
+        announce(*this, accessibleName());
 }
 
 QAction* StatusPicker::currentAction() const
