@@ -8,7 +8,7 @@ LazyStack::LazyStack(std::vector<PageBuilder> builders, QWidget* parent)
 {
 }
 
-void LazyStack::showPage(int index)
+QWidget& LazyStack::page(int index)
 {
     const auto place = static_cast<std::size_t>(index);
     QWidget*& page = m_pages.at(place);
@@ -16,7 +16,12 @@ void LazyStack::showPage(int index)
         page = m_builders.at(place)();
         addWidget(page);
     }
-    setCurrentWidget(page);
+    return *page;
+}
+
+void LazyStack::showPage(int index)
+{
+    setCurrentWidget(&page(index));
 }
 
 void LazyStack::discardPage(int index)

@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-/// Pages of which one is shown. Each is built when it is first shown.
+/// Pages of which one is shown. Each is built when it is first wanted.
 class LazyStack : public QStackedWidget {
     Q_OBJECT
 
@@ -16,6 +16,7 @@ public:
     explicit LazyStack(std::vector<PageBuilder> builders, QWidget* parent = nullptr);
 
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    [[nodiscard]] QWidget& page(int index);
     void showPage(int index);
     /// Discards a page that is out of date, so that it is built again when it is next shown.
     void discardPage(int index);

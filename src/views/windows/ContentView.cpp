@@ -232,8 +232,9 @@ QWidget* ContentView::addPage(CalendarPage* page)
 
 void ContentView::openMonth(const YearMonth& month, Qt::FocusReason reason)
 {
+    // Before it is shown, or a screen reader would say what is on the page of another month.
+    m_pages->page(0).findChild<CalendarPage*>()->showPeriod(month);
     m_tabs->setCurrentIndex(0);
-    page().showPeriod(month);
     page().focusCurrentDay(reason);
     if (reason != Qt::MouseFocusReason)
         scrollToFocus();
