@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WeekdayButtons.h"
 
+#include "Accessibility.h"
 #include "FlatButton.h"
 #include "Fonts.h"
 #include "Outline.h"
@@ -64,6 +65,7 @@ protected:
 WeekdayButtons::WeekdayButtons(QWidget* parent)
     : QWidget(parent)
 {
+    setAccessibleRole(*this, QAccessible::Grouping); // or readers would not say the name
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->setSpacing(4);

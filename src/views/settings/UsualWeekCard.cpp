@@ -26,7 +26,9 @@ UsualWeekCard::UsualWeekCard(CountingRecords& counting, QWidget* parent)
     m_weekdays->setObjectName("usualWeekdays"_L1);
     m_plansNewMonths->setObjectName("plansNewMonths"_L1);
     m_plansNewMonths->setAccessibleDescription(help);
-    column().addWidget(labels::text(tr("I usually come on")));
+    auto* question = labels::text(tr("I usually come on"));
+    m_weekdays->setAccessibleName(question->text());
+    column().addWidget(question);
     column().addWidget(m_weekdays);
     column().addWidget(m_plansNewMonths);
     column().addWidget(labels::dim(help));

@@ -41,8 +41,10 @@ WorkWeeksCard::WorkWeeksCard(CountingRecords& counting, const Clock& clock, QWid
 
 void WorkWeeksCard::addEntry()
 {
-    column().addWidget(labels::text(tr("I work on")));
+    auto* question = labels::text(tr("I work on"));
+    column().addWidget(question);
     m_weekdays->setObjectName("weekdays"_L1);
+    m_weekdays->setAccessibleName(question->text());
     column().addWidget(m_weekdays);
     m_from->setObjectName("workdaysFrom"_L1);
     auto* button = new Button(tr("Set Workdays"));
