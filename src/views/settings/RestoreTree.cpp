@@ -4,9 +4,6 @@
 #include "DayDifferenceDelegate.h"
 #include "Fonts.h"
 #include "RestoreModel.h"
-#include "ThinScrollBarStyle.h"
-
-#include <QFocusEvent>
 
 RestoreTree::RestoreTree(QWidget* parent)
     : PlainTree(parent)
@@ -19,8 +16,6 @@ RestoreTree::RestoreTree(QWidget* parent)
 void RestoreTree::setModel(QAbstractItemModel* model)
 {
     PlainTree::setModel(model);
-
-    QTreeView::setModel(model);
     if (const auto* days = qobject_cast<RestoreModel*>(model)) {
         m_delegate->makeRoomFor(days->stateNames());
         fitDays();
@@ -37,8 +32,6 @@ QSize RestoreTree::sizeHint() const
 void RestoreTree::resizeEvent(QResizeEvent* event)
 {
     PlainTree::resizeEvent(event);
-
-    QTreeView::resizeEvent(event);
     fitDays();
 }
 
