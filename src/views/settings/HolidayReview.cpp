@@ -20,12 +20,18 @@ QString storedRegion(const CountingRecords& counting)
     return region ? region->id : QString();
 }
 
-// Whether holidays of a year were added. A date that is missing then was taken out.
-bool hasHolidays(const QList<DayOff>& daysOff, int year)
+bool hasDate(const QList<DayOff>& daysOff, QDate date)
 {
-    return std::ranges::any_of(daysOff, [year](const DayOff& dayOff) {
+    return std::ranges::find(daysOff, date, &DayOff::date) != daysOff.end();
+}
+
+// The holidays of a region that were added for a year, if any were. One that is missing now was taken out.
+QList<DayOff> holidaysAdded(const QString& area, int year, const QList<DayOff>& daysOff)
+{
+    const bool hasAny = std::ranges::any_of(daysOff, [year](const DayOff& dayOff) {
         return dayOff.source == DayOffSource::Holidays && dayOff.date.year() == year;
     });
+    return hasAny ? publicHolidays(area, year) : QList<DayOff>();
 }
 
 } // namespace
@@ -52,9 +58,9 @@ void HolidayReview::showHolidays()
     const auto present = counting().daysOff();
     QList<ListedDayOff> days;
     for (int year = m_chooser->firstYear(); year <= m_today.year() + yearsAhead; ++year) {
-        const bool isYearKnown = area == m_before && hasHolidays(present, year);
+        const QList<DayOff> added = holidaysAdded(m_before, year, present);
         for (const DayOff& holiday : publicHolidays(area, year))
-            days.append(listed(holiday, present, isYearKnown));
+            days.append(listed(holiday, present, hasDate(added, holiday.date)));
     }
     showDays(days, m_chooser->firstYear());
     const QString before = m_before.isEmpty() || m_before == area ? QString() : holidayAreaName(m_before);
@@ -63,7 +69,7 @@ void HolidayReview::showHolidays()
             : tr("Uncheck the dates on which you work. The holidays of %1 from today on are taken out.").arg(before));
 }
 
-ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present, bool isYearKnown)
+ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present, bool wasAdded)
 {
     holiday.source = DayOffSource::Holidays;
     const auto same = std::ranges::find(present, holiday.date, &DayOff::date);
@@ -74,7 +80,7 @@ ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present,
                     : isWorkday           ? QString()
                                           : tr("not a workday"),
             .isDim = !isWorkday,
-            .isChecked = same == present.end() ? !isYearKnown : isHoliday,
+            .isChecked = same == present.end() ? !wasAdded : isHoliday,
             .isPresent = isHoliday};
 }
 

@@ -19,7 +19,7 @@ protected:
 
 private:
     void showHolidays();
-    [[nodiscard]] ListedDayOff listed(DayOff holiday, const QList<DayOff>& present, bool isYearKnown);
+    [[nodiscard]] ListedDayOff listed(DayOff holiday, const QList<DayOff>& present, bool wasAdded);
 
     QDate m_today;
     /// The region whose holidays are days off already.
