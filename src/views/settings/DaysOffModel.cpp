@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DaysOffModel.h"
 
+#include "CheckedText.h"
 #include "CountingTexts.h"
 
 #include <QLocale>
@@ -104,17 +105,22 @@ QVariant DaysOffModel::data(const QModelIndex& index, int role) const
                                                  : QLocale().toString(dateOf(*listed), QLocale::LongFormat);
     QStringList texts{date, listed->day.name, listed->note};
     texts.removeAll(QString());
-    return texts.join(", "_L1);
+    const QString text = texts.join(", "_L1);
+    return role == Qt::AccessibleTextRole && m_hasCheckboxes
+               ? checkedText(text, listed->isChecked ? Qt::Checked : Qt::Unchecked)
+               : text;
 }
 
 QVariant DaysOffModel::yearData(const YearRows& year, int role) const
 {
     if (role == Qt::CheckStateRole && m_hasCheckboxes)
         return checkedOf(year);
-    if (role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
         return {};
-    return tr("%1: %2", "year, number of days off")
-        .arg(QString::number(dateOf(m_days.at(year.firstDay)).year()), counting_texts::daysOff(year.dayCount));
+    const QString text =
+        tr("%1: %2", "year, number of days off")
+            .arg(QString::number(dateOf(m_days.at(year.firstDay)).year()), counting_texts::daysOff(year.dayCount));
+    return role == Qt::AccessibleTextRole && m_hasCheckboxes ? checkedText(text, checkedOf(year)) : text;
 }
 
 Qt::CheckState DaysOffModel::checkedOf(const YearRows& year) const

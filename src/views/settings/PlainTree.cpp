@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PlainTree.h"
 
+#include "Accessibility.h"
 #include "Fonts.h"
 #include "Theme.h"
 #include "ThinScrollBarStyle.h"
@@ -29,6 +30,25 @@ void PlainTree::drawRing(QPainter& painter, const QStyleOptionViewItem& row)
     painter.setPen(QPen(themeFor(row.palette).accent, 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(row.rect).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
+}
+
+void PlainTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    // Of a tree, some versions of Qt report the current row to screen readers wherever the focus is.
+    if (hasFocus())
+        QTreeView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
+}
+
+void PlainTree::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
+{
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+    const QModelIndex current = currentIndex();
+    const bool isCurrent =
+        current.parent() == topLeft.parent() && current.row() >= topLeft.row() && current.row() <= bottomRight.row();
+    if (isCurrent && hasFocus() && roles.contains(Qt::CheckStateRole))
+        announce(*this, current.data(Qt::AccessibleTextRole).toString());
 }
 
 // The style shows where the focus is only once the keyboard is used.

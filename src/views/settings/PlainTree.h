@@ -14,6 +14,8 @@ public:
     static void drawRing(QPainter& painter, const QStyleOptionViewItem& row);
 
 protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

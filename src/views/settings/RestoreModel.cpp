@@ -2,6 +2,7 @@
 #include "RestoreModel.h"
 
 #include "BackupTexts.h"
+#include "CheckedText.h"
 
 #include <QLocale>
 
@@ -117,6 +118,9 @@ QVariant RestoreModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
+    if (role == Qt::AccessibleTextRole && index.internalId() == topLevel)
+        return checkedText(data(index, Qt::DisplayRole).toString(),
+                           data(index, Qt::CheckStateRole).value<Qt::CheckState>());
     if (isAllRow(index))
         return role == Qt::DisplayRole      ? QVariant(tr("All Months"))
                : role == Qt::CheckStateRole ? QVariant(allChecked())
