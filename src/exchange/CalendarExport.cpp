@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarExport.h"
 
+#include <QTimeZone>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -8,7 +10,7 @@ namespace {
 constexpr qsizetype longestLine = 75; // in bytes, without the line break
 
 // Later texts of an event need a greater number, which must fit into 31 bits: seconds since this time do until 2094.
-const QDateTime firstSequence(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC);
+const QDateTime firstSequence(QDate(2026, 1, 1), QTime(0, 0), QTimeZone::utc());
 
 bool isWithinCharacter(char byte)
 {

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QHash>
+#include <QTimeZone>
 
 namespace {
 
@@ -102,6 +103,7 @@ void addDayOff(CsvWriter& writer, const std::optional<DayOff>& dayOff)
 
 void addChange(CsvWriter& writer, const std::optional<DayChange>& change)
 {
+    const auto time = [&] { return QDateTime::fromMSecsSinceEpoch(change->time, QTimeZone::utc()); };
     writer.add(change ? days_csv::nameOf(change->by) : QLatin1StringView());
     if (change)
         writer.add(QDateTime::fromMSecsSinceEpoch(change->time, Qt::UTC));
