@@ -131,7 +131,8 @@ TEST_F(CalendarViewTest, weeksCountTheirOfficeDaysWithThoseOfTheNeighbouringMont
 TEST_F(CalendarViewTest, theMenuSaysWhyOneIsOutOfOfficeAndThatADayIsNoWorkday)
 {
     using enum Qt::Key;
-    const Theme& theme = themeFor(Look());
+    const Look look;
+    const Theme& theme = themeFor(look);
     const std::tuple<QList<Qt::Key>, QString, QColor, int> rows[]{
         {{Key_A, Key_S}, u"Out of Office (Sick)"_s, theme.outOfOffice, 21},
         {{Key_A, Key_B}, u"Out of Office (Business Trip)"_s, theme.outOfOffice, 21},

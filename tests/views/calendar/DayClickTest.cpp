@@ -36,7 +36,8 @@ TEST_F(DayClickTest, aDayHasTheColourOfItsStateAndTodayARing)
 {
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
         applyScheme(scheme);
-        const Theme& theme = themeFor(Look{scheme});
+        const Look look{scheme};
+        const Theme& theme = themeFor(look);
         for (const int day : {friday, saturday}) {
             const QColor unknown = day == friday ? theme.unknown : theme.nonWorkday;
             for (const QColor& colour :
