@@ -627,6 +627,24 @@
     </message>
 </context>
 <context>
+    <name>CheckedText</name>
+    <message>
+        <source>%1, checked</source>
+        <comment>row of a list</comment>
+        <translation>%1, angekreuzt</translation>
+    </message>
+    <message>
+        <source>%1, partly checked</source>
+        <comment>row of a list</comment>
+        <translation>%1, teilweise angekreuzt</translation>
+    </message>
+    <message>
+        <source>%1, not checked</source>
+        <comment>row of a list</comment>
+        <translation>%1, nicht angekreuzt</translation>
+    </message>
+</context>
+<context>
     <name>CommandRun</name>
     <message>
         <source>Standard output cannot be written.</source>
