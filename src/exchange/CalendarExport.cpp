@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarExport.h"
 
-#include <QTimeZone>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -10,7 +8,7 @@ namespace {
 constexpr qsizetype longestLine = 75; // in bytes, without the line break
 
 // Later texts of an event need a greater number, which must fit into 31 bits: seconds since this time do until 2094.
-const QDateTime firstSequence(QDate(2026, 1, 1), QTime(0, 0), QTimeZone::utc());
+constexpr qint64 firstSequence = 1'767'225'600; // 1 January 2026 in seconds since 1970, in UTC
 
 bool isWithinCharacter(char byte)
 {
@@ -54,7 +52,7 @@ bool isBusy(DayState state)
 QByteArray calendarFile(const QList<DayRecord>& days, const QSet<DayState>& states, const QDateTime& now)
 {
     const QByteArray time = now.toUTC().toString(u"yyyyMMdd'T'HHmmss'Z'"_s).toLatin1();
-    const QByteArray sequence = QByteArray::number(qMax<qint64>(0, firstSequence.secsTo(now)));
+    const QByteArray sequence = QByteArray::number(qMax<qint64>(0, now.toSecsSinceEpoch() - firstSequence));
     QByteArray file;
     for (const char* line : {"BEGIN:VCALENDAR", "VERSION:2.0", "PRODID:-//Pellory//Pellory//EN", "CALSCALE:GREGORIAN"})
         addLine(file, line);

@@ -3,9 +3,11 @@
 
 #include "DaysCsvFormat.h"
 
-#include <QDateTime>
+#include <QDate>
 #include <QHash>
-#include <QTimeZone>
+#include <QTime>
+
+#include <chrono>
 
 namespace {
 
@@ -36,14 +38,19 @@ public:
         append(date);
     }
 
-    void add(const QDateTime& time)
+    /// A time in milliseconds since 1970 began in UTC.
+    void addTime(qint64 milliseconds)
     {
+        const auto since1970 = std::chrono::milliseconds(milliseconds);
+        const auto days = std::chrono::floor<std::chrono::days>(since1970);
+        const auto ofDay = std::chrono::duration_cast<std::chrono::milliseconds>(since1970 - days);
+        const QTime time = QTime::fromMSecsSinceStartOfDay(static_cast<int>(ofDay.count()));
         begin();
-        append(time.date());
-        append('T', time.time().hour(), 2);
-        append(':', time.time().minute(), 2);
-        append(':', time.time().second(), 2);
-        append('.', time.time().msec(), 3);
+        append(QDate(1970, 1, 1).addDays(days.count()));
+        append('T', time.hour(), 2);
+        append(':', time.minute(), 2);
+        append(':', time.second(), 2);
+        append('.', time.msec(), 3);
         m_text += 'Z';
     }
 
@@ -103,10 +110,9 @@ void addDayOff(CsvWriter& writer, const std::optional<DayOff>& dayOff)
 
 void addChange(CsvWriter& writer, const std::optional<DayChange>& change)
 {
-    const auto time = [&] { return QDateTime::fromMSecsSinceEpoch(change->time, QTimeZone::utc()); };
     writer.add(change ? days_csv::nameOf(change->by) : QLatin1StringView());
     if (change)
-        writer.add(QDateTime::fromMSecsSinceEpoch(change->time, Qt::UTC));
+        writer.addTime(change->time);
     else
         writer.add(QLatin1StringView());
     writer.add(change ? change->network : QString());
