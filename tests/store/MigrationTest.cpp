@@ -87,11 +87,13 @@ TEST_F(MigrationTest, addsWhatIsNewAndKeepsTheRestAndACopy)
 
 TEST_F(MigrationTest, keepsEveryValueOfReleasedStoresAndAddsNoRecords)
 {
-    for (const int version : {1, 2}) {
+    for (const int version : {1, 2, 3}) {
         putReleased(version);
         const std::string before = rows(pellorySchema().atVersion(version));
         const auto container = open();
         EXPECT_EQ(rows(pellorySchema().atVersion(version)), before);
+        if (version > 2)
+            continue;
         EXPECT_THAT(changes(container->mainContext()), testing::Each(testing::Truly([](const Row& row) {
                         return row.at(8) == Value(0) && row.at(9) == Value(0);
                     })));

@@ -152,6 +152,8 @@ protected:
         database.exec(releasedStore);
         if (version > 1)
             database.exec(releasedAdditions);
+        if (version > 2)
+            database.exec(releasedCounting);
     }
 
     /// The same, as this program writes it, with a record of each newer kind.
