@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarPage.h"
 
+#include "Accessibility.h"
 #include "Clock.h"
 #include "DayMarker.h"
 #include "Labels.h"
@@ -60,14 +61,21 @@ void CalendarPage::connectNavigation(NavigationRow& navigation)
 
 void CalendarPage::previous(Qt::FocusReason reason)
 {
-    if (const auto month = monthBefore())
-        turnTo(*month, reason);
+    turn(monthBefore(), reason);
 }
 
 void CalendarPage::next(Qt::FocusReason reason)
 {
-    if (const auto month = monthAfter())
-        turnTo(*month, reason);
+    turn(monthAfter(), reason);
+}
+
+void CalendarPage::turn(const std::optional<YearMonth>& month, Qt::FocusReason reason)
+{
+    if (!month)
+        return;
+    turnTo(*month, reason);
+    if (isLoaded() && !focusedDate().isValid()) // or the day is said
+        announce(*this, title());
 }
 
 void CalendarPage::turnTo(const YearMonth& month, Qt::FocusReason /*reason*/)

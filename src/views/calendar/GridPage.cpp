@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "GridPage.h"
 
+#include "CalendarHeader.h"
 #include "CalendarView.h"
 #include "Clock.h"
 #include "CountingRecords.h"
@@ -11,6 +12,7 @@
 #include "StoreError.h"
 #include "UsualWeekPlanner.h"
 
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QMenu>
 
@@ -72,6 +74,14 @@ void GridPage::focusCurrent(Qt::FocusReason reason)
     const QDate day = isShown(today()) ? today() : QDate(month().year, month().month, 1);
     CalendarView& calendar = last == m_cards.end() ? calendarOf(day) : (*last)->calendar();
     calendar.focusCurrentDay(reason);
+}
+
+QString GridPage::title() const
+{
+    QStringList titles;
+    for (MonthCard* card : m_cards)
+        titles.append(calendarTitle(*card->calendar().month(), today()));
+    return QLocale().createSeparatedList(titles);
 }
 
 std::optional<YearMonth> GridPage::monthBefore() const

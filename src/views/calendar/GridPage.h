@@ -44,6 +44,7 @@ protected:
     virtual void showQuarter(const QList<std::shared_ptr<Month>>& months) = 0;
 
     void load() override;
+    [[nodiscard]] QString title() const override;
     [[nodiscard]] std::optional<YearMonth> monthBefore() const override;
     [[nodiscard]] std::optional<YearMonth> monthAfter() const override;
     void turnTo(const YearMonth& month, Qt::FocusReason reason) override;

@@ -235,9 +235,10 @@ bool PlanPopover::canBeTried(QDate date) const
 void PlanPopover::tryDay(QDate date)
 {
     const bool isPlanned = m_tried.value(date, storedState(date)) == DayState::WILL_BE_IN_OFFICE;
-    m_tried[date] = isPlanned ? DayState::UNKNOWN : DayState::WILL_BE_IN_OFFICE;
+    const DayState state = isPlanned ? DayState::UNKNOWN : DayState::WILL_BE_IN_OFFICE;
+    m_tried[date] = state;
     refresh();
-    announce(*this, m_pace->text());
+    announce(*this, DayTexts(m_parts.counting).spoken(date, state) + u". "_s + m_pace->text());
 }
 
 void PlanPopover::fillUsualWeek()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SettingsView.h"
 
+#include "Accessibility.h"
 #include "Bar.h"
 #include "CountingPage.h"
 #include "DataPage.h"
@@ -95,6 +96,8 @@ void SettingsView::addShortcuts()
     const auto add = [this](const QKeySequence& keys, int step) {
         connect(new QShortcut(keys, this), &QShortcut::activated, m_tabs, [this, step] {
             m_tabs->setCurrentIndex((m_tabs->currentIndex() + step + m_tabs->count()) % m_tabs->count());
+            if (!m_tabs->hasFocus()) // or the tab is said
+                announce(*m_tabs, m_tabs->tabText(m_tabs->currentIndex()));
         });
     };
     add(Qt::CTRL | Qt::Key_PageDown, 1);

@@ -130,6 +130,11 @@ void YearView::refresh()
         showPeriod(month());
 }
 
+QString YearView::title() const
+{
+    return m_title->text();
+}
+
 void YearView::load()
 {
     const auto stored = yearMonths(parts().marker.context(), month().year);

@@ -31,6 +31,7 @@ Q_SIGNALS:
 
 protected:
     void load() override;
+    [[nodiscard]] QString title() const override;
     [[nodiscard]] std::optional<YearMonth> monthBefore() const override;
     [[nodiscard]] std::optional<YearMonth> monthAfter() const override;
     void focusDay(QDate date, Qt::FocusReason reason) override;
