@@ -3386,7 +3386,7 @@
     </message>
     <message>
         <source>days a week on average</source>
-        <translation>Tage/Woche im Schnitt</translation>
+        <translation>Tage je Woche</translation>
     </message>
     <message>
         <source>Which days</source>
