@@ -80,8 +80,9 @@ protected:
     [[nodiscard]] SettingsView& view()
     {
         if (!m_view)
-            m_view = std::make_unique<SettingsView>(*settings, wifiClient, locationManager.defaultValue(), check,
-                                                    launchAtLogin, backups, context, counting, clock, viewSettings);
+            m_view = std::make_unique<SettingsView>(SettingsParts{*settings, wifiClient, locationManager.defaultValue(),
+                                                                  check, launchAtLogin, backups, context, counting,
+                                                                  clock, viewSettings});
         return *m_view;
     }
 
@@ -277,7 +278,7 @@ TEST_F(CountingTest, everyHolidayIsReviewedBeforeItCounts)
     press(view(), Qt::Key_H);
     turn(u"2026"_s);
     click(button("addDays"));
-    EXPECT_TRUE(isShown(u"12 days off were added. 2 days off were taken out."_s));
+    EXPECT_TRUE(isShown(u"11 days off were added. 2 days off were taken out."_s)) << "New Year's Day stays out";
     click(button("removeRegion"));
     EXPECT_FALSE(counting.holidayRegion());
     EXPECT_EQ(counting.daysOff(), (QList<DayOff>{{epiphany, u"Company day"_s}}));
