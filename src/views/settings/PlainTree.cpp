@@ -38,7 +38,7 @@ void PlainTree::currentChanged(const QModelIndex& current, const QModelIndex& pr
     if (hasFocus())
         QTreeView::currentChanged(current, previous);
     else
-        QAbstractItemView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call): no report
 }
 
 void PlainTree::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
@@ -52,7 +52,6 @@ void PlainTree::dataChanged(const QModelIndex& topLeft, const QModelIndex& botto
 }
 
 // The style shows where the focus is only once the keyboard is used.
-
 void PlainTree::focusInEvent(QFocusEvent* event)
 {
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
