@@ -5,7 +5,9 @@
 #include "ButtonRow.h"
 #include "ComboBox.h"
 #include "DateField.h"
+#include "FormRows.h"
 #include "Labels.h"
+#include "NumberField.h"
 #include "TextField.h"
 #include "WeekdayButtons.h"
 
@@ -25,42 +27,15 @@ using Subject = AttendanceRule::Subject;
 using Span = AttendanceRule::Span;
 
 constexpr int hundredths = 100;
-constexpr int usualNumberWidth = 62;
 
 template <class Choice> std::pair<QString, int> choiceEntry(const QString& text, Choice choice)
 {
     return {text, static_cast<int>(choice)};
 }
 
-TextField* makeNumberField(const QString& name)
+double numberOf(int amount)
 {
-    auto* field = new TextField({});
-    field->setAccessibleName(name);
-    field->setAlignment(Qt::AlignRight);
-    field->setFixedWidth(fonts::grown(usualNumberWidth, field->font()));
-    return field;
-}
-
-QLabel* besideField(const QString& words)
-{
-    return labels::singleLine(labels::dim(words));
-}
-
-QString amountText(int amount)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(amount / static_cast<double>(hundredths), 'g', QLocale::FloatingPointShortest);
-}
-
-// A decimal point is accepted in every language, because goals are written with one.
-std::optional<double> numberIn(const QString& text)
-{
-    bool isNumber = false;
-    double number = QLocale().toDouble(text, &isNumber);
-    if (!isNumber || text.contains(u'.'))
-        number = text.toDouble(&isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
+    return amount / static_cast<double>(hundredths);
 }
 
 bool isNoDate(const DateField& field)
@@ -74,13 +49,7 @@ RuleForm::RuleForm(const AttendanceRule& rule, const QList<AbsenceKind>& absence
     : QWidget(parent)
     , m_rule(rule)
 {
-    auto* rows = new QFormLayout(this);
-    rows->setContentsMargins({});
-    rows->setHorizontalSpacing(14);
-    rows->setVerticalSpacing(10);
-    rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    rows->setLabelAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    auto* rows = makeFormRows(*this);
     addName(*rows);
     addAmount(*rows);
     addSubject(*rows, absenceKinds);
@@ -131,7 +100,7 @@ void RuleForm::addAmount(QFormLayout& rows)
 {
     m_bound = makeChoice(tr("At least or at most"),
                          {choiceEntry(tr("at least"), Bound::AtLeast), choiceEntry(tr("at most"), Bound::AtMost)});
-    m_amount = makeNumberField(tr("How many"));
+    m_amount = new NumberField(tr("How many"));
     m_amount->setObjectName("ruleAmount"_L1);
     m_unit = makeChoice(tr("Unit"), {choiceEntry(tr("days"), Unit::Days),
                                      choiceEntry(tr("% of the workdays"), Unit::PercentOfWorkdays),
@@ -177,7 +146,7 @@ void RuleForm::addSpan(QFormLayout& rows)
     m_firstMonth = makeChoice(tr("First month"), {});
     for (int month = 1; month <= 12; ++month)
         m_firstMonth->addItem(QLocale().standaloneMonthName(month), month);
-    m_weeks = makeNumberField(tr("How many weeks"));
+    m_weeks = new NumberField(tr("How many weeks"));
     m_weeks->setObjectName("ruleWeeks"_L1);
     m_weeksText = besideField(tr("weeks"));
     addRow(rows, tr("In each"), {m_span, m_anchorText, m_anchor, m_firstMonthText, m_firstMonth, m_weeks, m_weeksText});
@@ -201,7 +170,7 @@ void RuleForm::fill(QDate today)
     };
     m_name->setText(m_rule.name);
     choose(m_bound, m_rule.bound);
-    m_amount->setText(amountText(m_rule.amount));
+    m_amount->setNumber(numberOf(m_rule.amount));
     choose(m_unit, m_rule.unit);
     choose(m_subject, m_rule.subject);
     choose(m_absenceKind, m_rule.absenceKind);
@@ -254,7 +223,7 @@ int RuleForm::largestAmount() const
 
 std::optional<int> RuleForm::amount() const
 {
-    const auto number = numberIn(m_amount->text().trimmed());
+    const auto number = m_amount->number();
     if (!number || !(*number > 0.0) || *number * hundredths > largestAmount())
         return {};
     const auto amount = static_cast<int>(std::lround(*number * hundredths));
@@ -276,7 +245,7 @@ std::optional<RuleForm::Refusal> RuleForm::refusal() const
                 ? tr("How many must be a number above 0 and up to %1, because an average counts weeks "
                      "of %1 workdays")
                 : tr("How many must be a number above 0 and up to %1");
-        return Refusal{m_amount, range.arg(amountText(largestAmount()))};
+        return Refusal{m_amount, range.arg(NumberField::textOf(numberOf(largestAmount())))};
     }
     if (span() == Span::LastWeeks && !weeks()) {
         return Refusal{m_weeks, tr("Weeks must be a whole number between 1 and %1").arg(AttendanceRule::mostWeeks)};

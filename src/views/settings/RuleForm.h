@@ -10,6 +10,7 @@
 class ButtonRow;
 class ComboBox;
 class DateField;
+class NumberField;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -73,7 +74,7 @@ private:
     const AttendanceRule m_rule;
     QLineEdit* m_name = nullptr;
     ComboBox* m_bound = nullptr;
-    QLineEdit* m_amount = nullptr;
+    NumberField* m_amount = nullptr;
     ComboBox* m_unit = nullptr;
     ComboBox* m_subject = nullptr;
     ComboBox* m_absenceKind = nullptr;
@@ -85,7 +86,7 @@ private:
     DateField* m_anchor = nullptr;
     QLabel* m_firstMonthText = nullptr;
     ComboBox* m_firstMonth = nullptr;
-    QLineEdit* m_weeks = nullptr;
+    NumberField* m_weeks = nullptr;
     QLabel* m_weeksText = nullptr;
     DateField* m_from = nullptr;
     DateField* m_until = nullptr;

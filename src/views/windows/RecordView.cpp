@@ -6,6 +6,7 @@
 #include "Clock.h"
 #include "ComboBox.h"
 #include "DateField.h"
+#include "FormRows.h"
 #include "Labels.h"
 #include "RecordContents.h"
 #include "RecordTexts.h"
@@ -28,11 +29,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int linesOfMessage = 2;
-
-QLabel* besideChoice(const QString& words)
-{
-    return labels::singleLine(labels::dim(words));
-}
 
 ComboBox* namedChoice(const char* name, const QString& accessibleName)
 {
@@ -74,13 +70,7 @@ RecordView::RecordView(const ViewParts& parts, QWidget* parent)
     , m_cancel(new Button(tr("Close")))
     , m_save(new Button(tr("Save…")))
 {
-    auto* rows = new QFormLayout(this);
-    rows->setContentsMargins({});
-    rows->setHorizontalSpacing(14);
-    rows->setVerticalSpacing(10);
-    rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    rows->setLabelAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    auto* rows = makeFormRows(*this);
     addPeriod(*rows);
     addForm(*rows);
     for (Switch* toggle : {m_notes, m_changes, m_signature})
@@ -95,12 +85,12 @@ void RecordView::addPeriod(QFormLayout& rows)
 {
     m_from->setObjectName("recordFrom"_L1);
     m_until->setObjectName("recordUntil"_L1);
-    rows.addRow(besideChoice(tr("Period")), m_period);
+    rows.addRow(besideField(tr("Period")), m_period);
     auto* dates = new ButtonRow(Qt::AlignLeft);
     dates->add(m_from);
-    dates->add(besideChoice(tr("to", "between two dates")));
+    dates->add(besideField(tr("to", "between two dates")));
     dates->add(m_until);
-    rows.addRow(besideChoice(tr("From")), dates);
+    rows.addRow(besideField(tr("From")), dates);
     connect(m_period, &QComboBox::currentIndexChanged, this, &RecordView::refresh);
     for (DateField* field : {m_from, m_until}) {
         connect(field, &QLineEdit::textEdited, this, [this] { m_period->setCurrentIndex(m_period->count() - 1); });
@@ -117,9 +107,9 @@ void RecordView::addForm(QFormLayout& rows)
     m_paper->addItem(tr("A4"), QPageSize::A4);
     m_paper->addItem(tr("Letter"), QPageSize::Letter);
     m_paper->setCurrentIndex(m_paper->findData(usualPaper()));
-    rows.addRow(besideChoice(tr("File")), m_format);
-    rows.addRow(besideChoice(tr("Days")), m_days);
-    rows.addRow(besideChoice(tr("Paper")), m_paper);
+    rows.addRow(besideField(tr("File")), m_format);
+    rows.addRow(besideField(tr("Days")), m_days);
+    rows.addRow(besideField(tr("Paper")), m_paper);
     connect(m_format, &QComboBox::currentIndexChanged, this, &RecordView::refresh);
 }
 
