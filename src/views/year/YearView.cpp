@@ -22,6 +22,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -43,7 +44,7 @@ MonthTile::Contents tileOf(const Month& month, const CalendarParts& parts, const
     const Qt::DayOfWeek weekStart = parts.viewSettings.weekStart();
     const auto letters = weekdayLetters(weekStart);
     MonthTile::Contents tile{.first = first,
-                             .name = month.name,
+                             .name = QLocale().standaloneMonthName(first.month()),
                              .weekdays = {letters.begin(), letters.end()},
                              .firstColumn = GridOrder::columnOf(first.dayOfWeek(), weekStart),
                              .cells = {},
