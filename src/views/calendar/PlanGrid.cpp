@@ -22,6 +22,7 @@ constexpr int nameInset = 6;
 constexpr int nameGap = 4;
 // Of days that cannot be pressed.
 constexpr qreal closedOpacity = 0.4;
+constexpr qreal closedOpacityInHighContrast = 0.75;
 
 bool isArrow(int key)
 {
@@ -71,7 +72,9 @@ protected:
     {
         const Theme& theme = themeFor(palette());
         QPainter painter(this);
-        painter.setOpacity(m_cell.canBePressed ? 1.0 : closedOpacity);
+        const bool isHighContrast = theme.outline.alpha() > 0;
+        const qreal closed = isHighContrast ? closedOpacityInHighContrast : closedOpacity;
+        painter.setOpacity(m_cell.canBePressed ? 1.0 : closed);
         const DayCellPainter cell(rect(), fontMetrics(), layoutDirection());
         cell.paint(painter,
                    {.number = QString::number(m_cell.date.day()),

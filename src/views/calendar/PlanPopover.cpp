@@ -116,10 +116,10 @@ void PlanPopover::addButtons()
 {
     auto* buttons = new ButtonRow(Qt::AlignRight);
     if (!m_parts.counting.usualWeek().weekdays.isEmpty()) {
-        auto* fill = new Button(tr("Fill with My Usual Days"));
-        fill->setObjectName("fill"_L1);
-        connect(fill, &QAbstractButton::clicked, this, &PlanPopover::fillUsualWeek);
-        buttons->add(fill);
+        m_fill = new Button(tr("Fill with My Usual Days"));
+        m_fill->setObjectName("fill"_L1);
+        connect(m_fill, &QAbstractButton::clicked, this, &PlanPopover::fillUsualWeek);
+        buttons->add(m_fill);
     }
     m_apply = new Button(tr("Apply"));
     m_apply->setObjectName("apply"_L1);
@@ -219,6 +219,8 @@ void PlanPopover::showWeeks(const QList<PlanWeek>& weeks, const CountedDays& day
     m_grid->setWeeks(shown);
     m_apply->setEnabled(std::any_of(m_tried.keyValueBegin(), m_tried.keyValueEnd(),
                                     [this](const auto& tried) { return storedState(tried.first) != tried.second; }));
+    if (m_fill != nullptr)
+        m_fill->setEnabled(!usualDaysLeft().isEmpty());
 }
 
 DayState PlanPopover::storedState(QDate date) const
@@ -241,13 +243,18 @@ void PlanPopover::tryDay(QDate date)
     announce(*this, DayTexts(m_parts.counting).spoken(date, state) + u". "_s + m_pace->text());
 }
 
-void PlanPopover::fillUsualWeek()
+QList<QDate> PlanPopover::usualDaysLeft() const
 {
     const Weekdays usual = m_parts.counting.usualWeek().weekdays;
-    for (const QDate date : daysToPlan(daysWith(m_tried), usual, m_parts.clock.today())) {
-        if (canBeTried(date))
-            m_tried[date] = DayState::WILL_BE_IN_OFFICE;
-    }
+    QList<QDate> dates = daysToPlan(daysWith(m_tried), usual, m_parts.clock.today());
+    dates.removeIf([this](QDate date) { return !canBeTried(date); });
+    return dates;
+}
+
+void PlanPopover::fillUsualWeek()
+{
+    for (const QDate date : usualDaysLeft())
+        m_tried[date] = DayState::WILL_BE_IN_OFFICE;
     refresh();
     announce(*this, m_pace->text());
 }

@@ -39,6 +39,8 @@ private:
     [[nodiscard]] CountedDays daysWith(const TriedStates& tried) const;
     [[nodiscard]] DayState storedState(QDate date) const;
     [[nodiscard]] bool canBeTried(QDate date) const;
+    /// The usual days that are not planned or tried yet.
+    [[nodiscard]] QList<QDate> usualDaysLeft() const;
 
     CalendarParts m_parts;
     PlanSubject m_subject;
@@ -51,5 +53,7 @@ private:
     PlanGrid* m_grid = nullptr;
     Page* m_weeks = nullptr;
     QLabel* m_problem;
+    /// Nothing while there is no usual week.
+    Button* m_fill = nullptr;
     Button* m_apply = nullptr;
 };
