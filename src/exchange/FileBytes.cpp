@@ -56,6 +56,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
     if (const QFileInfo present(path); present.exists() && !present.isFile())
         refuse(FileError::tr("it is a folder or a device"));
     QSaveFile file(path);
-    if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // A small file is written by flush(), and commit() would not say that the disk is full.
+    if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         refuse(file.errorString());
 }

@@ -61,7 +61,7 @@ void RecordJob::start(const RecordContents& contents, const RecordForm& form, co
         const bool isWhole = write(contents, form, file, progress);
         if (!isWhole && stop.stop_requested())
             return report(Outcome::Stopped, {});
-        const bool isSaved = isWhole && file.commit();
+        const bool isSaved = isWhole && file.flush() && file.commit(); // which would not say that the disk is full
         report(isSaved ? Outcome::Saved : Outcome::Failed, isSaved ? QString() : problemOf(file));
     });
 }

@@ -46,7 +46,8 @@ std::unique_ptr<CommandTarget> targetFor(const StoredData::Place& place)
     if (path == "-"_L1)
         return print(contents);
     QSaveFile file(path);
-    if (file.open(QFile::WriteOnly) && file.write(contents) == contents.size() && file.commit())
+    // commit() would not say that the disk is full.
+    if (file.open(QFile::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
         return EXIT_SUCCESS;
     return fail(CommandRun::tr("%1 cannot be written: %2").arg(path, file.errorString()));
 }

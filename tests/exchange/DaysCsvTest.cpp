@@ -7,7 +7,9 @@
 
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <random>
+#include <sys/resource.h>
 
 namespace {
 
@@ -28,6 +30,27 @@ QString readDays(const QByteArray& text)
 
 const QString header =
     u"date,state,absence,absence_name,counts_as,note,day_off,day_off_from,changed_by,changed_at,network"_s;
+
+/// Makes every write to a file fail, as on a full disk, but only when the bytes leave the process.
+class NoRoomForFiles {
+public:
+    NoRoomForFiles()
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit none{0, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoRoomForFiles()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY_MOVE(NoRoomForFiles)
+
+private:
+    rlimit m_before = {};
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
 
 class RandomDays {
 public:
@@ -124,7 +147,7 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
         {"date,state\n2026-02-30,IN_OFFICE", "Line 2 is left out: \"2026-02-30\" is not a date such as 2026-11-20."},
         {"date,state,note\n2026-11-20,HERE,\"\n\"\n2026-11-21",
          "Line 2 is left out: \"HERE\" is not a state of a day.; "
-         "Line 4 is left out: it has 1 cells, and the first line has 3."},
+         "Line 4 is left out: its number of cells is 1, and that of the first line 3."},
         {"date,state,absence\n2026-11-20,IN_OFFICE,SICK",
          "Line 2 is left out: only a day out of office has a kind of absence."},
         {"date,state\n2026-11-20,\"IN_OFFICE\n2026-11-21,IN_OFFICE",
@@ -195,5 +218,11 @@ TEST(DaysCsv, whatIsNoListSaysWhatToDo)
         const OrdinaryUser user;
         EXPECT_THAT(reason([&] { writeFile(path, "xx"); }).toStdString(), testing::HasSubstr("cannot be written"));
     }
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    {
+        const NoRoomForFiles full;
+        EXPECT_THAT(reason([&] { writeFile(path, "xx"); }).toStdString(), testing::HasSubstr("cannot be written"));
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(QFileInfo(path).size(), 1);
 }

@@ -77,7 +77,8 @@ void AutostartEntry::registerItem()
     const QString entry = u"[Desktop Entry]\nType=Application\nName=Pellory\nIcon=io.github.pellory.Pellory\n"
                           "Exec=%1 --at-login\nTerminal=false\nStartupNotify=false\n"_s.arg(arguments.join(u' '));
     QSaveFile file(m_path);
-    if (!file.open(QFile::WriteOnly) || file.write(entry.toUtf8()) < 0 || !file.commit())
+    // commit() would not say that the disk is full.
+    if (!file.open(QFile::WriteOnly) || file.write(entry.toUtf8()) < 0 || !file.flush() || !file.commit())
         throw PlatformError(file.errorString());
 }
 
