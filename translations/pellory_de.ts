@@ -1323,8 +1323,8 @@
         </translation>
     </message>
     <message>
-        <source>it has %1 cells, and the first line has %2</source>
-        <translation>sie hat %1 Zellen, die erste Zeile hat %2</translation>
+        <source>its number of cells is %1, and that of the first line %2</source>
+        <translation>sie hat die Zellenzahl %1, die erste Zeile %2</translation>
     </message>
     <message>
         <source>its date is in line %1 already</source>
@@ -1598,8 +1598,8 @@
         <translation>Importiert: %1.</translation>
     </message>
     <message>
-        <source>%1 Ctrl+Z in the main window takes the days back.</source>
-        <translation>%1 Strg+Z im Hauptfenster nimmt die Tage zurück.</translation>
+        <source>%1 Ctrl+Z in the main window takes this back.</source>
+        <translation>%1 Strg+Z im Hauptfenster nimmt dies zurück.</translation>
     </message>
     <message>
         <source>1 note</source>
@@ -1624,8 +1624,8 @@
         </translation>
     </message>
     <message>
-        <source>%1 Ctrl+Z in the main window takes the days back; notes, days off and kinds of absence stay.</source>
-        <translation>%1 Strg+Z im Hauptfenster nimmt die Tage zurück; Notizen, freie Tage und Arten der Abwesenheit bleiben.</translation>
+        <source>%1 Ctrl+Z in the main window takes back what was marked; notes, days off and kinds of absence stay.</source>
+        <translation>%1 Strg+Z im Hauptfenster nimmt das Markierte zurück; Notizen, freie Tage und Arten der Abwesenheit bleiben.</translation>
     </message>
 </context>
 <context>

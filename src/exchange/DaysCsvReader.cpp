@@ -102,7 +102,7 @@ void DaysCsvReader::readRow(const CsvRow& row)
         if (!row.problem.isEmpty())
             throw RowProblem{row.problem};
         if (row.cells.size() != m_width)
-            throw RowProblem{FileError::tr("it has %1 cells, and the first line has %2")
+            throw RowProblem{FileError::tr("its number of cells is %1, and that of the first line %2")
                                  .arg(QString::number(row.cells.size()), QString::number(m_width))};
         const DayRecord day = dayIn(row);
         if (const int line = m_lines.value(day.date); line != 0)

@@ -216,10 +216,10 @@ void ImportView::reportImport()
         Q_EMIT finished(done);
     else if (parts.size() > 1 || m_found->hasNewKinds())
         Q_EMIT finished(
-            tr("%1 Ctrl+Z in the main window takes the days back; notes, days off and kinds of absence stay.")
+            tr("%1 Ctrl+Z in the main window takes back what was marked; notes, days off and kinds of absence stay.")
                 .arg(done));
     else
-        Q_EMIT finished(tr("%1 Ctrl+Z in the main window takes the days back.").arg(done));
+        Q_EMIT finished(tr("%1 Ctrl+Z in the main window takes this back.").arg(done));
 }
 
 QString ImportView::notesText() const

@@ -132,7 +132,7 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     EXPECT_EQ(named<QTreeView>(view, "importedDays").model()->index(2, 0).data(),
               u"October 2026: 1 day marked otherwise here"_s);
     click(named<Button>(view, "import"));
-    EXPECT_TRUE(waitFor(u"takes the days back; notes, days off and kinds of absence stay."_s));
+    EXPECT_TRUE(waitFor(u"takes back what was marked; notes, days off and kinds of absence stay."_s));
     EXPECT_EQ(stateOf(october), DayState::IN_OFFICE);
     EXPECT_EQ(stateOf(november), DayState::IN_OFFICE);
     EXPECT_EQ(marker.notes().noteOf(november)->text.value(), u"New"_s);
