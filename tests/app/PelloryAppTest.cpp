@@ -138,7 +138,7 @@ TEST_F(PelloryAppTest, startsBesideAProgramThatTakesShortLocks)
         }
     });
     for (int i = 0; i < 50; ++i)
-        EXPECT_EQ(start(60s), u""_s);
+        EXPECT_EQ(start(600s), u""_s); // so long that not even a busy machine shows the notice
 }
 
 TEST_F(PelloryAppTest, sharesTheStoreWithNoOtherPellory)
