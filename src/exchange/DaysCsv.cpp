@@ -31,7 +31,7 @@ public:
         m_text += isQuoted ? '"' + bytes.replace('"', "\"\"") + '"' : bytes;
     }
 
-    // Most of the work, if QDate::toString() did it.
+    // QDate::toString() would take most of the time of an export.
     void add(QDate date)
     {
         begin();

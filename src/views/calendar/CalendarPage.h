@@ -72,9 +72,9 @@ protected:
 
     /// Reads and shows the period of month(). Throws a StoreError if the store cannot be read.
     virtual void load() = 0;
-    /// A month of the periods beside this one; none at the ends of the calendar.
     /// Names what is shown.
     [[nodiscard]] virtual QString title() const = 0;
+    /// A month of the periods beside this one; none at the ends of the calendar.
     [[nodiscard]] virtual std::optional<YearMonth> monthBefore() const = 0;
     [[nodiscard]] virtual std::optional<YearMonth> monthAfter() const = 0;
     /// As showPeriod(), after a key or a click.
