@@ -8,6 +8,7 @@
 #include "ModelContext.h"
 #include "Notifier.h"
 #include "SaveAlert.h"
+#include "StoreError.h"
 #include "TrayHost.h"
 #include "TrayIcon.h"
 #include "UndoHistory.h"
@@ -64,8 +65,12 @@ void Background::handleLastClosed()
 // Does nothing if it was done before, or the day was changed since.
 void Background::undo(qint64 group)
 {
-    if (m_parts.history.undo(group))
-        m_notifier.withdrawChanges(group);
+    try {
+        if (m_parts.history.undo(group))
+            m_notifier.withdrawChanges(group);
+    } catch (const StoreError& error) {
+        m_notifier.post({tr("Pellory"), error.description(), {}});
+    }
 }
 
 void Background::runCheck()

@@ -80,22 +80,20 @@ struct UndoHistory::UndoStep {
 // What cannot be taken back, such as clicks through all states, is passed over.
 bool UndoHistory::undo()
 {
-    return logErrors([this] {
-        UndoStep step;
-        Reversals reversals;
-        m_marker.context().visitChanges([&](const DayChange& change) {
-            if (reversals.include(change))
-                return true;
-            if (change.group != step.group) {
-                if (!marksOf(step).isEmpty())
-                    return false;
-                step = {.group = change.group};
-            }
-            step.add(change);
+    UndoStep step;
+    Reversals reversals;
+    m_marker.context().visitChanges([&](const DayChange& change) {
+        if (reversals.include(change))
             return true;
-        });
-        return take(step);
+        if (change.group != step.group) {
+            if (!marksOf(step).isEmpty())
+                return false;
+            step = {.group = change.group};
+        }
+        step.add(change);
+        return true;
     });
+    return take(step);
 }
 
 bool UndoHistory::undo(qint64 group)
@@ -105,43 +103,40 @@ bool UndoHistory::undo(qint64 group)
 
 bool UndoHistory::undo(qint64 group, const std::function<bool(QDate)>& isWanted)
 {
-    return logErrors([&, this] {
-        UndoStep step{.group = group};
-        Reversals reversals;
-        QSet<QDate> changedLater;
-        m_marker.context().visitChanges([&](const DayChange& change) {
-            const bool isInForce = !reversals.contains(change) && !changedLater.contains(change.date);
-            if (change.group == group && isInForce && isWanted(change.date))
-                step.add(change);
-            else if (change.group != group && !reversals.include(change))
-                changedLater.insert(change.date);
-            return change.group >= group;
-        });
-        return take(step);
+    UndoStep step{.group = group};
+    Reversals reversals;
+    QSet<QDate> changedLater;
+    m_marker.context().visitChanges([&](const DayChange& change) {
+        const bool isInForce = !reversals.contains(change) && !changedLater.contains(change.date);
+        if (change.group == group && isInForce && isWanted(change.date))
+            step.add(change);
+        else if (change.group != group && !reversals.include(change))
+            changedLater.insert(change.date);
+        return change.group >= group;
     });
+    return take(step);
 }
 
 bool UndoHistory::undoCheck(QDate date, DayState before)
 {
-    const qint64 check = logErrors([&] {
-        qint64 group = 0;
+    return logErrors([&, this] {
+        qint64 check = 0;
         Reversals reversals;
         m_marker.context().visitChanges(date, [&](const DayChange& change) {
             if (reversals.include(change))
                 return true;
             if (change.by == ChangedBy::Check && change.before == before)
-                group = change.group;
+                check = change.group;
             return false;
         });
-        return group;
+        // An import has other days in the same group.
+        return check != 0 && undo(check, [date](QDate each) { return each == date; });
     });
-    // An import has other days in the same group.
-    return check != 0 && undo(check, [date](QDate each) { return each == date; });
 }
 
 bool UndoHistory::redo()
 {
-    const qint64 group = logErrors([this] { return groupToRedo(); });
+    const qint64 group = groupToRedo();
     return group != 0 && undo(group);
 }
 

@@ -20,15 +20,18 @@ public:
     {
     }
 
-    /// Takes back the last group of changes that is in force. False if there is none.
+    /// Takes back the last group of changes that is in force. False if there is none. Throws a StoreError if the store
+    /// cannot be read.
     bool undo();
-    /// Takes back one group, such as that of a notification. False if none of its days is as the group left it.
+    /// Takes back one group, such as that of a notification. False if none of its days is as the group left it. Throws
+    /// a StoreError if the store cannot be read.
     bool undo(qint64 group);
-    /// Takes back the mark of a check that is in force on a day, and no other day. False if there is none, or the day
-    /// was not in the state `before` it.
-    bool undoCheck(QDate date, DayState before);
-    /// Takes back the last undo, unless something else was changed since. False if there is none.
+    /// Takes back the last undo, unless something else was changed since. False if there is none. Throws a StoreError
+    /// if the store cannot be read.
     bool redo();
+    /// Takes back the mark of a check that is in force on a day, and no other day. False if there is none, the day was
+    /// not in the state `before` it, or the store cannot be read.
+    bool undoCheck(QDate date, DayState before);
 
     /// The changes of a day, the newest first. Empty if the store cannot be read.
     [[nodiscard]] QList<DayChange> changesOf(QDate date) const;

@@ -75,7 +75,7 @@ void DayCommands::mark(const WrittenMarks& marks)
 
 void DayCommands::undo()
 {
-    if (!m_parts.history.undo())
+    if (!reading([this] { return m_parts.history.undo(); }))
         throw CommandError(CommandError::Cause::NothingToUndo, tr("There is nothing to take back."));
     requireSaved();
 }

@@ -8,6 +8,7 @@
 #include "DayChange.h"
 #include "FootLine.h"
 #include "Page.h"
+#include "StoreError.h"
 #include "UndoHistory.h"
 
 #include <QApplication>
@@ -29,18 +30,26 @@ UndoLine::UndoLine(DayMarker& marker, UndoHistory& history, const Clock& clock, 
 
 void UndoLine::undo()
 {
-    if (m_history.undo())
+    if (revert([this] { return m_history.undo(); }, tr("Nothing to undo")))
         showChangedDay();
-    else
-        showMessage(tr("Nothing to undo"));
 }
 
 void UndoLine::redo()
 {
-    if (m_history.redo())
+    if (revert([this] { return m_history.redo(); }, tr("Nothing to redo")))
         showChangedDay();
-    else
-        showMessage(tr("Nothing to redo"));
+}
+
+bool UndoLine::revert(const std::function<bool()>& action, const QString& nothing)
+{
+    try {
+        if (action())
+            return true;
+        showMessage(nothing);
+    } catch (const StoreError& error) {
+        showMessage(error.description());
+    }
+    return false;
 }
 
 void UndoLine::note(const ChangedDays& change)
@@ -93,11 +102,11 @@ void UndoLine::revertShown()
         return;
     m_sinceRevert.start();
     const auto changes = m_changes; // reverting notes others
-    bool isReverted = false;
-    std::for_each(changes.rbegin(), changes.rend(),
-                  [&](const ChangedDays& change) { isReverted |= m_history.undo(change.group); });
-    if (!isReverted)
-        showMessage(tr("Nothing to undo"));
+    const auto undoAll = [&] {
+        return std::count_if(changes.rbegin(), changes.rend(),
+                             [this](const ChangedDays& change) { return m_history.undo(change.group); }) > 0;
+    };
+    revert(undoAll, tr("Nothing to undo"));
 }
 
 void UndoLine::makeRoom()

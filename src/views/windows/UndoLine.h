@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
+
 class CalendarPage;
 class Clock;
 class FootLine;
@@ -31,6 +33,9 @@ private:
     void showChanges();
     void showChangedDay();
     void revertShown();
+    /// Runs an undo or a redo, and says why if it has changed nothing. `nothing` is the usual reason. Returns whether
+    /// it has changed something.
+    bool revert(const std::function<bool()>& action, const QString& nothing);
     void makeRoom();
     /// Whether a click through the states has ended where it began.
     [[nodiscard]] bool isAsBefore(const ChangedDays& change) const;

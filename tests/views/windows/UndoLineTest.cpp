@@ -7,6 +7,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <SQLiteCpp/Database.h>
+
 class UndoLineTest : public ViewTest {
 protected:
     UndoLineTest() { show(window); }
@@ -60,6 +62,11 @@ TEST_F(UndoLineTest, saysWhatChangedAndTakesItBackByKeyAndLink)
          },
          u"Nothing to redo"_s},
         {undo, u"Taken back: 2 days"_s},
+        {[&] {
+             SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec("CREATE TABLE others (any)");
+             undo();
+         },
+         u"Another program has changed the data file."_s},
     };
     for (const auto& [action, text] : rows) {
         action();
