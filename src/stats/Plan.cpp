@@ -58,8 +58,10 @@ QList<ValuedGoal> goalsToPlan(const AttendanceStatistics& statistics)
 RuleProgress goalProgress(const ValuedGoal& goal, const AttendanceStatistics& statistics, const CountedDays& days,
                           QDate today)
 {
-    RuleProgress progress{
-        .span = days.span(), .wanted = neededDays(goal.value, statistics.workdays), .counted = statistics.inOffice};
+    RuleProgress progress{.span = days.span(),
+                          .wanted = neededDays(goal.value, statistics.workdays),
+                          .counted = statistics.inOffice,
+                          .workdays = statistics.workdays};
     qint64 possible = 0;
     for (const CountedDays::Entry& day : days.in(common(days.span(), {today, days.span().last}))) {
         const bool isLeft = day.counted.isWorkday && isStillOpen(day.state);

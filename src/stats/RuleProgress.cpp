@@ -207,7 +207,8 @@ std::optional<RuleProgress> ruleProgress(const AttendanceRule& rule, const Count
                           .wanted = wantedOf(rule, days, whole, span, tally.workdays),
                           .counted = tally.counted,
                           .planned = tally.planned,
-                          .workdaysLeft = tally.workdaysLeft};
+                          .workdaysLeft = tally.workdaysLeft,
+                          .workdays = tally.workdays};
     conclude(progress, rule.bound, tally.possible);
     return progress;
 }

@@ -67,6 +67,8 @@ struct RuleProgress {
     /// The days that a broken rule lacks, or has too many; otherwise 0.
     qint64 missedBy = 0;
     Verdict verdict = Verdict::Open;
+    /// Of the whole span, among the weekdays of the rule.
+    qint64 workdays = 0;
 
     /// At least: what is still needed, without the planned days. At most: what is still allowed, negative if too many.
     [[nodiscard]] qint64 remaining() const { return wanted - counted; }

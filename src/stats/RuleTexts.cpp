@@ -39,6 +39,29 @@ QString neededText(const RuleProgress& progress)
                : RuleTexts::tr("%1 more by %2, %3 workdays left").arg(numbers[0], endOf(progress), numbers[1]);
 }
 
+QString noWorkdaysText(Weekdays weekdays)
+{
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        if (weekdays == Weekdays().with(day, true))
+            //: "no Friday is a workday"
+            return RuleTexts::tr("Cannot be reached: no %1 is a workday").arg(QLocale().standaloneDayName(day));
+    }
+    return RuleTexts::tr("Cannot be reached: none of the days is a workday");
+}
+
+// Of a span that had too few workdays from the start, it says so.
+QString unreachableText(const AttendanceRule& rule, const RuleProgress& progress)
+{
+    const QStringList numbers{QString::number(progress.workdays), QString::number(progress.missedBy)};
+    if (progress.workdays == 0)
+        return noWorkdaysText(rule.weekdays);
+    if (progress.workdays >= progress.wanted)
+        return RuleTexts::tr("Cannot be reached any more (%1 short)").arg(numbers[1]);
+    return progress.workdays == 1
+               ? RuleTexts::tr("Cannot be reached: only 1 workday (%1 short)").arg(numbers[1])
+               : RuleTexts::tr("Cannot be reached: only %1 workdays (%2 short)").arg(numbers[0], numbers[1]);
+}
+
 QString spansText(AttendanceRule::Span span)
 {
     switch (span) {
@@ -73,6 +96,8 @@ QString ruleCountText(const AttendanceRule& rule, const RuleProgress& progress)
 QString ruleOutlookText(const AttendanceRule& rule, const RuleProgress& progress, QDate today)
 {
     const bool isOver = progress.span.last < today;
+    if (progress.wanted == 0 && progress.workdays == 0 && progress.missedBy == 0)
+        return RuleTexts::tr("No workdays in this period");
     if (isAtMost(rule))
         return allowedText(progress, isOver);
     switch (progress.verdict) {
@@ -83,8 +108,7 @@ QString ruleOutlookText(const AttendanceRule& rule, const RuleProgress& progress
     case RuleProgress::Verdict::Open:
         break;
     case RuleProgress::Verdict::Broken:
-        return isOver ? RuleTexts::tr("Missed by %1").arg(progress.missedBy)
-                      : RuleTexts::tr("Cannot be reached any more (%1 short)").arg(progress.missedBy);
+        return isOver ? RuleTexts::tr("Missed by %1").arg(progress.missedBy) : unreachableText(rule, progress);
     }
     return neededText(progress);
 }
