@@ -47,7 +47,7 @@ ListedDayOff CalendarFileReview::listed(DayOff dayOff, const QSet<QDate>& presen
     const bool isPresent = present.contains(dayOff.date);
     const bool isWorkday = counting().counting().value().isScheduled(dayOff.date);
     return {.day = dayOff,
-            .note = isPresent   ? tr("already a day off")
+            .note = isPresent   ? tr("already off")
                     : isWorkday ? QString()
                                 : tr("not a workday"),
             .isDim = !isWorkday,

@@ -4,11 +4,15 @@
 #include "CountingTexts.h"
 #include "DaysOffModel.h"
 #include "Fonts.h"
+#include "Labels.h"
 #include "PlainTree.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace {
 
@@ -58,38 +62,61 @@ void DayOffDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     if (const ListedDayOff* listed = dayOffAt(index)) {
         QStyleOptionViewItem row = option;
         initStyleOption(&row, index);
-        const QStyle* style = row.widget != nullptr ? row.widget->style() : QApplication::style();
-        paintDay(*painter, row, style->subElementRect(QStyle::SE_ItemViewItemText, &row, row.widget), *listed);
+        paintDay(*painter, row, *listed);
     }
     PlainTree::drawRing(*painter, option);
     painter->restore();
 }
 
-void DayOffDelegate::paintDay(QPainter& painter, const QStyleOptionViewItem& option, const QRect& area,
-                              const ListedDayOff& listed) const
+DayOffDelegate::Places DayOffDelegate::placesIn(const QStyleOptionViewItem& option, const ListedDayOff& listed) const
+{
+    const QFontMetrics metrics(m_font);
+    const QStyle* style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    Places places;
+    places.whole = style->subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget);
+    const QRect inside = places.whole.adjusted(4, 0, -scrollBarRoom, 0);
+    places.date = {inside.topLeft(), QSize(m_dateWidth, inside.height())};
+    places.name = inside.adjusted(m_dateWidth + dayOffGap, 0, 0, 0);
+    const int noteWidth = metrics.horizontalAdvance(listed.note);
+    if (!listed.note.isEmpty() && places.name.width() >= noteWidth + dayOffGap + m_leastNameWidth) {
+        places.note = places.name.adjusted(places.name.width() - noteWidth, 0, 0, 0);
+        places.name.adjust(0, 0, -noteWidth - dayOffGap, 0);
+    }
+    return places;
+}
+
+void DayOffDelegate::paintDay(QPainter& painter, const QStyleOptionViewItem& option, const ListedDayOff& listed) const
 {
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const QColor text = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::WindowText);
     const QColor dim = isSelected ? text : option.palette.color(QPalette::PlaceholderText);
-    const auto draw = [&](QRect place, const QString& words, Qt::Alignment edge, const QColor& color) {
-        place = QStyle::visualRect(option.direction, area, place);
-        const Qt::Alignment side = QStyle::visualAlignment(option.direction, edge) | Qt::AlignVCenter;
+    const Places places = placesIn(option, listed);
+    const auto draw = [&](const QRect& place, const QString& words, const QColor& color) {
         painter.setPen(color);
-        painter.drawText(place, static_cast<int>(side),
+        painter.drawText(QStyle::visualRect(option.direction, places.whole, place),
+                         static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter),
                          painter.fontMetrics().elidedText(words, Qt::ElideRight, place.width()));
     };
     painter.setFont(m_font);
     const QColor& color = listed.isDim ? dim : text;
-    QRect rest = area.adjusted(4, 0, -scrollBarRoom, 0);
-    draw({rest.topLeft(), QSize(m_dateWidth, rest.height())}, counting_texts::dayAndMonth(listed.day.date),
-         Qt::AlignLeft, color);
-    rest.adjust(m_dateWidth + dayOffGap, 0, 0, 0);
-    const int noteWidth = painter.fontMetrics().horizontalAdvance(listed.note);
-    if (!listed.note.isEmpty() && rest.width() >= noteWidth + dayOffGap + m_leastNameWidth) {
-        draw(rest, listed.note, Qt::AlignRight, dim);
-        rest.adjust(0, 0, -noteWidth - dayOffGap, 0);
-    }
-    draw(rest, listed.day.name, Qt::AlignLeft, color);
+    draw(places.date, counting_texts::dayAndMonth(listed.day.date), color);
+    draw(places.name, listed.day.name, color);
+    draw(places.note, listed.note, dim);
+}
+
+bool DayOffDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                               const QModelIndex& index)
+{
+    const ListedDayOff* listed = event->type() == QEvent::ToolTip && index.isValid() ? dayOffAt(index) : nullptr;
+    if (listed == nullptr)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const Places places = placesIn(row, *listed);
+    const bool isCut = places.note.isEmpty() != listed->note.isEmpty() ||
+                       QFontMetrics(m_font).horizontalAdvance(listed->day.name) > places.name.width();
+    QToolTip::showText(event->globalPos(), isCut ? labels::help(index.data().toString()) : QString(), view);
+    return true;
 }
 
 bool DayOffDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,

@@ -191,6 +191,8 @@ void DaysOffCard::remove()
     showMessage(counting_texts::changed(0, dates.size()));
     if (m_tree->isHidden())
         m_date->setFocus(Qt::TabFocusReason);
+    else if (m_tree->hasFocus())
+        m_tree->selectCurrent(); // the neighbour, from which keys go on
 }
 
 void DaysOffCard::removeRegion()

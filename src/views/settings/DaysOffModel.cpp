@@ -117,16 +117,21 @@ QVariant DaysOffModel::yearData(const YearRows& year, int role) const
         return checkedOf(year);
     if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
         return {};
-    const QString text =
-        tr("%1: %2", "year, number of days off")
-            .arg(QString::number(dateOf(m_days.at(year.firstDay)).year()), counting_texts::daysOff(year.dayCount));
+    const QString text = tr("%1: %2", "year, number of days off")
+                             .arg(QString::number(dateOf(m_days.at(year.firstDay)).year()),
+                                  counting_texts::daysOff(m_hasCheckboxes ? checkedCount(year) : year.dayCount));
     return role == Qt::AccessibleTextRole && m_hasCheckboxes ? checkedText(text, checkedOf(year)) : text;
+}
+
+qsizetype DaysOffModel::checkedCount(const YearRows& year) const
+{
+    const auto first = m_days.begin() + year.firstDay;
+    return std::count_if(first, first + year.dayCount, std::mem_fn(&ListedDayOff::isChecked));
 }
 
 Qt::CheckState DaysOffModel::checkedOf(const YearRows& year) const
 {
-    const auto first = m_days.begin() + year.firstDay;
-    const auto count = std::count_if(first, first + year.dayCount, std::mem_fn(&ListedDayOff::isChecked));
+    const qsizetype count = checkedCount(year);
     return count == 0 ? Qt::Unchecked : count == year.dayCount ? Qt::Checked : Qt::PartiallyChecked;
 }
 

@@ -56,6 +56,7 @@ private:
     };
 
     [[nodiscard]] QVariant yearData(const YearRows& year, int role) const;
+    [[nodiscard]] qsizetype checkedCount(const YearRows& year) const;
     [[nodiscard]] Qt::CheckState checkedOf(const YearRows& year) const;
 
     bool m_hasCheckboxes;

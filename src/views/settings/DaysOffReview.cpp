@@ -96,16 +96,27 @@ QSet<QDate> DaysOffReview::datesOff() const
 
 void DaysOffReview::refreshButton()
 {
-    const auto added = count(true, false);
-    m_add->setText(added == 0   ? tr("Save")
-                   : added == 1 ? tr("Add 1 Day Off")
-                                : tr("Add %n Days Off", nullptr, static_cast<int>(added)));
+    const auto added = static_cast<int>(count(true, false));
+    const auto takenOut = static_cast<int>(count(false, true));
+    m_add->setText(changeText(added, takenOut));
     m_add->updateGeometry();
-    const bool isEnabled = added > 0 || count(true, true) > 0 || count(false, true) > 0;
+    const bool isEnabled = added > 0 || count(true, true) > 0 || takenOut > 0;
     // Left alone, the focus would move on to a button that does something else.
     if (!isEnabled && window()->focusWidget() == m_add)
         m_cancel->setFocus(Qt::OtherFocusReason);
     m_add->setEnabled(isEnabled);
+}
+
+QString DaysOffReview::changeText(int added, int takenOut)
+{
+    if (added > 0 && takenOut > 0)
+        //: Numbers of days off.
+        return tr("Add %1, Take Out %2").arg(QString::number(added), QString::number(takenOut));
+    if (added > 0)
+        return added == 1 ? tr("Add 1 Day Off") : tr("Add %n Days Off", nullptr, added);
+    if (takenOut > 0)
+        return takenOut == 1 ? tr("Take Out 1 Day Off") : tr("Take Out %n Days Off", nullptr, takenOut);
+    return tr("Save");
 }
 
 void DaysOffReview::accept()

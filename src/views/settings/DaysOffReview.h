@@ -44,6 +44,7 @@ protected:
 private:
     void build(const QString& heading);
     void refreshButton();
+    [[nodiscard]] static QString changeText(int added, int takenOut);
     void accept();
     [[nodiscard]] qsizetype count(bool isChecked, bool isPresent) const;
 

@@ -36,6 +36,11 @@ void DaysOffTree::showFrom(QDate date)
     updateGeometry();
 }
 
+void DaysOffTree::selectCurrent()
+{
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+}
+
 QList<QDate> DaysOffTree::selectedDates() const
 {
     QList<QDate> dates;

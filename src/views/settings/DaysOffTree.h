@@ -16,6 +16,8 @@ public:
 
     /// Opens the years from that of a date on, and goes to the day off at that date or next to it.
     void showFrom(QDate date);
+    /// Selects the row that the keyboard has reached, and no other.
+    void selectCurrent();
     /// The dates of the selected rows.
     [[nodiscard]] QList<QDate> selectedDates() const;
     /// The date of the row that the keyboard has reached; an invalid one if that is a year.

@@ -62,11 +62,31 @@ void HolidayReview::showHolidays()
         for (const DayOff& holiday : publicHolidays(area, year))
             days.append(listed(holiday, present, hasDate(added, holiday.date)));
     }
+    const bool isOther = !m_before.isEmpty() && m_before != area;
+    if (isOther)
+        days.append(holidaysThatGo(days, present));
     showDays(days, m_chooser->firstYear());
-    const QString before = m_before.isEmpty() || m_before == area ? QString() : holidayAreaName(m_before);
-    say(before.isEmpty()
-            ? tr("Uncheck the dates on which you work.")
-            : tr("Uncheck the dates on which you work. The holidays of %1 from today on are taken out.").arg(before));
+    const QString before = isOther ? holidayAreaName(m_before) : QString();
+    say(before.isEmpty() ? tr("Uncheck the dates on which you work.")
+                         : tr("Uncheck the dates on which you work. Holidays of %1 that are not checked are taken out.")
+                               .arg(before));
+}
+
+QList<ListedDayOff> HolidayReview::holidaysThatGo(const QList<ListedDayOff>& shown, const QList<DayOff>& present)
+{
+    QSet<QDate> shownDates;
+    for (const ListedDayOff& listed : shown)
+        shownDates.insert(listed.day.date);
+    QList<ListedDayOff> days;
+    for (const DayOff& dayOff : present) {
+        if (dayOff.source == DayOffSource::Holidays && dayOff.date >= m_today && !shownDates.contains(dayOff.date))
+            days.append({.day = dayOff,
+                         .note = tr("off until now"),
+                         .isDim = !counting().counting().value().isScheduled(dayOff.date),
+                         .isChecked = false,
+                         .isPresent = true});
+    }
+    return days;
 }
 
 ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present, bool wasAdded)
@@ -76,7 +96,7 @@ ListedDayOff HolidayReview::listed(DayOff holiday, const QList<DayOff>& present,
     const bool isHoliday = same != present.end() && same->source == DayOffSource::Holidays;
     const bool isWorkday = counting().counting().value().isScheduled(holiday.date);
     return {.day = holiday,
-            .note = same != present.end() ? tr("already a day off")
+            .note = same != present.end() ? tr("already off")
                     : isWorkday           ? QString()
                                           : tr("not a workday"),
             .isDim = !isWorkday,

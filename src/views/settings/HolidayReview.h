@@ -19,6 +19,8 @@ protected:
 
 private:
     void showHolidays();
+    /// The holidays of the region before that are taken out, since they are not among those that are shown.
+    [[nodiscard]] QList<ListedDayOff> holidaysThatGo(const QList<ListedDayOff>& shown, const QList<DayOff>& present);
     [[nodiscard]] ListedDayOff listed(DayOff holiday, const QList<DayOff>& present, bool wasAdded);
 
     QDate m_today;
