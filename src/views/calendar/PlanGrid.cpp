@@ -29,6 +29,17 @@ bool isArrow(int key)
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
+QString shortName(int dayOfWeek)
+{
+    return QLocale().standaloneDayName(dayOfWeek, QLocale::ShortFormat);
+}
+
+QString freeDaysName()
+{
+    //: The number of days in a week that can still be planned, as the head of a narrow column.
+    return PlanGrid::tr("Free");
+}
+
 QLabel* makeColumnLabel(const QString& text)
 {
     auto* label = labels::singleLine(labels::dim(text));
@@ -124,8 +135,8 @@ void PlanGrid::build(const QList<Week>& weeks)
     m_freeDays.clear();
     if (weeks.isEmpty())
         return;
-    addHeader(weeks.first().cells);
-    for (int row = 2; const Week& week : weeks) {
+    makeRoomForHeads();
+    for (int row = 1; const Week& week : weeks) {
         if (week.named.isValid())
             addMonthName(week.named, row - 1, static_cast<int>(week.cells.first().date.daysTo(week.named)));
         for (int column = 0; column < daysOfRow; ++column) {
@@ -140,15 +151,29 @@ void PlanGrid::build(const QList<Week>& weeks)
     }
 }
 
-void PlanGrid::addHeader(const QList<Cell>& cells)
+QList<PlanGrid::Column> PlanGrid::columns() const
 {
+    QList<Column> columns;
+    if (m_freeDays.isEmpty())
+        return columns;
+    for (const PlanDayButton* day : m_days.first(daysOfRow))
+        columns.append({shortName(day->cell().date.dayOfWeek()), day->geometry().center().x()});
+    columns.append({freeDaysName(), m_freeDays.first()->geometry().center().x()});
+    return columns;
+}
+
+// The columns of the days are of one width.
+void PlanGrid::makeRoomForHeads()
+{
+    const QFontMetrics metrics(fonts::body(font()));
+    int widest = 0;
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
+        widest = qMax(widest, metrics.horizontalAdvance(shortName(day)));
     for (int column = 0; column < daysOfRow; ++column) {
-        const int day = cells.at(column).date.dayOfWeek();
-        m_grid->addWidget(makeColumnLabel(QLocale().standaloneDayName(day, QLocale::ShortFormat)), 0, column);
+        m_grid->setColumnMinimumWidth(column, widest);
         m_grid->setColumnStretch(column, 1);
     }
-    //: The number of days in a week that can still be planned, as the head of a narrow column.
-    m_grid->addWidget(makeColumnLabel(tr("Free")), 0, daysOfRow);
+    m_grid->setColumnMinimumWidth(daysOfRow, metrics.horizontalAdvance(freeDaysName()));
 }
 
 void PlanGrid::addMonthName(QDate date, int row, int column)

@@ -39,6 +39,13 @@ public:
 
     void setWeeks(const QList<Week>& weeks);
 
+    struct Column {
+        QString name;
+        int centre = 0;
+    };
+    /// The days of the week and the free days, as they are laid out.
+    [[nodiscard]] QList<Column> columns() const;
+
 Q_SIGNALS:
     void pressed(QDate date);
 
@@ -47,7 +54,7 @@ protected:
 
 private:
     void build(const QList<Week>& weeks);
-    void addHeader(const QList<Cell>& cells);
+    void makeRoomForHeads();
     void addMonthName(QDate date, int row, int column);
     /// Lets Tab reach one day.
     void chooseTabStop();

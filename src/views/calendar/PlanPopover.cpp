@@ -15,6 +15,7 @@
 #include "MarkedTextLabel.h"
 #include "Page.h"
 #include "PlanGrid.h"
+#include "PlanHead.h"
 #include "PlanTexts.h"
 #include "ProgressWidgetView.h"
 #include "RuleLine.h"
@@ -38,8 +39,8 @@ Q_LOGGING_CATEGORY(logPlan, "pellory.calendar", QtInfoMsg)
 
 constexpr int linesOfPace = 2;
 // In the usual font, with which they grow. Half a week shows that there are more.
-constexpr int highestGrid = 258;
-constexpr int leastGrid = 95;
+constexpr int highestGrid = 235;
+constexpr int leastGrid = 76;
 constexpr int roomForScrollBar = 12;
 
 } // namespace
@@ -108,7 +109,11 @@ void PlanPopover::addGrid()
     m_weeks = new Page(m_grid);
     m_grid->setAutoFillBackground(false); // which the page has turned on
     m_weeks->viewport()->setAutoFillBackground(false);
-    column().addWidget(m_weeks);
+    auto* days = new QVBoxLayout;
+    days->setSpacing(0);
+    days->addWidget(new PlanHead(*m_grid));
+    days->addWidget(m_weeks);
+    column().addLayout(days);
     addButtons();
 }
 
@@ -139,7 +144,7 @@ void PlanPopover::limitGrid()
     const int height = qMin(room, fonts::grown(highestGrid, font()));
     if (whole <= height)
         return;
-    m_grid->setContentsMargins(0, 0, roomForScrollBar, 0);
+    m_grid->setContentsMargins(isLeftToRight() ? 0 : roomForScrollBar, 0, isLeftToRight() ? roomForScrollBar : 0, 0);
     m_weeks->setFixedHeight(qMax(height, fonts::grown(leastGrid, font())));
 }
 
@@ -219,8 +224,11 @@ void PlanPopover::showWeeks(const QList<PlanWeek>& weeks, const CountedDays& day
     m_grid->setWeeks(shown);
     m_apply->setEnabled(std::any_of(m_tried.keyValueBegin(), m_tried.keyValueEnd(),
                                     [this](const auto& tried) { return storedState(tried.first) != tried.second; }));
-    if (m_fill != nullptr)
-        m_fill->setEnabled(!usualDaysLeft().isEmpty());
+    if (m_fill != nullptr) {
+        const bool isLeft = !usualDaysLeft().isEmpty();
+        m_fill->setEnabled(isLeft);
+        m_fill->setToolTip(isLeft ? QString() : tr("None of your usual days is left to plan"));
+    }
 }
 
 DayState PlanPopover::storedState(QDate date) const

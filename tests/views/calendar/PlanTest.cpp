@@ -2,6 +2,9 @@
 #include "Button.h"
 #include "ContentView.h"
 #include "MarkedTextLabel.h"
+#include "Page.h"
+#include "PlanGrid.h"
+#include "PlanHead.h"
 #include "PlanPopover.h"
 #include "RuleLine.h"
 #include "SettingsView.h"
@@ -75,7 +78,10 @@ TEST_F(PlanTest, followsTheDaysThatAreTriedAndStoresThemOnlyWhenApplied)
     const QPoint place = day("Tuesday 24").mapTo(&plan(), QPoint());
     click(day("Tuesday 24"));
     EXPECT_EQ(pace(), u"3 of the 5 free workdays left: about 2 a week"_s);
-    click(named<Button>(plan(), "fill")); // Tuesday and Thursday
+    auto& fill = named<Button>(plan(), "fill");
+    EXPECT_EQ(fill.toolTip(), QString());
+    click(fill); // Tuesday and Thursday
+    EXPECT_EQ(fill.toolTip(), u"None of your usual days is left to plan"_s);
     EXPECT_EQ(pace(), u"2 of the 4 free workdays left: about 2 a week"_s);
     EXPECT_EQ(day("Tuesday 24").mapTo(&plan(), QPoint()), place);
     press(plan(), Qt::Key_Escape);
@@ -104,6 +110,13 @@ TEST_F(PlanTest, namesTheMonthsOfAQuarter)
     window->resize(534, 900);
     click(*window->findChildren<QLabel*>("goal"_L1).last());
     EXPECT_EQ(shownTexts(plan()).filter(u"ember"_s).mid(1), (QStringList{u"November"_s, u"December"_s}));
+    // The heads stay above the weeks that are scrolled.
+    auto& head = *plan().findChild<PlanHead*>();
+    EXPECT_FALSE(plan().findChild<Page*>()->isAncestorOf(&head));
+    const PlanGrid::Column tuesday = plan().findChild<PlanGrid*>()->columns().at(2);
+    EXPECT_EQ(tuesday.name, u"Tue"_s);
+    EXPECT_EQ(head.mapTo(&plan(), QPoint(tuesday.centre, 0)).x(),
+              day("Tuesday 1 December").mapTo(&plan(), day("Tuesday 1 December").rect().center()).x());
 }
 
 TEST_F(PlanTest, aLineThatCanBePressedIsAButtonToScreenReaders)
