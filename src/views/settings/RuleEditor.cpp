@@ -148,7 +148,7 @@ QWidget* RuleEditor::makeQuestion()
     rows->setHorizontalSpacing(14);
     rows->setVerticalSpacing(10);
     rows->setColumnStretch(1, 1);
-    rows->addWidget(labels::announced(labels::strong(tr("From when on does the change hold?"))), 0, 0, 1, 2);
+    rows->addWidget(labels::announced(labels::strong(tr("When does the change apply?"))), 0, 0, 1, 2);
     m_since = new Button({});
     m_sinceText = labels::dim({});
     auto* always = new Button(tr("Always"));
@@ -216,7 +216,7 @@ void RuleEditor::ask(QDate day)
         static_cast<QVBoxLayout*>(layout())->addWidget(m_question);
     }
     const auto written = [](QDate date) { return QLocale().toString(date, tr("d MMMM yyyy")); };
-    m_since->setText(day == m_today ? tr("Since Today") : tr("Since %1", "a date").arg(written(day)));
+    m_since->setText(day == m_today ? tr("From Today") : tr("From %1", "a date").arg(written(day)));
     m_sinceText->setText(tr("The rule as it was ends on %1 and keeps its figures.").arg(written(day.addDays(-1))));
     showQuestion(true);
 }

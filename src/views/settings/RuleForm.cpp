@@ -292,8 +292,10 @@ void RuleForm::setNamePrompt(const QString& prompt)
 
 void RuleForm::setName(const QString& name)
 {
-    if (m_name->text() != name)
-        m_name->setText(name);
+    if (m_name->text() == name)
+        return;
+    m_name->setText(name);
+    m_name->setCursorPosition(0); // or a long name would show its end
 }
 
 AttendanceRule RuleForm::rule() const
