@@ -156,7 +156,11 @@ Look lookOf(const QPalette& palette)
 {
     // Usual palettes stay below, Qt's own with 239.
     constexpr int highDistance = 250;
-    const int distance = palette.color(QPalette::WindowText).lightness() - palette.color(QPalette::Window).lightness();
+    // Of the active group, since the text of what is disabled stands out less.
+    const auto lightness = [&palette](QPalette::ColorRole role) {
+        return palette.color(QPalette::Active, role).lightness();
+    };
+    const int distance = lightness(QPalette::WindowText) - lightness(QPalette::Window);
     return {distance > 0 ? ColorScheme::Dark : ColorScheme::Light,
             std::abs(distance) >= highDistance ? Contrast::High : Contrast::Normal};
 }

@@ -47,7 +47,10 @@ TEST(ThemeTest, whatIsReadStandsOutFromItsGround)
         for (const QColor& ground : {theme.hoverLabel, theme.fill})
             EXPECT_GE(contrastRatio(Qt::white, ground), least);
         EXPECT_GE(contrastRatio(theme.controlBorder, theme.card), 3.0);
-        EXPECT_EQ(lookOf(paletteFor(look)), look);
+        QPalette palette = paletteFor(look);
+        EXPECT_EQ(lookOf(palette), look);
+        palette.setCurrentColorGroup(QPalette::Disabled);
+        EXPECT_EQ(lookOf(palette), look) << "of what is disabled too";
     }
     for (const QColor& full :
          {themeFor({ColorScheme::Dark, Contrast::High}).text, themeFor({ColorScheme::Dark, Contrast::High}).border,
