@@ -420,12 +420,12 @@
         <translation>Was ausgelassen wurde</translation>
     </message>
     <message>
-        <source>already a day off</source>
-        <translation>schon ein freier Tag</translation>
-    </message>
-    <message>
         <source>not a workday</source>
         <translation>kein Arbeitstag</translation>
+    </message>
+    <message>
+        <source>already off</source>
+        <translation>schon frei</translation>
     </message>
 </context>
 <context>
@@ -1148,6 +1148,22 @@
             <numerusform>%n freie Tage hinzufügen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Add %1, Take Out %2</source>
+        <extracomment>Numbers of days off.</extracomment>
+        <translation>%1 hinzufügen, %2 streichen</translation>
+    </message>
+    <message>
+        <source>Take Out 1 Day Off</source>
+        <translation>1 freien Tag streichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take Out %n Days Off</source>
+        <translation>
+            <numerusform>%n freien Tag streichen</numerusform>
+            <numerusform>%n freie Tage streichen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>DaysPerWeekGoalView</name>
@@ -1506,16 +1522,20 @@
         <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten.</translation>
     </message>
     <message>
-        <source>Uncheck the dates on which you work. The holidays of %1 from today on are taken out.</source>
-        <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten. Die Feiertage von %1 ab heute werden gestrichen.</translation>
-    </message>
-    <message>
-        <source>already a day off</source>
-        <translation>schon ein freier Tag</translation>
-    </message>
-    <message>
         <source>not a workday</source>
         <translation>kein Arbeitstag</translation>
+    </message>
+    <message>
+        <source>Uncheck the dates on which you work. Holidays of %1 that are not checked are taken out.</source>
+        <translation>Entfernen Sie das Häkchen bei Tagen, an denen Sie arbeiten. Feiertage von %1 ohne Häkchen werden gestrichen.</translation>
+    </message>
+    <message>
+        <source>off until now</source>
+        <translation>bisher frei</translation>
+    </message>
+    <message>
+        <source>already off</source>
+        <translation>schon frei</translation>
     </message>
 </context>
 <context>
@@ -2096,6 +2116,10 @@
     <message>
         <source>Apply</source>
         <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>None of your usual days is left to plan</source>
+        <translation>Von Ihren üblichen Tagen ist keiner mehr einzuplanen</translation>
     </message>
 </context>
 <context>
@@ -3313,10 +3337,6 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>From when on does the change hold?</source>
-        <translation>Ab wann gilt die Änderung?</translation>
-    </message>
-    <message>
         <source>Always</source>
         <translation>Schon immer</translation>
     </message>
@@ -3333,21 +3353,25 @@
         <translation>d. MMMM yyyy</translation>
     </message>
     <message>
-        <source>Since Today</source>
-        <translation>Ab heute</translation>
-    </message>
-    <message>
-        <source>Since %1</source>
-        <comment>a date</comment>
-        <translation>Ab %1</translation>
-    </message>
-    <message>
         <source>The rule as it was ends on %1 and keeps its figures.</source>
         <translation>Die bisherige Regel endet am %1 und behält ihre Zahlen.</translation>
     </message>
     <message>
         <source>The rule could not be saved, because your data cannot be read. Try again in a moment.</source>
         <translation>Die Regel konnte nicht gespeichert werden, weil Ihre Daten nicht gelesen werden können. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>When does the change apply?</source>
+        <translation>Ab wann gilt die Änderung?</translation>
+    </message>
+    <message>
+        <source>From Today</source>
+        <translation>Ab heute</translation>
+    </message>
+    <message>
+        <source>From %1</source>
+        <comment>a date</comment>
+        <translation>Ab %1</translation>
     </message>
 </context>
 <context>
@@ -3838,6 +3862,27 @@
     <message>
         <source>Reached in %1</source>
         <translation>In %1 erreicht</translation>
+    </message>
+    <message>
+        <source>Cannot be reached: no %1 is a workday</source>
+        <extracomment>&quot;no Friday is a workday&quot;</extracomment>
+        <translation>Nicht erreichbar: Kein %1 ist ein Arbeitstag</translation>
+    </message>
+    <message>
+        <source>Cannot be reached: none of the days is a workday</source>
+        <translation>Nicht erreichbar: Keiner der Tage ist ein Arbeitstag</translation>
+    </message>
+    <message>
+        <source>Cannot be reached: only 1 workday (%1 short)</source>
+        <translation>Nicht erreichbar: nur 1 Arbeitstag (%1 zu wenig)</translation>
+    </message>
+    <message>
+        <source>Cannot be reached: only %1 workdays (%2 short)</source>
+        <translation>Nicht erreichbar: nur %1 Arbeitstage (%2 zu wenig)</translation>
+    </message>
+    <message>
+        <source>No workdays in this period</source>
+        <translation>Keine Arbeitstage in diesem Zeitraum</translation>
     </message>
 </context>
 <context>
