@@ -28,8 +28,14 @@ MarkedText limitText(const RuleProgress& progress)
     const qint64 allowed = progress.remaining() - progress.planned;
     if (allowed < 0)
         return tooManyText(-allowed);
-    return withNumber(PlanTexts::tr("**1** more day is allowed beside the planned ones"),
-                      PlanTexts::tr("**%1** more days are allowed beside the planned ones"), allowed);
+    if (progress.planned == 0)
+        return allowed == 0 ? markedText(PlanTexts::tr("No more days are allowed"), {})
+                            : withNumber(PlanTexts::tr("**1** more day is allowed"),
+                                         PlanTexts::tr("**%1** more days are allowed"), allowed);
+    if (allowed == 0)
+        return markedText(PlanTexts::tr("No more days are allowed besides the planned ones"), {});
+    return withNumber(PlanTexts::tr("**1** more day is allowed besides the planned ones"),
+                      PlanTexts::tr("**%1** more days are allowed besides the planned ones"), allowed);
 }
 
 // Of a rule about days out of office for any reason.
