@@ -19,6 +19,19 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// A rule that has no name of its own is called as it reads, apart from its dates.
+QString withoutName(const QString& summary, const QString& name)
+{
+    const QString separator = u", "_s;
+    if (summary == name)
+        return {};
+    return summary.startsWith(name + separator) ? summary.sliced(name.size() + separator.size()) : summary;
+}
+
+} // namespace
+
 RulesView::RulesView(CountingRecords& counting, const Clock& clock, QWidget* parent)
     : QWidget(parent)
     , m_counting(counting)
@@ -89,7 +102,9 @@ void RulesView::showRule(const Row& row, const AttendanceRule& rule)
     const bool hasEnded = rule.until && *rule.until < m_clock.today();
     row.name->setText(rule.name);
     row.name->setForegroundRole(hasEnded ? QPalette::PlaceholderText : QPalette::WindowText);
-    row.summary->setText(ruleSummary(rule, m_counting.absenceKinds()));
+    const QString summary = withoutName(ruleSummary(rule, m_counting.absenceKinds()), rule.name);
+    row.summary->setText(summary);
+    row.summary->setVisible(!summary.isEmpty());
     row.edit->setHelp(tr("Edit the rule %1").arg(rule.name));
     row.remove->setHelp(tr("Remove the rule %1").arg(rule.name));
 }

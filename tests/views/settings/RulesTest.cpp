@@ -115,6 +115,9 @@ TEST_F(RulesTest, aChangeHoldsSinceTodayOrAlways)
     EXPECT_EQ(rules().first().until, today.addDays(-1));
     EXPECT_EQ(std::pair(rules().last().amount, rules().last().from), std::pair(250, std::optional(today)));
     EXPECT_TRUE(shownTexts(page).contains(u"At least 4 days a week on average, each month, until 19 November 2026"_s));
+    counting.addRule({.name = u"At least 3 days a week on average, each month"_s, .until = today});
+    QCoreApplication::processEvents(); // which shows the row
+    EXPECT_TRUE(shownTexts(page).contains(u"until 20 November 2026"_s)) << "what the name does not say";
 }
 
 TEST_F(RulesTest, aNameThatFollowsFromARuleChangesWithIt)
@@ -129,6 +132,7 @@ TEST_F(RulesTest, aNameThatFollowsFromARuleChangesWithIt)
     edit();
     type("ruleAmount", u"11"_s);
     EXPECT_EQ(name(), u"At least 11 days each quarter"_s);
+    QTest::keyClick(&named<QLineEdit>(page, "ruleName"), Qt::Key_End);
     QTest::keyClicks(&named<QLineEdit>(page, "ruleName"), u"!"_s);
     type("ruleAmount", u"9"_s);
     EXPECT_EQ(name(), u"At least 11 days each quarter!"_s);
