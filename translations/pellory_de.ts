@@ -2133,14 +2133,6 @@
         <translation>**%1** Tage mehr geplant als erlaubt</translation>
     </message>
     <message>
-        <source>**1** more day is allowed beside the planned ones</source>
-        <translation>Neben den geplanten ist noch **1** Tag erlaubt</translation>
-    </message>
-    <message>
-        <source>**%1** more days are allowed beside the planned ones</source>
-        <translation>Neben den geplanten sind noch **%1** Tage erlaubt</translation>
-    </message>
-    <message>
         <source>No workday is left to plan</source>
         <translation>Kein Arbeitstag ist mehr zu planen</translation>
     </message>
@@ -2193,6 +2185,30 @@
     <message>
         <source>**%1** of the **%2** workdays left may be out of office</source>
         <translation>Außerhalb des Büros erlaubt: **%1** der **%2** übrigen Arbeitstage</translation>
+    </message>
+    <message>
+        <source>No more days are allowed</source>
+        <translation>Kein Tag mehr ist erlaubt</translation>
+    </message>
+    <message>
+        <source>**1** more day is allowed</source>
+        <translation>Noch **1** Tag ist erlaubt</translation>
+    </message>
+    <message>
+        <source>**%1** more days are allowed</source>
+        <translation>Noch **%1** Tage sind erlaubt</translation>
+    </message>
+    <message>
+        <source>No more days are allowed besides the planned ones</source>
+        <translation>Neben den geplanten Tagen ist keiner mehr erlaubt</translation>
+    </message>
+    <message>
+        <source>**1** more day is allowed besides the planned ones</source>
+        <translation>Neben den geplanten ist noch **1** Tag erlaubt</translation>
+    </message>
+    <message>
+        <source>**%1** more days are allowed besides the planned ones</source>
+        <translation>Neben den geplanten sind noch **%1** Tage erlaubt</translation>
     </message>
 </context>
 <context>
