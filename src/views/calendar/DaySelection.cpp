@@ -42,7 +42,9 @@ DaySelection::DaySelection(const CalendarParts& parts, CalendarPage& page)
     : m_parts(parts)
     , m_editor(parts.marker)
     , m_page(page)
+    , m_scroll(page)
 {
+    connect(&m_scroll, &EdgeScroll::scrolled, this, [this] { dragTo(dateNear(m_drag.pointer)); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* /*before*/, const QWidget* now) { followFocus(now); });
 }
@@ -50,6 +52,7 @@ DaySelection::DaySelection(const CalendarParts& parts, CalendarPage& page)
 void DaySelection::watch(CalendarView& calendar)
 {
     m_calendars.push_back(&calendar);
+    m_scroll.setEnds(*m_calendars.front(), calendar);
     for (CommandClickableButton* cell : calendar.cells())
         cell->installEventFilter(this);
 }
@@ -76,6 +79,7 @@ void DaySelection::select(QDate anchor, QDate end)
 void DaySelection::drop()
 {
     m_drag = {};
+    m_scroll.stop();
     m_menuKey = 0;
     select({}, {});
 }
@@ -161,6 +165,13 @@ void DaySelection::continueDrag(CommandClickableButton& pressed, const QMouseEve
         m_drag.isMoving = true;
         pressed.resetHover();
     }
+    m_drag.pointer = place;
+    m_scroll.follow(place);
+    dragTo(date);
+}
+
+void DaySelection::dragTo(QDate date)
+{
     if (date == m_end)
         return;
     // Keys go on from here.
@@ -170,6 +181,7 @@ void DaySelection::continueDrag(CommandClickableButton& pressed, const QMouseEve
 
 void DaySelection::endDrag(const QMouseEvent& event)
 {
+    m_scroll.stop();
     if (event.button() != Qt::LeftButton || !std::exchange(m_drag, {}).isMoving || isEmpty())
         return;
     openMenu(*m_page.focusWidget());

@@ -4,6 +4,7 @@
 #include "CalendarParts.h"
 #include "DayEditor.h"
 #include "DaySpan.h"
+#include "EdgeScroll.h"
 #include "Popover.h"
 
 #include <QObject>
@@ -44,6 +45,8 @@ private:
         QPoint place;
         /// Whether the pointer has left that day.
         bool isMoving = false;
+        /// Where the pointer is now.
+        QPoint pointer = {};
     };
 
     [[nodiscard]] bool isEmpty() const { return m_anchor == m_end; }
@@ -56,6 +59,7 @@ private:
 
     void startDrag(QDate date, const QMouseEvent& event);
     void continueDrag(CommandClickableButton& pressed, const QMouseEvent& event);
+    void dragTo(QDate date);
     void endDrag(const QMouseEvent& event);
     [[nodiscard]] bool handleKey(CommandClickableButton& cell, const QKeyEvent& event);
     [[nodiscard]] bool handleKeyOfSelection(CommandClickableButton& cell, const QKeyEvent& event);
@@ -75,6 +79,7 @@ private:
     QDate m_anchor;
     QDate m_end;
     Drag m_drag;
+    EdgeScroll m_scroll;
     bool m_isExtending = false;
     /// The key that is down and opens the menu when it is released.
     int m_menuKey = 0;

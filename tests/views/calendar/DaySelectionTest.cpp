@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarView.h"
+#include "Eventually.h"
 #include "MonthView.h"
 #include "QuarterView.h"
 #include "ViewTest.h"
 
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using enum Qt::Key;
 
@@ -110,6 +113,26 @@ TEST_F(DaySelectionTest, keysSelectDaysWhoseWorkdaysAreSetAsOneChange)
         press(key);
     EXPECT_EQ(days(DayState::OUT_OF_OFFICE), u"11.16 11.17"_s);
     EXPECT_EQ(counting.counting().value().absenceKind({2026, 11, 17}), counting.absenceKinds().first().id);
+}
+
+TEST_F(DaySelectionTest, draggingAtAnEdgeScrolls)
+{
+    QScrollArea area;
+    area.setWidget(&quarterPage);
+    area.resize(quarterPage.width() + 20, 700);
+    show(area);
+    page = &quarterPage;
+    page->showDay({2026, 12, 7});
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+    QTest::mousePress(area.windowHandle(), Qt::LeftButton, {}, place(12, 7));
+    const QPoint top(place(12, 7).x(), -80);
+    moveTo(area, top);
+    const auto* october = page->findChild<CalendarView*>();
+    EXPECT_TRUE(eventually([&] { return october->mapTo(&area, QPoint()).y() >= 0; }));
+    QTest::mouseRelease(area.windowHandle(), Qt::LeftButton, {}, top);
+    EXPECT_EQ(QApplication::activePopupWidget()->accessibleName(), u"Set 48 Workdays"_s);
+    press(Key_Escape);
+    area.takeWidget();
 }
 
 TEST_F(DaySelectionTest, draggingSelectsDaysAndReleasingOpensTheMenu)
