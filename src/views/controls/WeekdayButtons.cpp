@@ -47,12 +47,14 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-        painter.setPen(isChecked() ? theme.fill : theme.controlBorder);
-        painter.setBrush(isChecked() ? theme.fill : theme.card);
+        const QColor fill = isEnabled() ? theme.fill : theme.disabledText;
+        const QColor words = isEnabled() ? theme.text : theme.disabledText;
+        painter.setPen(isChecked() ? fill : theme.controlBorder);
+        painter.setBrush(isChecked() ? fill : theme.card);
         painter.drawRoundedRect(area, dayRadius, dayRadius);
         if (isChecked())
             drawOutline(painter, rect(), dayRadius, theme);
-        painter.setPen(isChecked() ? QColor(Qt::white) : theme.text);
+        painter.setPen(isChecked() ? readableTextOn(fill) : words);
         painter.drawText(rect(), Qt::AlignCenter, text());
         const qreal inset = isChecked() ? 3.0 : 1.0;
         paintRing(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), dayRadius - inset,
