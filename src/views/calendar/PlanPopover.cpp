@@ -38,6 +38,7 @@ namespace {
 Q_LOGGING_CATEGORY(logPlan, "pellory.calendar", QtInfoMsg)
 
 constexpr int linesOfPace = 2;
+constexpr int paceGap = 4;
 // In the usual font, with which they grow. Half a week shows that there are more.
 constexpr int highestGrid = 235;
 constexpr int leastGrid = 76;
@@ -50,17 +51,15 @@ PlanPopover::PlanPopover(const CalendarParts& parts, PlanSubject subject, QWidge
     , m_parts(parts)
     , m_subject(std::move(subject))
     , m_stored({}, {}, {}, false)
-    , m_lineColumn(new QWidget)
+    , m_lineColumn(new QVBoxLayout)
     , m_pace(new MarkedTextLabel)
     , m_problem(labels::error(tr("Nothing was planned, because the data file cannot be read. Try again, or restart "
                                  "Pellory.")))
 {
-    auto* lines = new QVBoxLayout(m_lineColumn);
-    lines->setContentsMargins({});
-    lines->setSpacing(0);
+    m_lineColumn->setSpacing(0);
     column().setSpacing(8);
     addTitle();
-    column().addWidget(m_lineColumn);
+    column().addLayout(m_lineColumn);
     addPace();
     const bool isToCome = m_subject.span.last >= m_parts.clock.today();
     if (isToCome && m_subject.countsPlanned)
@@ -95,11 +94,11 @@ void PlanPopover::addPace()
     m_pace->setFont(fonts::body(font()));
     m_pace->setFixedWidth(ProgressWidgetView::columnWidth(font()));
     m_pace->setLineCount(linesOfPace);
-    auto* belowLines = new QHBoxLayout;
-    belowLines->setContentsMargins(SpokenGroup::ringRoom, 0, SpokenGroup::ringRoom, 0);
-    belowLines->addWidget(m_pace);
-    belowLines->addStretch();
-    column().addLayout(belowLines);
+    auto* belowLine = new QHBoxLayout;
+    belowLine->setContentsMargins(SpokenGroup::ringRoom, paceGap, SpokenGroup::ringRoom, 0);
+    belowLine->addWidget(m_pace);
+    belowLine->addStretch();
+    m_lineColumn->addLayout(belowLine);
 }
 
 void PlanPopover::addGrid()
@@ -186,7 +185,8 @@ void PlanPopover::showLines(const QList<PlanSubject::Line>& lines)
 {
     while (m_lines.size() < lines.size()) {
         m_lines.append(new RuleLine);
-        m_lineColumn->layout()->addWidget(m_lines.last());
+        // The pace is that of the first one, and below it.
+        m_lineColumn->insertWidget(m_lines.size() == 1 ? 0 : -1, m_lines.last());
     }
     for (qsizetype i = 0; i < m_lines.size(); ++i) {
         m_lines.at(i)->setVisible(i < lines.size());

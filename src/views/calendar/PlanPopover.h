@@ -11,6 +11,7 @@ class MarkedTextLabel;
 class Page;
 class PlanGrid;
 class QLabel;
+class QVBoxLayout;
 class RuleLine;
 
 /// What is needed for goals or a rule, with the weeks that are left, in which days can be tried. Nothing is stored
@@ -47,7 +48,7 @@ private:
     /// As they are stored.
     CountedDays m_stored;
     TriedStates m_tried;
-    QWidget* m_lineColumn;
+    QVBoxLayout* m_lineColumn;
     QList<RuleLine*> m_lines;
     MarkedTextLabel* m_pace;
     PlanGrid* m_grid = nullptr;

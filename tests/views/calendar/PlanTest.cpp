@@ -109,6 +109,10 @@ TEST_F(PlanTest, namesTheMonthsOfAQuarter)
 {
     window->resize(534, 900);
     click(*window->findChildren<QLabel*>("goal"_L1).last());
+    const auto top = [](const QWidget& widget) { return widget.mapTo(&plan(), QPoint()).y(); };
+    const auto lines = plan().findChildren<RuleLine*>();
+    const auto& paceLabel = named<QLabel>(plan(), "pace");
+    EXPECT_TRUE(top(*lines.at(0)) < top(paceLabel) && top(paceLabel) < top(*lines.at(1))) << "it is about the first";
     EXPECT_EQ(shownTexts(plan()).filter(u"ember"_s).mid(1), (QStringList{u"November"_s, u"December"_s}));
     // The heads stay above the weeks that are scrolled.
     auto& head = *plan().findChild<PlanHead*>();
