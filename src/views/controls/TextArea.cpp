@@ -7,10 +7,12 @@
 
 #include <QEvent>
 #include <QScrollBar>
+#include <QtMath>
 
 namespace {
 
-constexpr QMargins areaPadding(4, 3, 2, 3);
+// Outside the text, so that no part of a further line shows in it, and with room for the scroll bar.
+constexpr QMargins areaPadding(8, 7, 10, 7);
 
 } // namespace
 
@@ -29,8 +31,9 @@ TextArea::TextArea(int lines, QWidget* parent)
     barStyle->setParent(this);
     verticalScrollBar()->setStyle(barStyle);
     verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    const int text = lines * (fontMetrics().lineSpacing() + 1) + 2 * static_cast<int>(document()->documentMargin());
-    setFixedHeight(text + areaPadding.top() + areaPadding.bottom());
+    document()->setDocumentMargin(0);
+    const int line = qCeil(QFontMetricsF(font()).lineSpacing()); // as a document rounds it
+    setFixedHeight(lines * line + areaPadding.top() + areaPadding.bottom());
 }
 
 bool TextArea::event(QEvent* event)

@@ -126,8 +126,10 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
         << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";
     choose("importDays", "importFile", listPath);
     EXPECT_TRUE(waitFor(u"Days that are marked otherwise here stay as they are"_s));
-    EXPECT_EQ(named<QTextEdit>(view, "problems").toPlainText(),
-              u"Line 4 is left out: \"X\" is not a date such as 2026-11-20."_s);
+    const auto& problems = named<QTextEdit>(view, "problems");
+    EXPECT_EQ(problems.toPlainText(), u"Line 4 is left out: \"X\" is not a date such as 2026-11-20."_s);
+    EXPECT_TRUE(eventually([&] { return problems.viewport()->height() == 2 * problems.document()->size().height(); }))
+        << "which shows whole lines";
     EXPECT_EQ(named<Button>(view, "import").text(), u"Import 1 Day"_s);
     EXPECT_EQ(named<QTreeView>(view, "importedDays").model()->index(2, 0).data(),
               u"October 2026: 1 day marked otherwise here"_s);
