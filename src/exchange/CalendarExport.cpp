@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CalendarExport.h"
 
+#include "Period.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -65,7 +67,9 @@ QByteArray calendarFile(const QList<DayRecord>& days, const QSet<DayState>& stat
         addLine(file, "LAST-MODIFIED:" + time);
         addLine(file, "SEQUENCE:" + sequence);
         addLine(file, "DTSTART;VALUE=DATE:" + dateText(day.date));
-        addLine(file, "DTEND;VALUE=DATE:" + dateText(day.date.addDays(1)));
+        // Without an end it lasts one day too, and no file can name the year 10000.
+        if (day.date.addDays(1).year() <= lastYear)
+            addLine(file, "DTEND;VALUE=DATE:" + dateText(day.date.addDays(1)));
         addLine(file, "SUMMARY:" + escapedText(description(day.state)));
         addLine(file, isBusy(day.state) ? "TRANSP:OPAQUE" : "TRANSP:TRANSPARENT");
         addLine(file, "END:VEVENT");

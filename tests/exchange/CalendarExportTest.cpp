@@ -57,12 +57,14 @@ TEST(CalendarExport, isReadByLibicalAndUpdatesWhatWasExportedBefore)
     const QDate newYear(2026, 12, 31);
     const QList<DayRecord> days{{.date = newYear, .state = DayState::VACATION_DAY},
                                 {.date = newYear.addDays(1), .state = DayState::IN_OFFICE},
-                                {.date = newYear.addDays(2), .state = DayState::OUT_OF_OFFICE}};
+                                {.date = newYear.addDays(2), .state = DayState::OUT_OF_OFFICE},
+                                {.date = {9999, 12, 31}, .state = DayState::IN_OFFICE}};
     const QSet states{DayState::VACATION_DAY, DayState::IN_OFFICE};
     const QDateTime now(QDate(2026, 1, 1), QTime(0, 1), Qt::UTC);
     EXPECT_EQ(eventsIn(calendarFile(days, states, now)),
               (QStringList{u"20261231@io.github.pellory.Pellory 20261231 20270101 Vacation Day 1 60"_s,
-                           u"20270101@io.github.pellory.Pellory 20270101 20270102 In the Office 0 60"_s}));
+                           u"20270101@io.github.pellory.Pellory 20270101 20270102 In the Office 0 60"_s,
+                           u"99991231@io.github.pellory.Pellory 99991231 100000101 In the Office 0 60"_s}));
     EXPECT_TRUE(eventsIn(calendarFile(days, states, now.addSecs(1))).first().endsWith(u" 61"_s));
     EXPECT_TRUE(eventsIn(calendarFile(days, states, now.addYears(-1))).first().endsWith(u" 0"_s));
     EXPECT_EQ(calendarFile(days, states, now.toOffsetFromUtc(3600)), calendarFile(days, states, now));
