@@ -186,6 +186,10 @@ TEST(DaysCsv, plainListsAreReadAndWhatIsWrongIsNamed)
 
 TEST(DaysCsv, whatIsNoListSaysWhatToDo)
 {
+    QByteArray days = "date,state";
+    for (int day = 0; day < 100'000; ++day)
+        days += '\n' + QDate(1900, 1, 1).addDays(day).toString(Qt::ISODate).toLatin1() + ',';
+    EXPECT_EQ(readList(days).days.size(), 100'000);
     const QTemporaryDir folder(inMemory);
     const QString path = folder.filePath(u"list.csv"_s);
     const auto reason = [&](const auto& action) {
@@ -204,7 +208,8 @@ TEST(DaysCsv, whatIsNoListSaysWhatToDo)
            "not in UTF-8"},
           {"date,state\n2026-11-20,B\xFCro", "not in UTF-8"},
           {QByteArray("date,state\0", 11), "not a text file"},
-          {"date,state\n" + QByteArray("x,y\n").repeated(1'000'000), "More than 10000 lines"}}) {
+          {"date,state\n" + QByteArray("x,y\n").repeated(1'000'000), "More than 10000 lines"},
+          {days + "\n2300-01-01,", "more than 100000 days"}}) {
         writeFile(path, text);
         EXPECT_THAT(reason([&] { static_cast<void>(readDaysCsvFile(path)); }).toStdString(),
                     testing::HasSubstr(expected));
