@@ -16,11 +16,20 @@ namespace {
 /// Less than this is not enough for any record.
 constexpr qint64 leastSpace = 1 << 20;
 
+/// Whether something is there of which a file would take the place.
+bool isNoFile(const QString& path)
+{
+    const QFileInfo present(path);
+    return present.exists() && !present.isFile();
+}
+
 QString problemOf(const QSaveFile& file)
 {
     const QString folder = QFileInfo(file.fileName()).absolutePath();
     if (!QFileInfo(folder).isDir())
         return RecordJob::tr("The folder is not there any more. Choose another one.");
+    if (isNoFile(file.fileName()))
+        return RecordJob::tr("There is a folder or a device of this name. Choose another name.");
     if (file.error() == QFileDevice::OpenError || file.error() == QFileDevice::PermissionsError) {
         if (!QFileInfo(folder).isWritable() || QFileInfo(file.fileName()).exists())
             return RecordJob::tr("Pellory may not write there. Choose another folder or name.");
@@ -47,7 +56,7 @@ void RecordJob::start(const RecordContents& contents, const RecordForm& form, co
                 this, [this, outcome, reason] { end(outcome, reason); }, Qt::QueuedConnection);
         };
         QSaveFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
+        if (isNoFile(path) || !file.open(QIODevice::WriteOnly))
             return report(Outcome::Failed, problemOf(file));
         int told = 0;
         const auto progress = [&](int percent) {

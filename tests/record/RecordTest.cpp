@@ -22,6 +22,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using testing::HasSubstr;
 
@@ -172,6 +173,9 @@ TEST_F(RecordTest, whatGoesWrongLeavesTheFileThatWasThere)
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
     }
     EXPECT_THAT(outcome(folder.filePath(u"gone/a.pdf"_s)).toStdString(), HasSubstr("The folder is not there"));
+    const QString pipe = folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_THAT(outcome(pipe).toStdString(), HasSubstr("There is a folder or a device"));
     EXPECT_EQ(outcome(old, [](RecordJob& job) { job.stop(); }), u"stopped"_s);
     {
         // A disk that takes no more.
