@@ -2,11 +2,11 @@
 #include "CommandRun.h"
 
 #include "CommandError.h"
+#include "FileBytes.h"
+#include "FileError.h"
 #include "RunningProgram.h"
 #include "SearchProvider.h"
 #include "StatusText.h"
-
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -45,11 +45,12 @@ std::unique_ptr<CommandTarget> targetFor(const StoredData::Place& place)
 {
     if (path == "-"_L1)
         return print(contents);
-    QSaveFile file(path);
-    // commit() would not say that the disk is full.
-    if (file.open(QFile::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
+    try {
+        writeFile(path, contents);
         return EXIT_SUCCESS;
-    return fail(CommandRun::tr("%1 cannot be written: %2").arg(path, file.errorString()));
+    } catch (const FileError& error) {
+        return fail(error.description());
+    }
 }
 
 [[nodiscard]] int carryOut(const CommandRequest& request, CommandTarget& target)
