@@ -8,6 +8,7 @@
 
 #include <QFocusEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 PlainTree::PlainTree(QWidget* parent)
     : QTreeView(parent)
@@ -29,7 +30,14 @@ void PlainTree::drawRing(QPainter& painter, const QStyleOptionViewItem& row)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(themeFor(row.palette).accent, 2.0));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(row.rect).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
+    QRect ring = row.rect;
+    if (const auto* tree = qobject_cast<const QTreeView*>(row.widget)) {
+        // The bar takes no room from the rows.
+        const QScrollBar& bar = *tree->verticalScrollBar();
+        ring.setWidth(ring.width() - (bar.isVisible() ? bar.width() : 0));
+    }
+    ring = QStyle::visualRect(row.direction, row.rect, ring);
+    painter.drawRoundedRect(QRectF(ring).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
 }
 
 void PlainTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
