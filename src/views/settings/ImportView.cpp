@@ -65,9 +65,9 @@ void ImportView::build(const QString& fileName)
     column->addLayout(m_problems);
     m_tree->setObjectName("importedDays"_L1);
     m_tree->setAccessibleName(tr("Days that the list would change"));
-    auto* card = Card::around(m_tree);
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    column->addWidget(card, 1);
+    m_card = Card::around(m_tree);
+    m_card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    column->addWidget(m_card, 1);
     m_notes->setObjectName("importNotes"_L1);
     m_daysOff->setObjectName("importDaysOff"_L1);
     for (Switch* toggle : {m_notes, m_daysOff}) {
@@ -76,6 +76,7 @@ void ImportView::build(const QString& fileName)
         column->addWidget(toggle);
         connect(toggle, &QAbstractButton::toggled, this, &ImportView::refreshButton);
     }
+    column->addStretch(); // in the place of the card where no day would change
     m_import->setObjectName("import"_L1);
     m_import->setProminent(true);
     m_cancel->setObjectName("cancel"_L1);
@@ -125,6 +126,10 @@ void ImportView::showImport()
     m_daysOff->setText(tr("Add %1", "number of notes or days off").arg(daysOffText()));
     m_notes->setVisible(!m_found->notes().isEmpty());
     m_daysOff->setVisible(!m_found->daysOff().isEmpty());
+    m_card->setVisible(m_model->rowCount() > 0);
+    m_import->setVisible(hasAnything());
+    m_cancel->setText(hasAnything() ? tr("Cancel") : tr("Close"));
+    m_cancel->updateGeometry();
     refreshButton();
     say(summary());
     if (window()->focusWidget() == m_cancel && m_model->rowCount() > 0)
@@ -142,14 +147,18 @@ void ImportView::showProblems(const QStringList& problems)
     m_problems->addWidget(list);
 }
 
+bool ImportView::hasAnything() const
+{
+    return m_model->rowCount() > 0 || !m_found->notes().isEmpty() || !m_found->daysOff().isEmpty();
+}
+
 QString ImportView::summary() const
 {
-    const bool isEmpty = m_model->rowCount() == 0 && m_found->notes().isEmpty() && m_found->daysOff().isEmpty();
     QStringList sentences;
-    if (isEmpty)
-        sentences += tr("There is nothing to import.");
-    else
+    if (hasAnything())
         sentences += tr("Choose what to import. A backup of what is here now is made first.");
+    else
+        sentences += tr("There is nothing to import.");
     if (!m_found->conflicts().isEmpty())
         sentences += tr("Days that are marked otherwise here stay as they are, unless you choose them.");
     if (const auto count = m_found->sameCount(); count > 0)

@@ -41,6 +41,8 @@ private:
     void takeContents();
     void showImport();
     void showProblems(const QStringList& problems);
+    /// Whether there is anything to choose.
+    [[nodiscard]] bool hasAnything() const;
     [[nodiscard]] QString summary() const;
     [[nodiscard]] QString notesText() const;
     [[nodiscard]] QString daysOffText() const;
@@ -58,6 +60,7 @@ private:
     QLabel* m_message;
     QVBoxLayout* m_problems;
     RestoreTree* m_tree;
+    QWidget* m_card = nullptr;
     Switch* m_notes;
     Switch* m_daysOff;
     Button* m_import;

@@ -121,6 +121,12 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     choose("importDays", "importFile", folder.path());
     EXPECT_TRUE(waitFor(u"Nothing was imported. The file cannot be read: it is a folder or a device."_s));
     EXPECT_EQ(view.focusWidget(), &named<Button>(view, "importDays"));
+    choose("importDays", "importFile", listPath);
+    EXPECT_TRUE(waitFor(u"There is nothing to import. Marked as in the list already: 1 day."_s));
+    EXPECT_FALSE(named<Button>(view, "import").isVisible());
+    EXPECT_FALSE(named<QTreeView>(view, "importedDays").isVisible());
+    EXPECT_EQ(named<Button>(view, "cancel").text(), u"Close"_s);
+    press(view, Qt::Key_Escape);
 
     std::ofstream(listPath.toStdString())
         << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";
