@@ -28,7 +28,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int linesOfMessage = 2;
+constexpr int linesOfMessage = 3;
 
 ComboBox* namedChoice(const char* name, const QString& accessibleName)
 {
