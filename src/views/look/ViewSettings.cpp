@@ -3,7 +3,9 @@
 
 #include "Follow.h"
 
+#include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -19,13 +21,23 @@ ViewSettings::ViewSettings(QSettings& settings)
     persist(showWeekNumbers, u"calendarViewShowWeekNumbers"_s);
     persist(firstDayOfWeek, u"calendarViewFirstDayOfWeek"_s);
     persist(selectedTab, u"contentViewSelectedTab"_s);
-    persist(recordFolder, u"recordViewFolder"_s);
+    persist(lastFolder, u"recordViewFolder"_s);
 }
 
 Qt::DayOfWeek ViewSettings::weekStart() const
 {
     const int day = firstDayOfWeek;
     return day >= Qt::Monday && day <= Qt::Sunday ? static_cast<Qt::DayOfWeek>(day) : QLocale().firstDayOfWeek();
+}
+
+QString ViewSettings::folderForFiles() const
+{
+    for (const QString& folder :
+         {lastFolder.value(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    }
+    return QDir::homePath();
 }
 
 template <class Value> void ViewSettings::persist(QProperty<Value>& field, const QString& key)

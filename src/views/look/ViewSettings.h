@@ -21,11 +21,14 @@ public:
     QProperty<int> firstDayOfWeek{Qt::Sunday};
     /// 1 is "Month", 2 is "Quarter", 3 is "Year".
     QProperty<int> selectedTab{1};
-    /// Where the last record was saved; empty before the first.
-    QProperty<QString> recordFolder;
+    /// The folder of the last file that was saved or imported; empty before the first.
+    QProperty<QString> lastFolder;
 
     /// The first day of a week that `firstDayOfWeek` stands for.
     [[nodiscard]] Qt::DayOfWeek weekStart() const;
+
+    /// Where a file dialog opens: in the last folder, or else in the documents.
+    [[nodiscard]] QString folderForFiles() const;
 
     /// What QWidget::saveGeometry() returned for a window; empty if nothing is stored.
     [[nodiscard]] QByteArray geometry(const QString& key) const { return m_settings.value(key).toByteArray(); }

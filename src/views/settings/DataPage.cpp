@@ -18,12 +18,12 @@
 using namespace Qt::StringLiterals;
 
 DataPage::DataPage(BackupService& backups, ModelContext& context, CountingRecords& counting, const Clock& clock,
-                   QWidget* parent)
+                   ViewSettings& viewSettings, QWidget* parent)
     : QStackedWidget(parent)
     , m_backups(backups)
     , m_counting(counting)
     , m_list(new DataSettingsView(backups, context))
-    , m_exchange(new ExchangeCard(backups.marker(), clock))
+    , m_exchange(new ExchangeCard(backups.marker(), clock, viewSettings))
 {
     auto* cards = new QWidget;
     auto* column = new QVBoxLayout(cards);

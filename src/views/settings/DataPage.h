@@ -10,6 +10,7 @@ class DataSettingsView;
 class ExchangeCard;
 class ModelContext;
 class Page;
+class ViewSettings;
 struct BackupFile;
 
 /// The page of the settings about the data: the backups and what is exported and imported, or what a backup would
@@ -19,7 +20,7 @@ class DataPage : public QStackedWidget {
 
 public:
     DataPage(BackupService& backups, ModelContext& context, CountingRecords& counting, const Clock& clock,
-             QWidget* parent = nullptr);
+             ViewSettings& viewSettings, QWidget* parent = nullptr);
 
 private:
     void showRestore(const BackupFile& backup);

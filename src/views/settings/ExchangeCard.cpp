@@ -14,6 +14,7 @@
 #include "Labels.h"
 #include "StoreError.h"
 #include "Switch.h"
+#include "ViewSettings.h"
 
 #include <QFileDialog>
 #include <QVBoxLayout>
@@ -22,10 +23,11 @@
 
 using namespace Qt::StringLiterals;
 
-ExchangeCard::ExchangeCard(DayMarker& marker, const Clock& clock, QWidget* parent)
+ExchangeCard::ExchangeCard(DayMarker& marker, const Clock& clock, ViewSettings& viewSettings, QWidget* parent)
     : QWidget(parent)
     , m_marker(marker)
     , m_clock(clock)
+    , m_viewSettings(viewSettings)
     , m_message(labels::text({}))
     , m_problem(labels::error({}))
     , m_import(new Button(tr("Import Days…")))
@@ -122,13 +124,11 @@ void ExchangeCard::focusImport()
 
 void ExchangeCard::chooseImport()
 {
-    auto* dialog = new QFileDialog(this, tr("Choose a List of Days"));
-    dialog->setObjectName("importFile"_L1);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({tr("Lists of days (*.csv *.tsv *.txt)"), tr("All files (*)")});
-    connect(dialog, &QFileDialog::fileSelected, this, &ExchangeCard::importRequested);
-    dialog->open();
+    QFileDialog& dialog = makeDialog("importFile", tr("Choose a List of Days"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters({tr("Lists of days (*.csv *.tsv *.txt)"), tr("All files (*)")});
+    connect(&dialog, &QFileDialog::fileSelected, this, &ExchangeCard::importRequested);
+    dialog.open();
 }
 
 void ExchangeCard::chooseListPlace()
@@ -146,15 +146,23 @@ void ExchangeCard::chooseCalendarPlace()
 
 void ExchangeCard::choosePlace(const QString& title, const QString& name, const QString& filter, const Export& write)
 {
-    auto* dialog = new QFileDialog(this, title);
-    dialog->setObjectName("exportFile"_L1);
+    QFileDialog& dialog = makeDialog("exportFile", title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({filter, tr("All files (*)")});
+    dialog.setDefaultSuffix(QFileInfo(name).suffix());
+    dialog.selectFile(name);
+    connect(&dialog, &QFileDialog::fileSelected, this, write);
+    dialog.open();
+}
+
+QFileDialog& ExchangeCard::makeDialog(const char* name, const QString& title)
+{
+    auto* dialog = new QFileDialog(this, title, m_viewSettings.folderForFiles());
+    dialog->setObjectName(QLatin1StringView(name));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters({filter, tr("All files (*)")});
-    dialog->setDefaultSuffix(QFileInfo(name).suffix());
-    dialog->selectFile(name);
-    connect(dialog, &QFileDialog::fileSelected, this, write);
-    dialog->open();
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& path) { m_viewSettings.lastFolder = QFileInfo(path).absolutePath(); });
+    return *dialog;
 }
 
 void ExchangeCard::writeList(const QString& path)

@@ -12,16 +12,18 @@
 class Button;
 class Clock;
 class DayMarker;
+class QFileDialog;
 class QLabel;
 class QVBoxLayout;
 class Switch;
+class ViewSettings;
 
 /// Where days leave the program as files, and come into it.
 class ExchangeCard : public QWidget {
     Q_OBJECT
 
 public:
-    ExchangeCard(DayMarker& marker, const Clock& clock, QWidget* parent = nullptr);
+    ExchangeCard(DayMarker& marker, const Clock& clock, ViewSettings& viewSettings, QWidget* parent = nullptr);
 
     /// Shows what was done, or why something was not done, and a screen reader says it. With an empty message, neither.
     void showMessage(const QString& message);
@@ -40,6 +42,8 @@ private:
     void chooseCalendarPlace();
     using Export = std::function<void(const QString& path)>;
     void choosePlace(const QString& title, const QString& name, const QString& filter, const Export& write);
+    /// A dialog that starts where the last file was.
+    [[nodiscard]] QFileDialog& makeDialog(const char* name, const QString& title);
     void writeList(const QString& path);
     void writeCalendar(const QString& path);
     void write(const QString& path, const QByteArray& bytes, qsizetype days);
@@ -48,6 +52,7 @@ private:
 
     DayMarker& m_marker;
     const Clock& m_clock;
+    ViewSettings& m_viewSettings;
     QLabel* m_message;
     QLabel* m_problem;
     Button* m_import;

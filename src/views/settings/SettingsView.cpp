@@ -57,7 +57,9 @@ SettingsView::SettingsView(const SettingsParts& parts, QWidget* parent)
                   new SsidSettingsView(parts.settings, parts.wifiClient, parts.locationManager, parts.check, true));
           },
           [this] { return makeGeneralPage(); },
-          [parts] { return new DataPage(parts.backups, parts.context, parts.counting, parts.clock); },
+          [parts] {
+              return new DataPage(parts.backups, parts.context, parts.counting, parts.clock, parts.viewSettings);
+          },
       }))
 {
     auto* row = new QHBoxLayout(this);

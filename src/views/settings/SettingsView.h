@@ -28,7 +28,7 @@ struct SettingsParts {
     ModelContext& context;
     CountingRecords& counting;
     Clock& clock;
-    const ViewSettings& viewSettings;
+    ViewSettings& viewSettings;
 };
 
 /// The settings: a list of pages at the side, of which one is shown.

@@ -18,7 +18,6 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QStandardPaths>
 #include <QUrl>
 
 #include <chrono>
@@ -223,12 +222,7 @@ void RecordView::chooseFile()
     if (!chosen)
         return refuseDates();
     const QString suffix = isPdf() ? u"pdf"_s : u"csv"_s;
-    QString folder = m_parts.viewSettings.recordFolder;
-    if (folder.isEmpty() || !QFileInfo(folder).isDir())
-        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (!QFileInfo(folder).isDir())
-        folder = QDir::homePath();
-    auto* dialog = new QFileDialog(this, tr("Save Record"), folder);
+    auto* dialog = new QFileDialog(this, tr("Save Record"), m_parts.viewSettings.folderForFiles());
     dialog->setObjectName("recordFile"_L1);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -236,7 +230,7 @@ void RecordView::chooseFile()
     dialog->setNameFilter(isPdf() ? tr("PDF files (*.pdf)") : tr("CSV files (*.csv)"));
     dialog->selectFile(record_texts::fileName(*chosen) + u'.' + suffix);
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
-        m_parts.viewSettings.recordFolder = QFileInfo(path).absolutePath();
+        m_parts.viewSettings.lastFolder = QFileInfo(path).absolutePath();
         saveTo(path);
     });
     dialog->open();

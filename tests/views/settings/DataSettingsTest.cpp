@@ -107,9 +107,11 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     set(october, DayState::IN_OFFICE);
     open();
     const QString listPath = folder.filePath(u"days.csv"_s);
+    QStringList folders;
     const auto choose = [&](const char* button, const char* dialogName, const QString& file) {
         named<Button>(view, button).click(); // wherever it has been scrolled
         auto& dialog = named<QFileDialog>(view, dialogName);
+        folders += dialog.directory().path();
         Q_EMIT dialog.fileSelected(file);
         dialog.close();
         QCoreApplication::sendPostedEvents(&dialog, QEvent::DeferredDelete);
@@ -127,6 +129,8 @@ TEST_F(DataSettingsTest, daysAreExportedAndImportedAfterAReview)
     EXPECT_FALSE(named<QTreeView>(view, "importedDays").isVisible());
     EXPECT_EQ(named<Button>(view, "cancel").text(), u"Close"_s);
     press(view, Qt::Key_Escape);
+    EXPECT_EQ(folders.mid(1, 1), QStringList(folder.path()));
+    EXPECT_NE(folders.first(), folder.path());
 
     std::ofstream(listPath.toStdString())
         << "date,state,note\n2026-10-30,VACATION_DAY,\n2026-11-19,IN_OFFICE,New\nX,,\n";

@@ -55,7 +55,7 @@ TEST_F(RecordViewTest, savesWhatIsChosenAndSaysWhatHappened)
 
     named<ComboBox>(view, "recordFormat").setCurrentIndex(1);
     EXPECT_FALSE(named<ComboBox>(view, "recordPaper").isEnabled());
-    viewSettings.recordFolder = folder.path();
+    viewSettings.lastFolder = folder.path();
     click(save);
     auto& dialog = named<QFileDialog>(view, "recordFile");
     EXPECT_EQ(dialog.directory().path(), folder.path());
