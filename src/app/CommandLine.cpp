@@ -148,6 +148,8 @@ std::optional<CommandRequest> readCommand(const QStringList& arguments)
         return refuse(problem);
     const QList<Kind> kinds = options.commands();
     const bool isJson = parser.isSet(options.json);
+    if (kinds.isEmpty())
+        return refuse(QCoreApplication::translate("main", "Use --json together with --status."));
     if (kinds.size() != 1 || parser.isSet(options.atLogin) || parser.isSet(options.checkNow) ||
         (isJson && kinds.first() != Kind::Status))
         return refuse(QCoreApplication::translate("main", "These options cannot be used together."));
