@@ -650,10 +650,6 @@
         <source>Standard output cannot be written.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
-    <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
 </context>
 <context>
     <name>ContentView</name>
@@ -1472,7 +1468,7 @@
     <name>GridPage</name>
     <message>
         <source>Plan Usual Week…</source>
-        <translation>Übliche Woche planen…</translation>
+        <translation>Übliche Woche planen …</translation>
     </message>
     <message>
         <source>Plan Usual Week</source>
@@ -1646,6 +1642,10 @@
     <message>
         <source>%1 Ctrl+Z in the main window takes back what was marked; notes, days off and kinds of absence stay.</source>
         <translation>%1 Strg+Z im Hauptfenster nimmt das Markierte zurück; Notizen, freie Tage und Arten der Abwesenheit bleiben.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -2818,6 +2818,10 @@
     <message>
         <source>The disk did not take the file. Choose another folder.</source>
         <translation>Der Datenträger hat die Datei nicht angenommen. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is a folder or a device of this name. Choose another name.</source>
+        <translation>Unter diesem Namen gibt es schon einen Ordner oder ein Gerät. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
@@ -4872,6 +4876,10 @@
     <message>
         <source>Write a day to mark as in --mark 2026-11-20=IN_OFFICE.</source>
         <translation>Schreiben Sie einen Tag wie in --mark 2026-11-20=IN_OFFICE.</translation>
+    </message>
+    <message>
+        <source>Use --json together with --status.</source>
+        <translation>Verwenden Sie --json zusammen mit --status.</translation>
     </message>
 </context>
 </TS>
