@@ -35,6 +35,18 @@ void open(QFile& file)
         refuseUnreadable(FileError::tr("it is a folder or a device"));
 }
 
+/// Returns whether the file took all bytes. A disk takes what it has room for, and refuses only what comes after that.
+bool writeAll(QFileDevice& file, QByteArrayView rest)
+{
+    qint64 taken = 0;
+    for (; !rest.isEmpty(); rest = rest.sliced(taken)) {
+        taken = file.write(rest.data(), rest.size());
+        if (taken <= 0)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 QByteArray readFile(const QString& path, qint64 maximumSize)
@@ -57,6 +69,6 @@ void writeFile(const QString& path, const QByteArray& bytes)
         refuse(FileError::tr("it is a folder or a device"));
     QSaveFile file(path);
     // A small file is written by flush(), and commit() would not say that the disk is full.
-    if (!file.open(QFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+    if (!file.open(QFile::WriteOnly) || !writeAll(file, bytes) || !file.flush() || !file.commit())
         refuse(file.errorString());
 }

@@ -31,14 +31,14 @@ QString readDays(const QByteArray& text)
 const QString header =
     u"date,state,absence,absence_name,counts_as,note,day_off,day_off_from,changed_by,changed_at,network"_s;
 
-/// Makes every write to a file fail, as on a full disk, but only when the bytes leave the process.
+/// Lets files have only so many bytes, as on a full disk, which is noticed when the bytes leave the process.
 class NoRoomForFiles {
 public:
-    NoRoomForFiles()
+    explicit NoRoomForFiles(rlim_t size)
     {
         getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit none{0, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
+        const rlimit little{size, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &little);
     }
     ~NoRoomForFiles()
     {
@@ -224,9 +224,10 @@ TEST(DaysCsv, whatIsNoListSaysWhatToDo)
         EXPECT_THAT(reason([&] { writeFile(path, "xx"); }).toStdString(), testing::HasSubstr("cannot be written"));
     }
     ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    {
-        const NoRoomForFiles full;
-        EXPECT_THAT(reason([&] { writeFile(path, "xx"); }).toStdString(), testing::HasSubstr("cannot be written"));
+    for (const int room : {0, 100'000}) {
+        const NoRoomForFiles full(static_cast<rlim_t>(room));
+        EXPECT_THAT(reason([&] { writeFile(path, QByteArray(2 + 2 * room, 'x')); }).toStdString(),
+                    testing::HasSubstr("cannot be written: File too large"));
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(QFileInfo(path).size(), 1);
