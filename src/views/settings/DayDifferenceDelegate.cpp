@@ -66,6 +66,8 @@ void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
 {
     QStyleOptionViewItem row = option;
     row.state.setFlag(QStyle::State_HasFocus, false);
+    // The style draws the border of a check box in a darker shade of it, which would not be seen on a dark card.
+    row.palette.setColor(QPalette::Window, themeFor(option.palette).controlBorder.lighter(127));
     painter->save();
     if (index.data(RestoreModel::differenceRole).isValid())
         paintDay(*painter, row, index);
