@@ -50,11 +50,12 @@ void RestoreView::build(const BackupFile& backup)
     column->setSpacing(8);
     column->addWidget(labels::heading(tr("Restore the Backup of %1").arg(backup_texts::time(backup.made))));
     column->addWidget(m_message);
-    auto* card = Card::around(m_tree);
+    m_card = Card::around(m_tree);
     m_tree->setObjectName("days"_L1);
     m_tree->setAccessibleName(tr("Days that differ"));
-    card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    column->addWidget(card, 1);
+    m_card->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    column->addWidget(m_card, 1);
+    column->addStretch(); // in the place of the card where there is nothing to choose from
     m_restore->setObjectName("restore"_L1);
     m_restore->setProminent(true);
     m_cancel->setObjectName("cancel"_L1);
@@ -70,13 +71,10 @@ void RestoreView::showDays()
     try {
         days = m_reading.result();
     } catch (const StoreError& error) {
-        say(error.description());
-        return;
+        return showNothing(error.description());
     }
-    if (days.isEmpty()) {
-        say(tr("Every day is as it was in this backup. There is nothing to restore."));
-        return;
-    }
+    if (days.isEmpty())
+        return showNothing(tr("Every day is as it was in this backup. There is nothing to restore."));
     const auto describe = [this](DayState state, int kind) { return m_backups.absences().describe(state, kind); };
     m_model = new RestoreModel(days, {}, describe, this);
     m_tree->setModel(m_model);
@@ -87,6 +85,15 @@ void RestoreView::showDays()
         "now is made first."));
     if (window()->focusWidget() == m_cancel)
         m_tree->setFocus(Qt::OtherFocusReason);
+}
+
+void RestoreView::showNothing(const QString& reason)
+{
+    m_card->hide();
+    m_restore->hide();
+    m_cancel->setText(tr("Close"));
+    m_cancel->updateGeometry();
+    say(reason);
 }
 
 void RestoreView::say(const QString& message)

@@ -31,6 +31,8 @@ protected:
 private:
     void build(const BackupFile& backup);
     void showDays();
+    /// Says why there is nothing to choose from.
+    void showNothing(const QString& reason);
     void say(const QString& message);
     void refreshButton();
     void restore();
@@ -39,6 +41,7 @@ private:
     QFutureWatcher<QList<DayDifference>> m_reading;
     RestoreModel* m_model = nullptr;
     QLabel* m_message;
+    QWidget* m_card = nullptr;
     RestoreTree* m_tree;
     Button* m_restore;
     Button* m_cancel;

@@ -97,6 +97,7 @@ TEST_F(DataSettingsTest, theChosenMonthsOfABackupAreRestoredAsOneStep)
     EXPECT_TRUE(waitFor(u"day"_s));
     click(restoreButton());
     EXPECT_TRUE(waitFor(u"There is nothing to restore."_s));
+    EXPECT_EQ(named<Button>(view, "cancel").text(), u"Close"_s);
     press(view, Qt::Key_Escape);
     EXPECT_TRUE(view.isVisible()) << "the key closes the page only";
     EXPECT_EQ(view.focusWidget(), &restoreButton());
