@@ -823,6 +823,10 @@
         <source>This is not a date. Type one like %1.</source>
         <translation>Das ist kein Datum. Geben Sie eines wie %1 ein.</translation>
     </message>
+    <message>
+        <source>The year must be between %1 and %2.</source>
+        <translation>Das Jahr muss zwischen %1 und %2 liegen.</translation>
+    </message>
 </context>
 <context>
     <name>DayAbsences</name>
@@ -3332,6 +3336,10 @@
     <message>
         <source>Restoring...</source>
         <translation>Wird wiederhergestellt …</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int firstDateYear = 2000;
+constexpr int lastDateYear = 2099;
+
 constexpr QDate exampleDate()
 {
     return QDate::fromJulianDay(2461406); // 31 December 2026: its numbers show which is the day, and which the year
@@ -37,7 +40,7 @@ QDate parsed(const QString& text)
     shortFormat.replace("yyyy"_L1, "yy"_L1);
     for (const QString& each : {format, shortFormat}) {
         QDate date = QLocale().toDate(text, each);
-        if (each == shortFormat && date.year() < 2000)
+        if (each == shortFormat && date.year() < firstDateYear)
             date = QLocale().toDate(text, each).addYears(100);
         if (date.isValid())
             return date;
@@ -58,7 +61,8 @@ DateField::DateField(const QString& name, QWidget* parent)
 std::optional<QDate> DateField::date() const
 {
     const QDate date = parsed(text().simplified());
-    return date.isValid() && date.year() >= 2000 && date.year() < 2100 ? std::optional(date) : std::nullopt;
+    return date.isValid() && firstDateYear <= date.year() && date.year() <= lastDateYear ? std::optional(date)
+                                                                                         : std::nullopt;
 }
 
 void DateField::setDate(QDate date)
@@ -66,7 +70,9 @@ void DateField::setDate(QDate date)
     setText(QLocale().toString(date, fullFormat()));
 }
 
-QString DateField::refusal()
+QString DateField::refusal() const
 {
+    if (parsed(text().simplified()).isValid())
+        return tr("The year must be between %1 and %2.").arg(firstDateYear).arg(lastDateYear);
     return tr("This is not a date. Type one like %1.").arg(QLocale().toString(exampleDate(), fullFormat()));
 }

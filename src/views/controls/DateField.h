@@ -20,6 +20,6 @@ public:
     [[nodiscard]] std::optional<QDate> date() const;
     void setDate(QDate date);
 
-    /// What to say about a text that is no date.
-    [[nodiscard]] static QString refusal();
+    /// What to say while date() returns nothing.
+    [[nodiscard]] QString refusal() const;
 };

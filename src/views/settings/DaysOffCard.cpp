@@ -169,7 +169,7 @@ void DaysOffCard::add()
 {
     const auto date = m_date->date();
     if (!date) {
-        showProblem(DateField::refusal());
+        showProblem(m_date->refusal());
         return;
     }
     if (!report(m_counting.addDaysOff({{.date = *date, .name = m_name->text().simplified()}})))

@@ -256,10 +256,10 @@ std::optional<RuleForm::Refusal> RuleForm::refusal() const
 std::optional<RuleForm::Refusal> RuleForm::refusalOfDates() const
 {
     if (span() == Span::TwoWeeks && !m_anchor->date())
-        return Refusal{m_anchor, DateField::refusal()};
+        return Refusal{m_anchor, m_anchor->refusal()};
     for (DateField* field : {m_from, m_until}) {
         if (isNoDate(*field))
-            return Refusal{field, DateField::refusal()};
+            return Refusal{field, field->refusal()};
     }
     if (m_from->date() && m_until->date() && *m_until->date() < *m_from->date())
         return Refusal{m_until, tr("The last day must not be before the first")};

@@ -107,7 +107,7 @@ void WorkWeeksCard::set()
     if (m_weekdays->weekdays().isEmpty())
         showProblem(tr("Choose at least one day of the week."));
     else if (!from)
-        showProblem(DateField::refusal());
+        showProblem(m_from->refusal());
     else if (report(m_counting.setWorkWeek({*from, m_weekdays->weekdays()})))
         announce(*this, weekText({*from, m_weekdays->weekdays()}));
 }

@@ -211,7 +211,7 @@ void RecordView::refresh()
 void RecordView::refuseDates()
 {
     DateField* wrong = m_from->date() ? m_until : m_from;
-    say(wrong->date() ? tr("The last day must not be before the first.") : DateField::refusal(), true);
+    say(wrong->date() ? tr("The last day must not be before the first.") : wrong->refusal(), true);
     wrong->setFocus(Qt::TabFocusReason);
     wrong->selectAll();
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ComboBox.h"
-#include "DateField.h"
 #include "GoalsPage.h"
 #include "RuleEditor.h"
 #include "ViewTest.h"
@@ -73,7 +72,8 @@ TEST_F(RulesTest, whatIsRefusedChangesNothing)
         {"ruleAmount", u"0"_s, number},
         {"ruleAmount", {}, number},
         {"ruleWeeks", u"54"_s, u"Weeks must be a whole number between 1 and 53"_s},
-        {"ruleFrom", u"32 Nov 2026"_s, DateField::refusal()},
+        {"ruleFrom", u"32 Nov 2026"_s, u"This is not a date. Type one like 31 Dec 2026."_s},
+        {"ruleFrom", u"1 Nov 1999"_s, u"The year must be between 2000 and 2099."_s},
         {"ruleUntil", u"1 Nov 2026"_s, u"The last day must not be before the first"_s},
     };
     for (const auto& [field, text, problem] : rows) {
