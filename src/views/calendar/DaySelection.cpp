@@ -111,6 +111,7 @@ void DaySelection::openMenu(QWidget& cell)
         drop();
         m_editor.setDays(dates, state, absenceKind);
     };
+    m_scroll.stop(); // if a key opens the menu of a drag
     auto* menu = new RangeMenu(m_parts, days, set, &cell);
     connect(menu, &RangeMenu::popoverRequested, this, &DaySelection::popoverRequested);
     menu->popUpBeside({cell.mapToGlobal(QPoint()), cell.size()});
@@ -144,6 +145,7 @@ bool DaySelection::eventFilter(QObject* watched, QEvent* event)
 void DaySelection::startDrag(QDate date, const QMouseEvent& event)
 {
     m_drag = {};
+    m_scroll.stop();
     if (event.button() != Qt::LeftButton) // the right one may open the menu of the selection
         return;
     drop();

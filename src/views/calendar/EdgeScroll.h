@@ -6,6 +6,7 @@
 #include <QTimer>
 
 class QScrollArea;
+class QWidget;
 
 /// Scrolls a page while the pointer drags at its upper or lower edge, until the widgets there are in sight.
 class EdgeScroll : public QObject {
