@@ -110,7 +110,8 @@ void PlanPopover::addGrid()
     m_weeks->viewport()->setAutoFillBackground(false);
     auto* days = new QVBoxLayout;
     days->setSpacing(0);
-    days->addWidget(new PlanHead(*m_grid));
+    m_head = new PlanHead(*m_grid);
+    days->addWidget(m_head);
     days->addWidget(m_weeks);
     column().addLayout(days);
     addButtons();
@@ -184,9 +185,14 @@ void PlanPopover::refresh()
 void PlanPopover::showLines(const QList<PlanSubject::Line>& lines)
 {
     while (m_lines.size() < lines.size()) {
-        m_lines.append(new RuleLine);
+        auto* line = new RuleLine;
+        const bool isFirst = m_lines.isEmpty();
         // The pace is that of the first one, and below it.
-        m_lineColumn->insertWidget(m_lines.size() == 1 ? 0 : -1, m_lines.last());
+        m_lineColumn->insertWidget(isFirst ? 0 : -1, line);
+        // Screen readers read in this order.
+        if (QWidget* next = isFirst ? static_cast<QWidget*>(m_pace) : m_head)
+            line->stackUnder(next);
+        m_lines.append(line);
     }
     for (qsizetype i = 0; i < m_lines.size(); ++i) {
         m_lines.at(i)->setVisible(i < lines.size());

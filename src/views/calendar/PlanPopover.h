@@ -10,6 +10,7 @@ class Button;
 class MarkedTextLabel;
 class Page;
 class PlanGrid;
+class PlanHead;
 class QLabel;
 class QVBoxLayout;
 class RuleLine;
@@ -52,6 +53,7 @@ private:
     QList<RuleLine*> m_lines;
     MarkedTextLabel* m_pace;
     PlanGrid* m_grid = nullptr;
+    PlanHead* m_head = nullptr;
     Page* m_weeks = nullptr;
     QLabel* m_problem;
     /// Nothing while there is no usual week.
