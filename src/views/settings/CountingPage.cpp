@@ -17,12 +17,12 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-CountingPage::CountingPage(CountingRecords& counting, const Clock& clock, QWidget* parent)
+CountingPage::CountingPage(CountingRecords& counting, const Clock& clock, ViewSettings& viewSettings, QWidget* parent)
     : QStackedWidget(parent)
     , m_counting(counting)
     , m_clock(clock)
     , m_usualWeek(new UsualWeekCard(counting))
-    , m_daysOff(new DaysOffCard(counting, clock))
+    , m_daysOff(new DaysOffCard(counting, clock, viewSettings))
 {
     m_cards = new Page(makeCards());
     addWidget(m_cards);

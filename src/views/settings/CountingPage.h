@@ -8,13 +8,14 @@
 class DaysOffReview;
 class Page;
 class UsualWeekCard;
+class ViewSettings;
 
 /// The page of the settings about how days count, or the review of days off that may be added.
 class CountingPage : public QStackedWidget {
     Q_OBJECT
 
 public:
-    CountingPage(CountingRecords& counting, const Clock& clock, QWidget* parent = nullptr);
+    CountingPage(CountingRecords& counting, const Clock& clock, ViewSettings& viewSettings, QWidget* parent = nullptr);
 
     /// Scrolls to the card of the usual week and gives it the focus.
     void showUsualWeek();

@@ -11,16 +11,18 @@
 #include "HolidayChooser.h"
 #include "IconButton.h"
 #include "Labels.h"
+#include "ViewSettings.h"
 
 #include <QFileDialog>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-DaysOffCard::DaysOffCard(CountingRecords& counting, const Clock& clock, QWidget* parent)
+DaysOffCard::DaysOffCard(CountingRecords& counting, const Clock& clock, ViewSettings& viewSettings, QWidget* parent)
     : CountingCard(tr("Days Off"), tr("A day off is not a workday, whatever its day of the week."), parent)
     , m_counting(counting)
     , m_clock(clock)
+    , m_viewSettings(viewSettings)
     , m_region(labels::text({}))
     , m_chooseHolidays(new Button({}))
     , m_removeRegion(new Button(tr("Remove", "public holidays")))
@@ -91,7 +93,11 @@ void DaysOffCard::addList()
     column().addWidget(m_tree);
     column().addWidget(m_takeOut);
     connect(m_tree, &DaysOffTree::selectedChanged, this, &DaysOffCard::refreshButton);
-    connect(m_tree, &DaysOffTree::removalRequested, this, &DaysOffCard::remove);
+    connect(m_tree, &DaysOffTree::removalRequested, this, [this] {
+        remove();
+        if (m_tree->hasFocus())
+            m_tree->selectCurrent(); // the neighbour, from which keys go on
+    });
     connect(m_takeOut, &QAbstractButton::clicked, this, &DaysOffCard::remove);
 }
 
@@ -191,8 +197,6 @@ void DaysOffCard::remove()
     showMessage(counting_texts::changed(0, dates.size()));
     if (m_tree->isHidden())
         m_date->setFocus(Qt::TabFocusReason);
-    else if (m_tree->hasFocus())
-        m_tree->selectCurrent(); // the neighbour, from which keys go on
 }
 
 void DaysOffCard::removeRegion()
@@ -208,11 +212,14 @@ void DaysOffCard::removeRegion()
 
 void DaysOffCard::chooseFile()
 {
-    auto* dialog = new QFileDialog(this, tr("Choose a Calendar File"));
+    auto* dialog = new QFileDialog(this, tr("Choose a Calendar File"), m_viewSettings.folderForFiles());
     dialog->setObjectName("calendarFile"_L1);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({tr("Calendar files (*.ics)"), tr("All files (*)")});
-    connect(dialog, &QFileDialog::fileSelected, this, &DaysOffCard::fileChosen);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
+        m_viewSettings.lastFolder = QFileInfo(path).absolutePath();
+        Q_EMIT fileChosen(path);
+    });
     dialog->open();
 }

@@ -12,13 +12,14 @@ class CountingRecords;
 class DateField;
 class DaysOffTree;
 class QLineEdit;
+class ViewSettings;
 
 /// The days off, and where more of them come from.
 class DaysOffCard : public CountingCard {
     Q_OBJECT
 
 public:
-    DaysOffCard(CountingRecords& counting, const Clock& clock, QWidget* parent = nullptr);
+    DaysOffCard(CountingRecords& counting, const Clock& clock, ViewSettings& viewSettings, QWidget* parent = nullptr);
 
     /// Where a person goes on after a review, which began with the holidays or with a file.
     enum class Origin { Holidays, File };
@@ -46,6 +47,7 @@ private:
 
     CountingRecords& m_counting;
     const Clock& m_clock;
+    ViewSettings& m_viewSettings;
     DaysOffModel m_model{false};
     QLabel* m_region;
     Button* m_chooseHolidays;

@@ -51,7 +51,7 @@ SettingsView::SettingsView(const SettingsParts& parts, QWidget* parent)
           [parts] {
               return new GoalsPage(parts.settings, parts.counting, parts.context, parts.clock, parts.viewSettings);
           },
-          [parts] { return new CountingPage(parts.counting, parts.clock); },
+          [parts] { return new CountingPage(parts.counting, parts.clock, parts.viewSettings); },
           [parts] {
               return makeCardPage(
                   new SsidSettingsView(parts.settings, parts.wifiClient, parts.locationManager, parts.check, true));
