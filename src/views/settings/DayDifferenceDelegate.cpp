@@ -64,15 +64,14 @@ QSize DayDifferenceDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, co
 
 void DayDifferenceDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    QStyleOptionViewItem row = option;
-    row.state.setFlag(QStyle::State_HasFocus, false);
-    // The style draws the border of a check box in a darker shade of it, which would not be seen on a dark card.
-    row.palette.setColor(QPalette::Window, themeFor(option.palette).controlBorder.lighter(127));
     painter->save();
-    if (index.data(RestoreModel::differenceRole).isValid())
-        paintDay(*painter, row, index);
-    else
+    if (index.data(RestoreModel::differenceRole).isValid()) {
+        paintDay(*painter, option, index);
+    } else {
+        QStyleOptionViewItem row = PlainTree::withVisibleBox(option);
+        row.state.setFlag(QStyle::State_HasFocus, false);
         QStyledItemDelegate::paint(painter, row, index);
+    }
     PlainTree::drawRing(*painter, option);
     painter->restore();
 }

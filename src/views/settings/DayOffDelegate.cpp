@@ -58,7 +58,7 @@ void DayOffDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
 void DayOffDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     painter->save();
-    QStyledItemDelegate::paint(painter, option, index);
+    QStyledItemDelegate::paint(painter, PlainTree::withVisibleBox(option), index);
     if (const ListedDayOff* listed = dayOffAt(index)) {
         QStyleOptionViewItem row = option;
         initStyleOption(&row, index);

@@ -40,6 +40,13 @@ void PlainTree::drawRing(QPainter& painter, const QStyleOptionViewItem& row)
     painter.drawRoundedRect(QRectF(ring).adjusted(1, 1, -1, -1), ringRadius, ringRadius);
 }
 
+// The style draws the border of a check box in a darker shade of the window.
+QStyleOptionViewItem PlainTree::withVisibleBox(QStyleOptionViewItem row)
+{
+    row.palette.setColor(QPalette::Window, themeFor(row.palette).controlBorder.lighter(127));
+    return row;
+}
+
 void PlainTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     // Of a tree, some versions of Qt report the current row to screen readers wherever the focus is.

@@ -12,6 +12,8 @@ public:
 
     /// Draws the focus ring of a row, as on buttons. For delegates, which keep the style from drawing its own.
     static void drawRing(QPainter& painter, const QStyleOptionViewItem& row);
+    /// A row for the style to draw, with a check box that is seen on a dark card.
+    [[nodiscard]] static QStyleOptionViewItem withVisibleBox(QStyleOptionViewItem row);
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
