@@ -147,7 +147,7 @@ bool DaysOffModel::setData(const QModelIndex& index, const QVariant& value, int 
         m_days[i].isChecked = value.toInt() == Qt::Checked;
     // The row of the year depends on those of its days, and the other way round.
     const QModelIndex yearRow = isYear ? index : index.parent();
-    Q_EMIT dataChanged(yearRow, yearRow, {Qt::CheckStateRole});
+    Q_EMIT dataChanged(yearRow, yearRow, {Qt::CheckStateRole, Qt::DisplayRole, Qt::AccessibleTextRole});
     Q_EMIT dataChanged(this->index(0, 0, yearRow), this->index(rowCount(yearRow) - 1, 0, yearRow),
                        {Qt::CheckStateRole});
     Q_EMIT checkedChanged();

@@ -44,7 +44,7 @@ void DaysOffReview::build(const QString& heading)
     column->addLayout(m_head);
     column->addWidget(m_message);
     m_tree->setObjectName("reviewedDays"_L1);
-    m_tree->setAccessibleName(tr("Dates that can be added"));
+    m_tree->setAccessibleName(tr("Days off to choose"));
     m_tree->setSelectionMode(QAbstractItemView::NoSelection);
     m_tree->setExpandsOnDoubleClick(false);
     auto* card = Card::around(m_tree);

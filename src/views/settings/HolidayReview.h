@@ -19,7 +19,7 @@ protected:
 
 private:
     void showHolidays();
-    /// The holidays of the region before that are taken out, since they are not among those that are shown.
+    /// The holidays of the previous region that are not among those shown, so they are taken out.
     [[nodiscard]] QList<ListedDayOff> holidaysThatGo(const QList<ListedDayOff>& shown, const QList<DayOff>& present);
     [[nodiscard]] ListedDayOff listed(DayOff holiday, const QList<DayOff>& present, bool wasAdded);
 

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A rule that has no name of its own is called as it reads, apart from its dates.
+// A rule without a name of its own is named after its summary, without the dates.
 QString withoutName(const QString& summary, const QString& name)
 {
     const QString separator = u", "_s;
