@@ -19,8 +19,8 @@ MarkedText withNumber(const QString& ofOne, const QString& ofSeveral, qint64 num
 
 MarkedText tooManyText(qint64 days)
 {
-    return withNumber(PlanTexts::tr("**1** day more is planned than allowed"),
-                      PlanTexts::tr("**%1** days more are planned than allowed"), days);
+    return withNumber(PlanTexts::tr("**1** more day is planned than allowed"),
+                      PlanTexts::tr("**%1** more days are planned than allowed"), days);
 }
 
 MarkedText limitText(const RuleProgress& progress)
@@ -94,7 +94,7 @@ MarkedText planText(const AttendanceRule& rule, const RuleProgress& progress, co
     if (pace.daysToPlan == 0 || progress.planned == 0)
         return progress.planned > 0 ? markedText(PlanTexts::tr("The planned days are enough"), {})
                                     : markedText(PlanTexts::tr("No more days are needed"), {});
-    return withNumber(PlanTexts::tr("**1** day more is planned than needed"),
-                      PlanTexts::tr("**%1** days more are planned than needed"),
+    return withNumber(PlanTexts::tr("**1** more day is planned than needed"),
+                      PlanTexts::tr("**%1** more days are planned than needed"),
                       std::min(-pace.daysToPlan, progress.planned));
 }

@@ -72,6 +72,8 @@ struct RuleProgress {
 
     /// At least: what is still needed, without the planned days. At most: what is still allowed, negative if too many.
     [[nodiscard]] qint64 remaining() const { return wanted - counted; }
+    /// Whether the rule asks for nothing, because its span has no workdays.
+    [[nodiscard]] bool hasNoWorkdays() const { return wanted == 0 && workdays == 0 && missedBy == 0; }
 
     bool operator==(const RuleProgress&) const = default;
 };

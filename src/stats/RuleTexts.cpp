@@ -49,13 +49,13 @@ QString noWorkdaysText(Weekdays weekdays)
     return RuleTexts::tr("Cannot be reached: none of the days is a workday");
 }
 
-// Of a span that had too few workdays from the start, it says so.
+// Says so if there are too few workdays, among which leave may not be counted.
 QString unreachableText(const AttendanceRule& rule, const RuleProgress& progress)
 {
     const QStringList numbers{QString::number(progress.workdays), QString::number(progress.missedBy)};
-    if (progress.workdays == 0)
+    if (progress.workdays == 0 && progress.counted == 0)
         return noWorkdaysText(rule.weekdays);
-    if (progress.workdays >= progress.wanted)
+    if (progress.workdays == 0 || progress.workdays >= progress.wanted)
         return RuleTexts::tr("Cannot be reached any more (%1 short)").arg(numbers[1]);
     return progress.workdays == 1
                ? RuleTexts::tr("Cannot be reached: only 1 workday (%1 short)").arg(numbers[1])
@@ -96,7 +96,7 @@ QString ruleCountText(const AttendanceRule& rule, const RuleProgress& progress)
 QString ruleOutlookText(const AttendanceRule& rule, const RuleProgress& progress, QDate today)
 {
     const bool isOver = progress.span.last < today;
-    if (progress.wanted == 0 && progress.workdays == 0 && progress.missedBy == 0)
+    if (progress.hasNoWorkdays())
         return RuleTexts::tr("No workdays in this period");
     if (isAtMost(rule))
         return allowedText(progress, isOver);

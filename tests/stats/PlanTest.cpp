@@ -37,10 +37,10 @@ TEST(Plan, saysWhatAGoalStillNeedsAsItsTrackerDoes)
         {5, {23, 24}, "**2** of the **5** free workdays left: about **1** a week"},
         {5, {20, 30, 28}, "**1** of the **5** free workdays left"},
         {5, {23, 24, 25, 26}, "The planned days are enough"},
-        {5, {23, 24, 25, 26, 27}, "**1** day more is planned than needed"},
+        {5, {23, 24, 25, 26, 27}, "**1** more day is planned than needed"},
         {8, {}, "**1** of the **7** free workdays left: about **1** a week"},
         {9, {}, "No more days are needed"},
-        {10, {24}, "**1** day more is planned than needed"},
+        {10, {24}, "**1** more day is planned than needed"},
         {1, {23}, "Even with all **7** workdays left it is **1** short"},
     };
     const auto goal = Goal::create(u"2"_s, {});
@@ -78,7 +78,7 @@ TEST(Plan, saysWhatARuleStillNeedsOrAllows)
         {fridays, {}, on(30).addDays(1), ""},
         {atMost, {20}, today, "No more days are allowed besides the planned ones"},
         {atMost, {}, today, "**1** more day is allowed"},
-        {atMost, {20, 23, 24}, today, "**2** days more are planned than allowed"},
+        {atMost, {20, 23, 24}, today, "**2** more days are planned than allowed"},
         {outside, {}, today, "**5** of the **7** workdays left may be out of office"},
         {outside, {}, on(28), ""},
         {abroad, {}, today, ""},

@@ -73,11 +73,13 @@ RuleLine::Contents RuleLine::contentsOf(const AttendanceRule& rule, const RulePr
         const auto wanted = static_cast<double>(progress.wanted);
         return wanted > 0.0 ? std::clamp(static_cast<double>(days) / wanted, 0.0, 1.0) : 0.0;
     };
-    const bool isDone = progress.wanted == 0 && (rule.bound == AttendanceRule::Bound::AtLeast || progress.counted > 0);
+    const bool isEmpty = progress.hasNoWorkdays();
+    const bool isDone =
+        !isEmpty && progress.wanted == 0 && (rule.bound == AttendanceRule::Bound::AtLeast || progress.counted > 0);
     return {.name = rule.name,
             .count = ruleCountText(rule, progress),
             .outlook = ruleOutlookText(rule, progress, today),
-            .verdict = progress.verdict,
+            .verdict = isEmpty ? RuleProgress::Verdict::Open : progress.verdict,
             .progress = isDone ? 1.0 : fraction(progress.counted),
             .prediction = fraction(progress.counted + progress.planned)};
 }
