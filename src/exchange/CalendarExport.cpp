@@ -67,7 +67,7 @@ QByteArray calendarFile(const QList<DayRecord>& days, const QSet<DayState>& stat
         addLine(file, "LAST-MODIFIED:" + time);
         addLine(file, "SEQUENCE:" + sequence);
         addLine(file, "DTSTART;VALUE=DATE:" + dateText(day.date));
-        // Without an end it lasts one day too, and no file can name the year 10000.
+        // Without an end it lasts one day too. The format has no year 10000.
         if (day.date.addDays(1).year() <= lastYear)
             addLine(file, "DTEND;VALUE=DATE:" + dateText(day.date.addDays(1)));
         addLine(file, "SUMMARY:" + escapedText(description(day.state)));

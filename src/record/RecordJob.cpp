@@ -16,8 +16,8 @@ namespace {
 /// Less than this is not enough for any record.
 constexpr qint64 leastSpace = 1 << 20;
 
-/// Whether something is there of which a file would take the place.
-bool isNoFile(const QString& path)
+/// Whether the path is that of a folder or a device, which the record would replace.
+bool isFolderOrDevice(const QString& path)
 {
     const QFileInfo present(path);
     return present.exists() && !present.isFile();
@@ -28,8 +28,8 @@ QString problemOf(const QSaveFile& file)
     const QString folder = QFileInfo(file.fileName()).absolutePath();
     if (!QFileInfo(folder).isDir())
         return RecordJob::tr("The folder is not there any more. Choose another one.");
-    if (isNoFile(file.fileName()))
-        return RecordJob::tr("There is a folder or a device of this name. Choose another name.");
+    if (isFolderOrDevice(file.fileName()))
+        return RecordJob::tr("There is already a folder or a device with this name. Choose another name.");
     if (file.error() == QFileDevice::OpenError || file.error() == QFileDevice::PermissionsError) {
         if (!QFileInfo(folder).isWritable() || QFileInfo(file.fileName()).exists())
             return RecordJob::tr("Pellory may not write there. Choose another folder or name.");
@@ -56,7 +56,7 @@ void RecordJob::start(const RecordContents& contents, const RecordForm& form, co
                 this, [this, outcome, reason] { end(outcome, reason); }, Qt::QueuedConnection);
         };
         QSaveFile file(path);
-        if (isNoFile(path) || !file.open(QIODevice::WriteOnly))
+        if (isFolderOrDevice(path) || !file.open(QIODevice::WriteOnly))
             return report(Outcome::Failed, problemOf(file));
         int told = 0;
         const auto progress = [&](int percent) {

@@ -49,7 +49,7 @@ std::unique_ptr<CommandTarget> targetFor(const StoredData::Place& place)
         writeFile(path, contents);
         return EXIT_SUCCESS;
     } catch (const FileError& error) {
-        return fail(error.description());
+        return fail(u"%1: %2"_s.arg(path, error.description()));
     }
 }
 

@@ -175,7 +175,7 @@ TEST_F(RecordTest, whatGoesWrongLeavesTheFileThatWasThere)
     EXPECT_THAT(outcome(folder.filePath(u"gone/a.pdf"_s)).toStdString(), HasSubstr("The folder is not there"));
     const QString pipe = folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_THAT(outcome(pipe).toStdString(), HasSubstr("There is a folder or a device"));
+    EXPECT_THAT(outcome(pipe).toStdString(), HasSubstr("There is already a folder or a device"));
     EXPECT_EQ(outcome(old, [](RecordJob& job) { job.stop(); }), u"stopped"_s);
     {
         // A disk that takes no more.
