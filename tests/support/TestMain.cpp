@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QCoreApplication>
-#include <QLocale>
+#include "Testing.h"
 
-#include <gmock/gmock.h>
+#include <QCoreApplication>
 
 // No outcome may depend on the language or the place of the machine.
 int main(int argc, char** argv)
 {
     qputenv("TZ", "UTC");
-    QLocale::setDefault(QLocale::c());
+    QLocale::setDefault(testLocale());
     testing::InitGoogleMock(&argc, argv);
     const QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -23,11 +23,19 @@ inline void PrintTo(const QString& string, std::ostream* out) // NOLINT(readabil
     *out << '"' << string.toStdString() << '"';
 }
 
+/// The locale of the tests. Its formats are the same in all versions of Qt, unlike those of the C locale.
+[[nodiscard]] inline QLocale testLocale()
+{
+    QLocale locale(QLocale::English, QLocale::UnitedKingdom);
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
+
 /// Puts another locale in the place of the tests' own for a scope.
 [[nodiscard]] inline auto scopedLocale(const QLocale& locale)
 {
     QLocale::setDefault(locale);
-    return qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+    return qScopeGuard([] { QLocale::setDefault(testLocale()); });
 }
 
 /// Root may write everywhere: while this lives, a process of root has the rights of an ordinary user.

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Accessibility.h"
+#include "Testing.h"
 #include "Theme.h"
 
 #include <QApplication>
-#include <QLocale>
-
-#include <gmock/gmock.h>
 
 #include <ctime>
-
-using namespace Qt::StringLiterals;
 
 // No outcome may depend on the language, the place or the display of the machine.
 int main(int argc, char** argv)
@@ -17,7 +13,7 @@ int main(int argc, char** argv)
     qputenv("TZ", "UTC");
     tzset();
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLocale::setDefault(QLocale::c());
+    QLocale::setDefault(testLocale());
     testing::InitGoogleMock(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setStyle(u"Fusion"_s);

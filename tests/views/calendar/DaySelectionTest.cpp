@@ -126,8 +126,9 @@ TEST_F(DaySelectionTest, draggingAtAnEdgeScrolls)
     area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
     QTest::mousePress(area.windowHandle(), Qt::LeftButton, {}, place(12, 7));
     const QPoint top(place(12, 7).x(), -80);
-    moveTo(area, top);
     const auto* october = page->findChild<CalendarView*>();
+    ASSERT_LT(october->mapTo(&area, QPoint()).y(), 0);
+    moveTo(area, top);
     EXPECT_TRUE(eventually([&] { return october->mapTo(&area, QPoint()).y() >= 0; }));
     QTest::mouseRelease(area.windowHandle(), Qt::LeftButton, {}, top);
     EXPECT_EQ(QApplication::activePopupWidget()->accessibleName(), u"Set 48 Workdays"_s);
@@ -166,7 +167,9 @@ TEST_F(DaySelectionTest, draggingSelectsDaysAndReleasingOpensTheMenu)
     for (const auto& [hit, title] : {std::pair(friday, u"Set 5 Workdays"_s), {last, u"&Unknown"_s}}) {
         drag({monday, friday}, nothing);
         press(Key_Escape); // closes the menu
+        QCursor::setPos(page->mapToGlobal(hit));
         QTest::mouseClick(page->windowHandle(), Qt::RightButton, {}, hit);
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
         EXPECT_EQ(qobject_cast<QMenu*>(QApplication::activePopupWidget())->actions().first()->text(), title);
         press(Key_Escape);
     }

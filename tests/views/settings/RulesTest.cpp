@@ -72,14 +72,14 @@ TEST_F(RulesTest, whatIsRefusedChangesNothing)
         {"ruleAmount", u"0"_s, number},
         {"ruleAmount", {}, number},
         {"ruleWeeks", u"54"_s, u"Weeks must be a whole number between 1 and 53"_s},
-        {"ruleFrom", u"32 Nov 2026"_s, u"This is not a date. Type one like 31 Dec 2026."_s},
-        {"ruleFrom", u"1 Nov 1999"_s, u"The year must be between 2000 and 2099."_s},
-        {"ruleUntil", u"1 Nov 2026"_s, u"The last day must not be before the first"_s},
+        {"ruleFrom", u"32/11/2026"_s, u"This is not a date. Type one like 31/12/2026."_s},
+        {"ruleFrom", u"1/11/1999"_s, u"The year must be between 2000 and 2099."_s},
+        {"ruleUntil", u"1/11/2026"_s, u"The last day must not be before the first"_s},
     };
     for (const auto& [field, text, problem] : rows) {
         type("ruleAmount", u"3"_s);
         type("ruleWeeks", u"8"_s);
-        type("ruleFrom", u"2 Nov 2026"_s);
+        type("ruleFrom", u"2/11/2026"_s);
         type(field, text);
         EXPECT_EQ(named<QLabel>(page, "ruleProblem").text(), problem) << field << ' ' << qPrintable(text);
         click(button("saveRule"));
@@ -91,7 +91,7 @@ TEST_F(RulesTest, whatIsRefusedChangesNothing)
     EXPECT_EQ(rules(), before);
 }
 
-TEST_F(RulesTest, aChangeHoldsSinceTodayOrAlways)
+TEST_F(RulesTest, aChangeHoldsFromTodayOrAlways)
 {
     counting.addRule({.name = u"Three"_s});
     edit();
