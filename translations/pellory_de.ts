@@ -1130,10 +1130,6 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Dates that can be added</source>
-        <translation>Tage, die hinzugefügt werden können</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -1163,6 +1159,10 @@
             <numerusform>%n freien Tag streichen</numerusform>
             <numerusform>%n freie Tage streichen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Days off to choose</source>
+        <translation>Freie Tage zur Auswahl</translation>
     </message>
 </context>
 <context>
@@ -2129,14 +2129,6 @@
 <context>
     <name>PlanTexts</name>
     <message>
-        <source>**1** day more is planned than allowed</source>
-        <translation>**1** Tag mehr geplant als erlaubt</translation>
-    </message>
-    <message>
-        <source>**%1** days more are planned than allowed</source>
-        <translation>**%1** Tage mehr geplant als erlaubt</translation>
-    </message>
-    <message>
         <source>No workday is left to plan</source>
         <translation>Kein Arbeitstag ist mehr zu planen</translation>
     </message>
@@ -2175,14 +2167,6 @@
         <translation>Weitere Tage sind nicht nötig</translation>
     </message>
     <message>
-        <source>**1** day more is planned than needed</source>
-        <translation>**1** Tag mehr geplant als nötig</translation>
-    </message>
-    <message>
-        <source>**%1** days more are planned than needed</source>
-        <translation>**%1** Tage mehr geplant als nötig</translation>
-    </message>
-    <message>
         <source>None of the workdays left may be out of office</source>
         <translation>Keiner der übrigen Arbeitstage darf außerhalb des Büros sein</translation>
     </message>
@@ -2213,6 +2197,22 @@
     <message>
         <source>**%1** more days are allowed besides the planned ones</source>
         <translation>Neben den geplanten sind noch **%1** Tage erlaubt</translation>
+    </message>
+    <message>
+        <source>**1** more day is planned than allowed</source>
+        <translation>**1** Tag mehr geplant als erlaubt</translation>
+    </message>
+    <message>
+        <source>**%1** more days are planned than allowed</source>
+        <translation>**%1** Tage mehr geplant als erlaubt</translation>
+    </message>
+    <message>
+        <source>**1** more day is planned than needed</source>
+        <translation>**1** Tag mehr geplant als nötig</translation>
+    </message>
+    <message>
+        <source>**%1** more days are planned than needed</source>
+        <translation>**%1** Tage mehr geplant als nötig</translation>
     </message>
 </context>
 <context>
@@ -2824,7 +2824,7 @@
         <translation>Der Datenträger hat die Datei nicht angenommen. Wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>There is a folder or a device of this name. Choose another name.</source>
+        <source>There is already a folder or a device with this name. Choose another name.</source>
         <translation>Unter diesem Namen gibt es schon einen Ordner oder ein Gerät. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
