@@ -258,6 +258,9 @@ void showOtherPeriods(benchmark::State& state, int tab, QSize size, qsizetype ru
     }
     if (counter.paints < state.iterations())
         state.SkipWithError("a period was shown without being painted");
+    // The sample is that of the other benchmarks too.
+    for (const AttendanceRule& rule : QList(parts.counting.rules().value()))
+        parts.counting.removeRule(rule.id);
 }
 
 constexpr QSize usualWindow(534, 860);
