@@ -8,10 +8,10 @@
 #include "CountingTexts.h"
 #include "DateField.h"
 #include "DaysOffTree.h"
+#include "FileDialog.h"
 #include "HolidayChooser.h"
 #include "IconButton.h"
 #include "Labels.h"
-#include "ViewSettings.h"
 
 #include <QFileDialog>
 #include <QVBoxLayout>
@@ -212,14 +212,9 @@ void DaysOffCard::removeRegion()
 
 void DaysOffCard::chooseFile()
 {
-    auto* dialog = new QFileDialog(this, tr("Choose a Calendar File"), m_viewSettings.folderForFiles());
-    dialog->setObjectName("calendarFile"_L1);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({tr("Calendar files (*.ics)"), tr("All files (*)")});
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
-        m_viewSettings.lastFolder = QFileInfo(path).absolutePath();
-        Q_EMIT fileChosen(path);
-    });
-    dialog->open();
+    QFileDialog& dialog = makeFileDialog("calendarFile", tr("Choose a Calendar File"), m_viewSettings, this);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters({tr("Calendar files (*.ics)"), tr("All files (*)")});
+    connect(&dialog, &QFileDialog::fileSelected, this, &DaysOffCard::fileChosen);
+    dialog.open();
 }

@@ -10,11 +10,11 @@
 #include "DayRecords.h"
 #include "DaysCsv.h"
 #include "FileBytes.h"
+#include "FileDialog.h"
 #include "FileError.h"
 #include "Labels.h"
 #include "StoreError.h"
 #include "Switch.h"
-#include "ViewSettings.h"
 
 #include <QFileDialog>
 #include <QVBoxLayout>
@@ -124,7 +124,7 @@ void ExchangeCard::focusImport()
 
 void ExchangeCard::chooseImport()
 {
-    QFileDialog& dialog = makeDialog("importFile", tr("Choose a List of Days"));
+    QFileDialog& dialog = makeFileDialog("importFile", tr("Choose a List of Days"), m_viewSettings, this);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({tr("Lists of days (*.csv *.tsv *.txt)"), tr("All files (*)")});
     connect(&dialog, &QFileDialog::fileSelected, this, &ExchangeCard::importRequested);
@@ -146,23 +146,13 @@ void ExchangeCard::chooseCalendarPlace()
 
 void ExchangeCard::choosePlace(const QString& title, const QString& name, const QString& filter, const Export& write)
 {
-    QFileDialog& dialog = makeDialog("exportFile", title);
+    QFileDialog& dialog = makeFileDialog("exportFile", title, m_viewSettings, this);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({filter, tr("All files (*)")});
     dialog.setDefaultSuffix(QFileInfo(name).suffix());
     dialog.selectFile(name);
     connect(&dialog, &QFileDialog::fileSelected, this, write);
     dialog.open();
-}
-
-QFileDialog& ExchangeCard::makeDialog(const char* name, const QString& title)
-{
-    auto* dialog = new QFileDialog(this, title, m_viewSettings.folderForFiles());
-    dialog->setObjectName(QLatin1StringView(name));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QFileDialog::fileSelected, this,
-            [this](const QString& path) { m_viewSettings.lastFolder = QFileInfo(path).absolutePath(); });
-    return *dialog;
 }
 
 void ExchangeCard::writeList(const QString& path)

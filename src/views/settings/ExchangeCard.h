@@ -12,7 +12,6 @@
 class Button;
 class Clock;
 class DayMarker;
-class QFileDialog;
 class QLabel;
 class QVBoxLayout;
 class Switch;
@@ -42,8 +41,6 @@ private:
     void chooseCalendarPlace();
     using Export = std::function<void(const QString& path)>;
     void choosePlace(const QString& title, const QString& name, const QString& filter, const Export& write);
-    /// A dialog that starts where the last file was.
-    [[nodiscard]] QFileDialog& makeDialog(const char* name, const QString& title);
     void writeList(const QString& path);
     void writeCalendar(const QString& path);
     void write(const QString& path, const QByteArray& bytes, qsizetype days);

@@ -6,6 +6,7 @@
 #include "Clock.h"
 #include "ComboBox.h"
 #include "DateField.h"
+#include "FileDialog.h"
 #include "FormRows.h"
 #include "Labels.h"
 #include "RecordContents.h"
@@ -222,18 +223,13 @@ void RecordView::chooseFile()
     if (!chosen)
         return refuseDates();
     const QString suffix = isPdf() ? u"pdf"_s : u"csv"_s;
-    auto* dialog = new QFileDialog(this, tr("Save Record"), m_parts.viewSettings.folderForFiles());
-    dialog->setObjectName("recordFile"_L1);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(suffix);
-    dialog->setNameFilter(isPdf() ? tr("PDF files (*.pdf)") : tr("CSV files (*.csv)"));
-    dialog->selectFile(record_texts::fileName(*chosen) + u'.' + suffix);
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
-        m_parts.viewSettings.lastFolder = QFileInfo(path).absolutePath();
-        saveTo(path);
-    });
-    dialog->open();
+    QFileDialog& dialog = makeFileDialog("recordFile", tr("Save Record"), m_parts.viewSettings, this);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.setNameFilter(isPdf() ? tr("PDF files (*.pdf)") : tr("CSV files (*.csv)"));
+    dialog.selectFile(record_texts::fileName(*chosen) + u'.' + suffix);
+    connect(&dialog, &QFileDialog::fileSelected, this, &RecordView::saveTo);
+    dialog.open();
 }
 
 void RecordView::saveTo(const QString& path)
