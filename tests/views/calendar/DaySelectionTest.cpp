@@ -131,6 +131,7 @@ TEST_F(DaySelectionTest, draggingAtAnEdgeScrolls)
     moveTo(area, top);
     EXPECT_TRUE(eventually([&] { return october->mapTo(&area, QPoint()).y() >= 0; }));
     QTest::mouseRelease(area.windowHandle(), Qt::LeftButton, {}, top);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(QApplication::activePopupWidget()->accessibleName(), u"Set 48 Workdays"_s);
     press(Key_Escape);
     area.takeWidget();

@@ -16,6 +16,8 @@
 #include <QMenu>
 #include <QSignalSpy>
 
+#include <algorithm>
+
 class PlanTest : public ViewTest {
 protected:
     PlanTest()
@@ -111,12 +113,15 @@ TEST_F(PlanTest, namesTheMonthsOfAQuarter)
     click(*window->findChildren<QLabel*>("goal"_L1).last());
     const auto top = [](const QWidget& widget) { return widget.mapTo(&plan(), QPoint()).y(); };
     const auto lines = plan().findChildren<RuleLine*>();
-    const auto& paceLabel = named<QLabel>(plan(), "pace");
+    auto& paceLabel = named<QLabel>(plan(), "pace");
     EXPECT_TRUE(top(*lines.at(0)) < top(paceLabel) && top(paceLabel) < top(*lines.at(1))) << "it is about the first";
     EXPECT_EQ(shownTexts(plan()).filter(u"ember"_s).mid(1), (QStringList{u"November"_s, u"December"_s}));
     // The heads stay above the weeks that are scrolled.
     auto& head = *plan().findChild<PlanHead*>();
     EXPECT_FALSE(plan().findChild<Page*>()->isAncestorOf(&head));
+    const auto place = [](const QWidget* widget) { return widget->parent()->children().indexOf(widget); };
+    EXPECT_TRUE(std::ranges::is_sorted(QList<QWidget*>{lines.at(0), &paceLabel, lines.at(1), &head}, {}, place))
+        << "as a screen reader reads it";
     const PlanGrid::Column tuesday = plan().findChild<PlanGrid*>()->columns().at(2);
     EXPECT_EQ(tuesday.name, u"Tue"_s);
     EXPECT_EQ(head.mapTo(&plan(), QPoint(tuesday.centre, 0)).x(),
